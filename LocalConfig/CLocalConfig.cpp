@@ -1,0 +1,595 @@
+#include "CLocalConfig.h"
+#include "ui_CLocalConfig.h"
+
+#include "CScopedDisconnect.h"
+#include "CSkinIconEngine.h"
+#include "SectionIndex.h"
+#include "SkinStyle.h"
+#include "pages/ConfigPages.h"
+#include "pages/IConfigPage.h"
+
+#include <KvGui/KvHorScrollBar.h>
+#include <KvGui/KvMessageNotify.h>
+#include <KvGui/KvVerScrollBar.h>
+#include <LocalConfig/interfaces/ILocalConfig.h>
+#include <UICommonModule/CErrorCode.h>
+#include <UICommonModule/Pxa.h>
+
+#include <QApplication>
+#include <QDesktopWidget>
+#include <QScrollBar>
+#include <QStyle>
+#include <QTimer>
+
+namespace LocalConfig
+{
+
+using namespace LocalConfigLogical;
+
+namespace
+{
+
+constexpr int g_nLowDesktopHeight = 769; // pixels; below it the natural dialog would not fit
+constexpr int g_nLowDialogHeight = 680;
+constexpr int g_nScrollBand = 40;   // pixels either side of a box's top in which scrolling selects the box
+constexpr int g_nScrollMargin = 20; // pixels above a box that the navigation list has scrolled to
+constexpr int g_nAdjustDelay = 50;  // milliseconds
+constexpr int g_nRightTvWall = 26;
+constexpr int g_nRightAlarm = 45;
+constexpr int g_nSaved = 1;
+constexpr int g_nKeepInput = -2;
+
+// The skins keep the pictures of one entry in two folders.
+constexpr char g_szPublic[] = "public";
+constexpr char g_szModule[] = "LocalConfig";
+
+struct SSection
+{
+    CGroupBox* Ui::CLocalConfig::*pBox;
+    QHBoxLayout* Ui::CLocalConfig::*pLayout;
+    const char* pszText;
+    const char* pszIcon;
+    const char* pszNormalFolder;
+    const char* pszHoverFolder;
+    const char* pszPressedFolder;
+    const char* pszPage;
+    SectionType eType;
+};
+
+using Form = Ui::CLocalConfig;
+
+// By navigation index.
+constexpr SSection g_arrSections[SectionCount] = {
+    {&Form::m_gBBasic, &Form::horizontalLayout_2, QT_TRANSLATE_NOOP("CLocalConfig", "Basic"), "general", g_szPublic,
+     g_szPublic, g_szPublic, "m_pBasic", SectionBasic},
+    {&Form::m_gBVideo, &Form::horizontalLayout_3, QT_TRANSLATE_NOOP("CLocalConfig", "Video"), "video", g_szModule,
+     g_szModule, g_szModule, "m_pVideo", SectionVideo},
+    {&Form::m_gBPlayback, &Form::horizontalLayout_4, QT_TRANSLATE_NOOP("CLocalConfig", "Record Playback"), "playback",
+     g_szPublic, g_szPublic, g_szModule, "m_pPlayback", SectionPlayback},
+    {&Form::m_gBCapture, &Form::horizontalLayout_5, QT_TRANSLATE_NOOP("CLocalConfig", "Snapshot"), "capture",
+     g_szPublic, g_szModule, g_szModule, "m_pCapture", SectionSnapshot},
+    {&Form::m_gBRecord, &Form::horizontalLayout_6, QT_TRANSLATE_NOOP("CLocalConfig", "Recording"), "videorecord",
+     g_szPublic, g_szPublic, g_szPublic, "m_pRecord", SectionRecord},
+    {&Form::m_gBAlarm, &Form::horizontalLayout_8, QT_TRANSLATE_NOOP("CLocalConfig", "Alarm"), "alert", g_szModule,
+     g_szModule, g_szModule, "m_pAlarm", SectionAlarm},
+    {&Form::m_gBTvwall, &Form::horizontalLayout_9, QT_TRANSLATE_NOOP("CLocalConfig", "Video Wall"), "settvwall",
+     g_szModule, g_szModule, g_szModule, "m_pTvWall", SectionTvWall},
+    {&Form::m_gBSecurity, &Form::horizontalLayout_10, QT_TRANSLATE_NOOP("CLocalConfig", "Security"), "SecurityConfig",
+     g_szModule, g_szModule, g_szModule, "m_pSecurity", SectionSecurity},
+    {&Form::m_gShortcutKey, &Form::horizontalLayout_7, QT_TRANSLATE_NOOP("CLocalConfig", "Shortcut Keys"), "shortcut",
+     g_szModule, g_szModule, g_szModule, "m_pKey", SectionShortcutKey},
+};
+
+using PageOrder = std::array<int, SectionCount>;
+
+// Pages are saved, defaulted, reloaded on closing, locked and released in one order, reloaded after a refused save in
+// another.
+constexpr PageOrder g_arrPageOrder = {IndexBasic, IndexVideo,       IndexPlayback, IndexCapture, IndexRecord,
+                                      IndexAlarm, IndexShortcutKey, IndexTvWall,   IndexSecurity};
+constexpr PageOrder g_arrRefusedOrder = {IndexBasic, IndexVideo,  IndexPlayback, IndexCapture,    IndexRecord,
+                                         IndexAlarm, IndexTvWall, IndexSecurity, IndexShortcutKey};
+
+QString Tr(const char* pszText)
+{
+    return QCoreApplication::translate("CLocalConfig", pszText);
+}
+
+QIcon SectionIcon(const SSection& section)
+{
+    const auto path = [&section](const char* pszFolder, const char* pszSuffix) {
+        return Pxa::GetSkinPath(QString::fromLatin1(pszFolder), QString()) + QString::fromLatin1(section.pszIcon) +
+               QString::fromLatin1(pszSuffix);
+    };
+    auto* pEngine = new CSkinIconEngine;
+    pEngine->AddFile(QIcon::Normal, path(section.pszNormalFolder, "-n.svg"));
+    pEngine->AddFile(QIcon::Active, path(section.pszHoverFolder, "-h.svg"));
+    pEngine->AddFile(QIcon::Selected, path(section.pszPressedFolder, "-p.svg"));
+    return QIcon(pEngine);
+}
+
+void Notify(const QString& strText)
+{
+    KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(strText);
+}
+
+} // namespace
+
+CLocalConfig::CLocalConfig(QWidget* pParent)
+    : KvCustomDialog(Ok | Other | Cancel, pParent, 1)
+    , m_pUi(std::make_unique<Ui::CLocalConfig>())
+{
+    m_pUi->setupUi(GetCentralWidget());
+    // The content's height is set from the boxes' own heights, hidden one included; a box that took up the difference
+    // would make the content grow with every computation.
+    m_pUi->verticalLayout->setAlignment(Qt::AlignTop);
+    InitDialogSize();
+    SetTitle(Tr(QT_TRANSLATE_NOOP("CLocalConfig", "Local Config")));
+    ConnectSlots();
+    setObjectName(QStringLiteral("CLocalConfig"));
+    ApplySkinStyle(this);
+}
+
+CLocalConfig::~CLocalConfig() = default;
+
+int CLocalConfig::Init(ILocalConfig* pLocalConfig, UserLogical::IUserManager* pUserManager)
+{
+    if (!pLocalConfig || !pUserManager)
+    {
+        return -1;
+    }
+    m_pLocalConfig = pLocalConfig;
+    m_pUserManager = pUserManager;
+
+    // This rights object is not handed back, unlike the one that CreateAlarmConfig asks for: hosts rely on it.
+    UserLogical::IUserRight* pUserRight = m_pUserManager->GetUserRight();
+    m_bTvWallRight = pUserRight && pUserRight->HasRight(g_nRightTvWall);
+
+    m_pLoginManager = m_pUserManager->GetLoginManager();
+    if (m_pLoginManager)
+    {
+        m_pLoginManager->AddObserver(this);
+    }
+    InitUI();
+    return 0;
+}
+
+void CLocalConfig::InitDialogSize()
+{
+    if (QApplication::desktop()->geometry().height() < g_nLowDesktopHeight)
+    {
+        setFixedHeight(g_nLowDialogHeight);
+    }
+}
+
+void CLocalConfig::UnInitUI()
+{
+    if (m_pUserManager)
+    {
+        if (m_pLoginManager)
+        {
+            m_pLoginManager->RemoveObserver(this);
+        }
+        m_pLoginManager = nullptr;
+        m_pUserManager = nullptr;
+    }
+    ForEachPage(g_arrPageOrder, [](IConfigPage& page) { page.UnInit(); });
+    m_pLocalConfig = nullptr;
+}
+
+void CLocalConfig::NotifyLoginState(const UserLogical::ILoginManagerObserver::Param& param)
+{
+    constexpr int nConnected = 2;
+    constexpr int nLost = 3;
+    if (param.nState == nLost)
+    {
+        emit SignalDisconnect();
+    }
+    else if (param.nState == nConnected && param.nSubState == 0)
+    {
+        emit SignalReconnect();
+    }
+}
+
+// --- Construction
+
+void CLocalConfig::ConnectSlots()
+{
+    for (const SSection& section : g_arrSections)
+    {
+        connect((*m_pUi).*section.pBox, &CGroupBox::SignalGroupBoxClicked, this, &CLocalConfig::OnGroupBoxClicked);
+    }
+    connect(m_pUi->m_pToolListView, &KVGUI::KvToolListView::SignalCurrentIndexChanged, this,
+            &CLocalConfig::OnToolListCurrentIndexChanged);
+    connect(this, &CLocalConfig::SignalOtherButtonClicked, this, &CLocalConfig::OnResumeClicked);
+    connect(this, &CLocalConfig::SignalOkButtonClicked, this, &CLocalConfig::OnSaveBtnClicked);
+    connect(this, &CLocalConfig::SignalCancelButtonClicked, this, &CLocalConfig::OnBtnCancelClicked);
+    connect(this, &CLocalConfig::SignalDisconnect, this, &CLocalConfig::OnDisconnect);
+    connect(this, &CLocalConfig::SignalReconnect, this, &CLocalConfig::OnReconnect);
+}
+
+void CLocalConfig::InitUI()
+{
+    for (int nIndex = 0; nIndex < SectionCount; ++nIndex)
+    {
+        AddSection(nIndex);
+    }
+
+    SetButtonText(Other, Tr(QT_TRANSLATE_NOOP("CLocalConfig", "Default")));
+    SetButtonText(Ok, Tr(QT_TRANSLATE_NOOP("CLocalConfig", "Save")));
+    SetButtonText(Cancel, Tr(QT_TRANSLATE_NOOP("CLocalConfig", "Cancel")));
+
+    m_pUi->scrollArea->setHorizontalScrollBar(new KVGUI::KvHorScrollBar(m_pUi->scrollArea));
+    m_pUi->scrollArea->setVerticalScrollBar(new KVGUI::KvVerScrollBar(m_pUi->scrollArea));
+    for (QScrollBar* pScrollBar : {m_pUi->scrollArea->horizontalScrollBar(), m_pUi->scrollArea->verticalScrollBar()})
+    {
+        pScrollBar->setContextMenuPolicy(Qt::NoContextMenu);
+        pScrollBar->style()->polish(pScrollBar);
+    }
+    OnAdjustVerticalScrollBar();
+
+    QScrollBar* pScrollBar = m_pUi->scrollArea->verticalScrollBar();
+    disconnect(pScrollBar, &QScrollBar::valueChanged, this, &CLocalConfig::OnVerticalScrollBarChanged);
+    connect(pScrollBar, &QScrollBar::valueChanged, this, &CLocalConfig::OnVerticalScrollBarChanged);
+}
+
+void CLocalConfig::AddSection(int nIndex)
+{
+    const SSection& section = g_arrSections[nIndex];
+    CGroupBox* pBox = (*m_pUi).*section.pBox;
+
+    m_pUi->m_pToolListView->AddItem(SectionIcon(section), Tr(section.pszText));
+    pBox->SetIndex(nIndex);
+    m_mapGroupBox.insert(nIndex, pBox);
+
+    if (nIndex == IndexTvWall && !m_bTvWallRight)
+    {
+        // Added and taken out again, so that the entries after it keep their indices.
+        pBox->hide();
+        m_pUi->m_pToolListView->RemoveItem(nIndex);
+        return;
+    }
+    pBox->setTitle(Tr(section.pszText));
+    if (nIndex == IndexBasic)
+    {
+        m_pUi->m_pToolListView->SetCurrentIndex(nIndex);
+        pBox->SetSelect(true);
+    }
+}
+
+// --- Pages
+
+void CLocalConfig::showEvent(QShowEvent* pEvent)
+{
+    KvCustomDialog::showEvent(pEvent);
+    if (!m_bFirstShow)
+    {
+        return;
+    }
+    m_bFirstShow = false;
+    QTimer::singleShot(g_nAdjustDelay, this, &CLocalConfig::OnAdjustVerticalScrollBar);
+    CreateBasicConfig();
+    CreateVideoConfig();
+    CreatePlaybackConfig();
+    CreateCaptureConfig();
+    CreateRecordConfig();
+    CreateAlarmConfig();
+    if (m_bTvWallRight)
+    {
+        CreateTVWallConfig();
+    }
+    CreateSrcurityConfig();
+    CreateShortcurKeyConfig();
+}
+
+void CLocalConfig::CreateBasicConfig()
+{
+    CreatePage(IndexBasic);
+}
+
+void CLocalConfig::CreateVideoConfig()
+{
+    if (IConfigPage* pPage = NewPage(IndexVideo))
+    {
+        HandSectionTo(IndexVideo);
+        connect(pPage->GetWidget(), SIGNAL(SignalChangeSize()), this, SLOT(OnVideoConfigChangeSize()));
+    }
+}
+
+void CLocalConfig::CreatePlaybackConfig()
+{
+    CreatePage(IndexPlayback);
+}
+
+void CLocalConfig::CreateCaptureConfig()
+{
+    CreatePage(IndexCapture);
+}
+
+void CLocalConfig::CreateRecordConfig()
+{
+    CreatePage(IndexRecord);
+}
+
+void CLocalConfig::CreateAlarmConfig()
+{
+    IConfigPage* pPage = NewPage(IndexAlarm);
+    if (!pPage)
+    {
+        return;
+    }
+    UserLogical::IUserRight* pUserRight = m_pUserManager ? m_pUserManager->GetUserRight() : nullptr;
+    if (!pUserRight || !pUserRight->HasRight(g_nRightAlarm))
+    {
+        pPage->MarkNoRight45();
+    }
+    if (pUserRight)
+    {
+        m_pUserManager->ReleaseUserRight(pUserRight);
+    }
+    HandSectionTo(IndexAlarm);
+    pPage->ApplyConfigXml();
+}
+
+void CLocalConfig::CreateTVWallConfig()
+{
+    CreatePage(IndexTvWall);
+}
+
+void CLocalConfig::CreateSrcurityConfig()
+{
+    CreatePage(IndexSecurity);
+}
+
+void CLocalConfig::CreateShortcurKeyConfig()
+{
+    CreatePage(IndexShortcutKey);
+}
+
+void CLocalConfig::CreatePage(int nIndex)
+{
+    if (NewPage(nIndex))
+    {
+        HandSectionTo(nIndex);
+    }
+}
+
+/// The page in its group box, still without its section; null when there is nothing to create.
+IConfigPage* CLocalConfig::NewPage(int nIndex)
+{
+    if (m_arrPages[nIndex] || !m_pLocalConfig)
+    {
+        return nullptr;
+    }
+    const SSection& section = g_arrSections[nIndex];
+    IConfigPage* pPage = CreateConfigPage(nIndex, (*m_pUi).*section.pBox);
+    if (!pPage)
+    {
+        return nullptr;
+    }
+    m_arrPages[nIndex] = pPage;
+
+    QWidget* pWidget = pPage->GetWidget();
+    pWidget->setObjectName(QString::fromLatin1(section.pszPage));
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(pWidget->sizePolicy().hasHeightForWidth());
+    pWidget->setSizePolicy(policy);
+    pWidget->setMinimumSize(0, 0);
+    ((*m_pUi).*section.pLayout)->addWidget(pWidget);
+    pWidget->show(); // the layout would show it only after the dialog's first picture
+    return pPage;
+}
+
+void CLocalConfig::HandSectionTo(int nIndex)
+{
+    m_arrPages[nIndex]->SetSection(m_pLocalConfig->GetSection(g_arrSections[nIndex].eType));
+}
+
+template <class Action>
+void CLocalConfig::ForEachPage(const std::array<int, 9>& arrOrder, Action action)
+{
+    for (int nIndex : arrOrder)
+    {
+        if (m_arrPages[nIndex])
+        {
+            action(*m_arrPages[nIndex]);
+        }
+    }
+}
+
+// --- Size
+
+void CLocalConfig::resizeEvent(QResizeEvent* pEvent)
+{
+    KvCustomDialog::resizeEvent(pEvent);
+    OnAdjustVerticalScrollBar();
+}
+
+void CLocalConfig::OnAdjustVerticalScrollBar()
+{
+    int nHeight = 0;
+    if (const QLayout* pLayout = m_pUi->scrollAreaWidgetContents->layout())
+    {
+        const QMargins margins = pLayout->contentsMargins();
+        nHeight = pLayout->spacing() * (m_mapGroupBox.size() - 1) + margins.top() + margins.bottom();
+    }
+    for (const CGroupBox* pBox : qAsConst(m_mapGroupBox))
+    {
+        nHeight += pBox->height();
+    }
+    m_pUi->scrollAreaWidgetContents->setFixedHeight(nHeight);
+}
+
+void CLocalConfig::OnVideoConfigChangeSize()
+{
+    m_pUi->m_gBVideo->adjustSize();
+    if (IConfigPage* pPage = m_arrPages[IndexVideo])
+    {
+        pPage->GetWidget()->adjustSize();
+    }
+    OnAdjustVerticalScrollBar();
+}
+
+// --- Navigation
+
+void CLocalConfig::OnToolListCurrentIndexChanged(int iIndex)
+{
+    {
+        QScrollBar* pScrollBar = m_pUi->scrollArea->verticalScrollBar();
+        const CScopedDisconnect quiet(pScrollBar, &QScrollBar::valueChanged, this,
+                                      &CLocalConfig::OnVerticalScrollBarChanged);
+        if (const CGroupBox* pBox = GetGroupBoxByIndex(iIndex))
+        {
+            pScrollBar->setValue(pBox->y() - g_nScrollMargin);
+        }
+    }
+    ChangeSelectGroupBox(iIndex);
+}
+
+void CLocalConfig::OnVerticalScrollBarChanged(int iValue)
+{
+    const CScopedDisconnect quiet(m_pUi->m_pToolListView, &KVGUI::KvToolListView::SignalCurrentIndexChanged, this,
+                                  &CLocalConfig::OnToolListCurrentIndexChanged);
+    if (const CGroupBox* pBox = GetGroupBoxByVerticalScrollBarValue(iValue))
+    {
+        m_pUi->m_pToolListView->SetCurrentIndex(pBox->GetIndex());
+        ChangeSelectGroupBox(pBox->GetIndex());
+    }
+}
+
+void CLocalConfig::OnGroupBoxClicked(int iIndex)
+{
+    {
+        const CScopedDisconnect quiet(m_pUi->m_pToolListView, &KVGUI::KvToolListView::SignalCurrentIndexChanged, this,
+                                      &CLocalConfig::OnToolListCurrentIndexChanged);
+        m_pUi->m_pToolListView->SetCurrentIndex(iIndex);
+    }
+    ChangeSelectGroupBox(iIndex);
+}
+
+CGroupBox* CLocalConfig::GetGroupBoxByIndex(int iIndex) const
+{
+    return m_mapGroupBox.value(iIndex);
+}
+
+CGroupBox* CLocalConfig::GetGroupBoxByVerticalScrollBarValue(int iValue) const
+{
+    const auto it = std::find_if(m_mapGroupBox.begin(), m_mapGroupBox.end(), [iValue](const CGroupBox* pBox) {
+        return pBox && qAbs(iValue - pBox->geometry().top()) <= g_nScrollBand;
+    });
+    return it == m_mapGroupBox.end() ? nullptr : *it;
+}
+
+CGroupBox* CLocalConfig::GetSelectGroupBox() const
+{
+    const auto it = std::find_if(m_mapGroupBox.begin(), m_mapGroupBox.end(),
+                                 [](const CGroupBox* pBox) { return pBox && pBox->IsSelect(); });
+    return it == m_mapGroupBox.end() ? nullptr : *it;
+}
+
+void CLocalConfig::ChangeSelectGroupBox(int iIndex)
+{
+    CGroupBox* pSelected = GetSelectGroupBox();
+    if (pSelected && pSelected->GetIndex() == iIndex)
+    {
+        return;
+    }
+    if (pSelected)
+    {
+        pSelected->SetSelect(false);
+    }
+    if (CGroupBox* pBox = GetGroupBoxByIndex(iIndex))
+    {
+        pBox->SetSelect(true);
+    }
+}
+
+bool CLocalConfig::IsContains(int iValue, const QWidget* pWidget)
+{
+    return pWidget && pWidget->geometry().top() <= iValue && iValue <= pWidget->geometry().bottom();
+}
+
+// --- Save, defaults, cancel
+
+void CLocalConfig::OnSaveBtnClicked()
+{
+    if (!m_pLocalConfig)
+    {
+        return;
+    }
+    QMap<const IConfigPage*, int> mapResults;
+    bool bAllSaved = true;
+    ForEachPage(g_arrPageOrder, [&](IConfigPage& page) {
+        const int nResult = page.SaveConfig();
+        mapResults.insert(&page, nResult);
+        bAllSaved = bAllSaved && nResult == 0;
+    });
+
+    if (bAllSaved)
+    {
+        const int nResult = m_pLocalConfig->SaveAll();
+        if (nResult != g_nSaved)
+        {
+            Notify(UICommonMdl::CErrorCode::GetErroCodeInfor(
+                Tr(QT_TRANSLATE_NOOP("CLocalConfig", "Failed to save config")), nResult, true, true));
+        }
+        // The base closes without the reload that this dialog's own closing does.
+        KvDialog::OnCloseBtmClicked();
+        return;
+    }
+
+    ForEachPage(g_arrRefusedOrder, [&](IConfigPage& page) {
+        const bool bMayKeep = &page == m_arrPages[IndexCapture] || &page == m_arrPages[IndexRecord];
+        if (!bMayKeep || mapResults.value(&page) != g_nKeepInput)
+        {
+            page.ReloadConfig(false);
+        }
+    });
+    Notify(Tr(QT_TRANSLATE_NOOP("CLocalConfig", "Failed to save configuration, some values are illegal.")));
+}
+
+void CLocalConfig::OnResumeClicked()
+{
+    ReloadPages(true);
+}
+
+void CLocalConfig::OnBtnCancelClicked()
+{
+    OnCloseBtmClicked();
+}
+
+void CLocalConfig::OnCloseBtmClicked()
+{
+    if (!m_pLocalConfig)
+    {
+        return;
+    }
+    ReloadPages(false);
+    KvDialog::OnCloseBtmClicked();
+}
+
+void CLocalConfig::ReloadPages(bool bDefault)
+{
+    ForEachPage(g_arrPageOrder, [bDefault](IConfigPage& page) { page.ReloadConfig(bDefault); });
+}
+
+// --- Connection state
+
+void CLocalConfig::OnDisconnect()
+{
+    SetConnected(false);
+}
+
+void CLocalConfig::OnReconnect()
+{
+    SetConnected(true);
+}
+
+void CLocalConfig::SetConnected(bool bConnected)
+{
+    SetButtonEnable(Other, bConnected);
+    SetButtonEnable(Ok, bConnected);
+    SetButtonEnable(Cancel, bConnected);
+    ForEachPage(g_arrPageOrder, [bConnected](IConfigPage& page) { page.SetControlsEnabled(bConnected); });
+}
+
+} // namespace LocalConfig

@@ -1,0 +1,22 @@
+#pragma once
+
+namespace LocalConfig
+{
+
+/// Navigation index of a section: its place in the navigation list and in the scroll area. Not the code by which the
+/// host knows it.
+enum ESectionIndex : int
+{
+    IndexBasic,
+    IndexVideo,
+    IndexPlayback,
+    IndexCapture,
+    IndexRecord,
+    IndexAlarm,
+    IndexTvWall,
+    IndexSecurity,
+    IndexShortcutKey,
+    SectionCount
+};
+
+} // namespace LocalConfig

@@ -1,0 +1,43 @@
+#include "ConfigPages.h"
+
+#include "CBasicConfig.h"
+
+#include <LocalConfig/SectionIndex.h>
+
+namespace LocalConfig
+{
+
+namespace
+{
+
+template <class Page>
+IConfigPage* Create(QWidget* pParent)
+{
+    return new Page(pParent);
+}
+
+struct SPage
+{
+    ESectionIndex eIndex;
+    IConfigPage* (*pfnCreate)(QWidget*);
+};
+
+constexpr SPage g_arrPages[] = {
+    {IndexBasic, &Create<CBasicConfig>},
+};
+
+} // namespace
+
+IConfigPage* CreateConfigPage(int nIndex, QWidget* pParent)
+{
+    for (const SPage& page : g_arrPages)
+    {
+        if (page.eIndex == nIndex)
+        {
+            return page.pfnCreate(pParent);
+        }
+    }
+    return nullptr;
+}
+
+} // namespace LocalConfig

@@ -1,0 +1,299 @@
+#include "Client.h"
+
+#include "AutoStart.h"
+#include "ConfigService.h"
+#include "LoginManager.h"
+#include "MainWindow.h"
+#include "UserManager.h"
+
+#include <KvGui/KvMessageNotify.h>
+#include <KvGui/KvToolListView.h>
+#include <LocalConfig/CLocalConfig.h>
+#include <UICommonModule/CAtomicFile.h>
+#include <UICommonModule/CErrorCode.h>
+#include <UICommonModule/CGlobalInfo.h>
+#include <UICommonModule/Pxa.h>
+
+#include <QApplication>
+#include <QBuffer>
+#include <QDesktopWidget>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QPalette>
+#include <QStandardPaths>
+#include <QTimer>
+#include <QTranslator>
+
+#include <cstdio>
+#include <memory>
+
+using UICommonMdl::CAtomicFile;
+using UICommonMdl::CErrorCode;
+using UICommonMdl::CGlobalInfo;
+
+namespace LocalConfigClient
+{
+
+namespace
+{
+
+constexpr int g_nExitGood = 0;
+constexpr int g_nExitFailed = 1;
+constexpr QRect g_pictureDesktop(0, 0, 1920, 1080);
+constexpr int g_nLayoutTime = 120; // milliseconds until the dialog has computed its final layout
+
+QString Tr(const char* pszText)
+{
+    return QCoreApplication::translate("Client", pszText);
+}
+
+int Fail(const char* pszText, const QString& strWhat, int nCode)
+{
+    Client::Complain(CErrorCode::GetErroCodeInfor(Tr(pszText).arg(strWhat), nCode, true, false));
+    return g_nExitFailed;
+}
+
+void Print(const QByteArray& content)
+{
+    std::fwrite(content.constData(), 1, size_t(content.size()), stdout);
+    std::fflush(stdout);
+}
+
+void ComplainAbout(const ConfigService& service)
+{
+    for (const QString& strProblem : service.GetProblems())
+    {
+        Client::Complain(strProblem);
+    }
+}
+
+int WriteAutoStart(bool bEnable)
+{
+    return AutoStart::Apply(bEnable, QCoreApplication::applicationName(), QCoreApplication::applicationFilePath());
+}
+
+std::unique_ptr<LoginManager> MakeLoginManager(const CommandLine& commandLine)
+{
+    return commandLine.strHost.isEmpty() ? std::make_unique<LoginManager>()
+                                         : std::make_unique<LoginManager>(commandLine.strHost, commandLine.nPort);
+}
+
+} // namespace
+
+Client::Client(const CommandLine& commandLine)
+    : m_commandLine(commandLine)
+{
+    // The client works in its data folder, so the paths that it was given must be settled before.
+    if (!m_commandLine.strFile.isEmpty())
+    {
+        m_commandLine.strFile = QFileInfo(m_commandLine.strFile).absoluteFilePath();
+    }
+    if (!m_commandLine.strDataFolder.isEmpty())
+    {
+        m_commandLine.strDataFolder = QFileInfo(m_commandLine.strDataFolder).absoluteFilePath();
+    }
+}
+
+bool Client::NeedsDisplay(CommandLine::Action eAction)
+{
+    return eAction == CommandLine::OpenWindow || eAction == CommandLine::Screenshot;
+}
+
+void Client::Complain(const QString& strText)
+{
+    std::fprintf(stderr, "local-config-client: %s\n", qUtf8Printable(strText));
+}
+
+bool Client::EnterDataFolder()
+{
+    QString& strFolder = m_commandLine.strDataFolder;
+    if (strFolder.isEmpty())
+    {
+        strFolder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    }
+    if (QFileInfo::exists(strFolder) && !QFileInfo(strFolder).isDir())
+    {
+        Complain(Tr(QT_TRANSLATE_NOOP("Client", "The data folder '%1' is no folder.")).arg(strFolder));
+        return false;
+    }
+    if (!QDir().mkpath(strFolder))
+    {
+        Complain(Tr(QT_TRANSLATE_NOOP("Client", "The data folder '%1' cannot be made.")).arg(strFolder));
+        return false;
+    }
+    if (!QDir::setCurrent(strFolder))
+    {
+        Complain(Tr(QT_TRANSLATE_NOOP("Client", "The data folder '%1' cannot be entered.")).arg(strFolder));
+        return false;
+    }
+    return true;
+}
+
+// --- Without a display
+
+int Client::RunWithoutDisplay()
+{
+    if (!EnterDataFolder())
+    {
+        return g_nExitFailed;
+    }
+    SettleSkinAndLanguage();
+    InstallTranslators();
+
+    if (m_commandLine.eAction == CommandLine::Import)
+    {
+        QByteArray content;
+        const int nRead = CAtomicFile::Read(m_commandLine.strFile, content);
+        if (nRead != CErrorCode::Success)
+        {
+            return Fail(QT_TRANSLATE_NOOP("Client", "Cannot read '%1'"), m_commandLine.strFile, nRead);
+        }
+        QString strError;
+        if (SettingsDocument().Parse(content, &strError) != SettingsDocument::Good)
+        {
+            Complain(Tr(QT_TRANSLATE_NOOP("Client", "Cannot import '%1': %2")).arg(m_commandLine.strFile, strError));
+            return g_nExitFailed;
+        }
+        ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadWrite);
+        const int nResult = service.Import(content, &strError);
+        return nResult == CErrorCode::Success
+                   ? g_nExitGood
+                   : Fail(QT_TRANSLATE_NOOP("Client", "Cannot import '%1'"), m_commandLine.strFile, nResult);
+    }
+
+    const ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadOnly);
+    ComplainAbout(service);
+    if (m_commandLine.eAction == CommandLine::Dump)
+    {
+        Print(service.Export());
+        return g_nExitGood;
+    }
+    const int nWritten = CAtomicFile::Write(m_commandLine.strFile, service.Export());
+    return nWritten == CErrorCode::Success
+               ? g_nExitGood
+               : Fail(QT_TRANSLATE_NOOP("Client", "Cannot write '%1'"), m_commandLine.strFile, nWritten);
+}
+
+// --- With a display
+
+void Client::SettleSkinAndLanguage() const
+{
+    if (!m_commandLine.strSkin.isEmpty())
+    {
+        Pxa::SetSkin(m_commandLine.strSkin);
+    }
+    if (!m_commandLine.strLanguage.isEmpty())
+    {
+        CGlobalInfo::SetClientStrLanguage(m_commandLine.strLanguage);
+    }
+}
+
+void Client::InstallTranslators()
+{
+    const QString strLanguage = CGlobalInfo::GetClientStrLanguage();
+    const QString strFolder = CGlobalInfo::GetResourcePath() + QStringLiteral("/translations");
+    const auto install = [&strLanguage](const char* pszStem, const QString& strDirectory) {
+        auto* pTranslator = new QTranslator(QCoreApplication::instance());
+        if (pTranslator->load(QStringLiteral("%1_%2").arg(QString::fromLatin1(pszStem), strLanguage), strDirectory))
+        {
+            QCoreApplication::installTranslator(pTranslator);
+        }
+        else
+        {
+            delete pTranslator; // English stands in the sources
+        }
+    };
+    install("qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    for (const char* pszStem : {"KvGui", "UICommonModule", "LocalConfig", "local-config-client"})
+    {
+        install(pszStem, strFolder);
+    }
+}
+
+void Client::ApplyLook(QApplication& application)
+{
+    QFont font = application.font();
+    font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Segoe UI"), QStringLiteral("Noto Sans"),
+                      QStringLiteral("DejaVu Sans")});
+    font.setPixelSize(13);
+    application.setFont(font);
+
+    const QString strPath = Pxa::GetSkinPath(QStringLiteral("public"), QStringLiteral("KvGui.qss"));
+    QString strSheet;
+    if (Pxa::loadStyleSheet(strPath, strSheet))
+    {
+        application.setStyleSheet(strSheet);
+    }
+    else
+    {
+        Complain(Tr(QT_TRANSLATE_NOOP("Client", "The skin file '%1' cannot be read.")).arg(strPath));
+    }
+}
+
+int Client::Run(QApplication& application)
+{
+    if (!EnterDataFolder())
+    {
+        return g_nExitFailed;
+    }
+    SettleSkinAndLanguage();
+    InstallTranslators();
+    ApplyLook(application);
+    return m_commandLine.eAction == CommandLine::Screenshot ? TakeScreenshot() : OpenWindow();
+}
+
+int Client::OpenWindow()
+{
+    ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadWrite, &WriteAutoStart);
+    const std::unique_ptr<LoginManager> pLoginManager = MakeLoginManager(m_commandLine);
+    UserManager userManager(m_commandLine.setMissingRights, pLoginManager.get());
+    MainWindow window(service, userManager);
+    window.show();
+
+    ComplainAbout(service);
+    for (const QString& strProblem : service.GetProblems())
+    {
+        KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(strProblem);
+    }
+    QTimer::singleShot(0, &window, &MainWindow::OpenSettings);
+    return QApplication::exec();
+}
+
+int Client::TakeScreenshot()
+{
+    ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadOnly);
+    ComplainAbout(service);
+    const std::unique_ptr<LoginManager> pLoginManager = MakeLoginManager(m_commandLine);
+    UserManager userManager(m_commandLine.setMissingRights, pLoginManager.get());
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+    {
+        // That plug-in's screen is lower than any desktop; the dialog is to be seen as on an ordinary one.
+        QApplication::desktop()->setGeometry(g_pictureDesktop);
+    }
+    LocalConfig::CLocalConfig dialog(nullptr);
+    dialog.Init(&service, &userManager);
+    dialog.show();
+
+    QEventLoop loop;
+    QTimer::singleShot(g_nLayoutTime, &loop, &QEventLoop::quit);
+    loop.exec();
+    if (m_commandLine.nSection >= 0)
+    {
+        dialog.findChild<KVGUI::KvToolListView*>()->SetCurrentIndex(m_commandLine.nSection);
+    }
+
+    QByteArray content;
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::WriteOnly);
+    const bool bDrawn = dialog.grab().save(&buffer, "PNG");
+    dialog.hide();
+    dialog.UnInitUI();
+    const int nWritten = bDrawn ? CAtomicFile::Write(m_commandLine.strFile, content) : int(CErrorCode::IoError);
+    return nWritten == CErrorCode::Success
+               ? g_nExitGood
+               : Fail(QT_TRANSLATE_NOOP("Client", "Cannot write '%1'"), m_commandLine.strFile, nWritten);
+}
+
+} // namespace LocalConfigClient

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "CommandLine.h"
+
+class QApplication;
+
+namespace LocalConfigClient
+{
+
+/// The client as a program: carries out a command line that has been understood.
+class Client
+{
+public:
+    explicit Client(const CommandLine& commandLine);
+
+    /// Carries out an action that needs no display: Dump, Import, Export.
+    /// \return the program's exit code
+    int RunWithoutDisplay();
+
+    /// Opens the window, or renders the dialog.
+    /// \return the program's exit code
+    int Run(QApplication& application);
+
+    /// Whether an action needs a display of some kind.
+    static bool NeedsDisplay(CommandLine::Action eAction);
+
+    /// One line on the standard error output.
+    static void Complain(const QString& strText);
+
+private:
+    bool EnterDataFolder();
+    void SettleSkinAndLanguage() const;
+    static void InstallTranslators();
+    static void ApplyLook(QApplication& application);
+    int OpenWindow();
+    int TakeScreenshot();
+
+    CommandLine m_commandLine;
+};
+
+} // namespace LocalConfigClient

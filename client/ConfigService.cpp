@@ -1,0 +1,334 @@
+#include "ConfigService.h"
+
+#include <UICommonModule/CAtomicFile.h>
+#include <UICommonModule/CErrorCode.h>
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using UICommonMdl::CAtomicFile;
+using UICommonMdl::CErrorCode;
+
+namespace LocalConfigClient
+{
+
+namespace
+{
+
+constexpr char g_szDocument[] = "settings.json";
+constexpr char g_szLastGood[] = "settings.json.bak";
+constexpr char g_szLock[] = "settings.lock";
+
+QString Tr(const char* pszText)
+{
+    return QCoreApplication::translate("ConfigService", pszText);
+}
+
+} // namespace
+
+ConfigService::ConfigService(const QString& strFolder, Mode eMode, AutoStartWriter autoStartWriter)
+    : m_strFolder(QDir(strFolder).absolutePath())
+    , m_eMode(eMode)
+    , m_autoStartWriter(std::move(autoStartWriter))
+    , m_lock(GetPath(g_szLock))
+{
+    m_lock.setStaleLockTime(0); // however long a client runs; the lock of a dead one is taken over all the same
+    if (m_eMode == ReadWrite)
+    {
+        const int nLock = TakeLock();
+        m_bLockedElsewhere = nLock == CErrorCode::Locked;
+        if (m_bLockedElsewhere)
+        {
+            m_listProblems += Tr(QT_TRANSLATE_NOOP(
+                "ConfigService", "Another client uses this data folder; changes cannot be saved meanwhile."));
+        }
+        else if (nLock != CErrorCode::Success)
+        {
+            m_listProblems += Tr(QT_TRANSLATE_NOOP("ConfigService",
+                                                   "The data folder cannot be written: %1. Changes cannot be saved."))
+                                  .arg(CErrorCode::GetDescription(nLock));
+        }
+    }
+    Load();
+}
+
+ConfigService::~ConfigService() = default;
+
+QString ConfigService::GetPath(const char* pszName) const
+{
+    return QDir(m_strFolder).filePath(QString::fromLatin1(pszName));
+}
+
+LocalConfigLogical::IConfigSection* ConfigService::GetSection(int nSectionType)
+{
+    using namespace LocalConfigLogical;
+    switch (nSectionType)
+    {
+    case SectionBasic:
+        return &m_basic;
+    case SectionVideo:
+        return &m_video;
+    case SectionPlayback:
+        return &m_playback;
+    case SectionSnapshot:
+        return &m_snapshot;
+    case SectionRecord:
+        return &m_record;
+    case SectionAlarm:
+        return &m_alarm;
+    case SectionShortcutKey:
+        return &m_shortcutKey;
+    case SectionTvWall:
+        return &m_tvWall;
+    case SectionSecurity:
+        return &m_security;
+    default:
+        return nullptr;
+    }
+}
+
+// --- Loading
+
+void ConfigService::Load()
+{
+    const int nRead = CAtomicFile::Read(GetPath(g_szDocument), m_onDisk);
+    if (nRead == CErrorCode::FileMissing)
+    {
+        if (LoadLastGood())
+        {
+            m_listProblems += Tr(
+                QT_TRANSLATE_NOOP("ConfigService", "The settings file is missing; the last good settings are used."));
+        }
+    }
+    else if (nRead != CErrorCode::Success)
+    {
+        m_eState = Unreadable;
+        LoadLastGood();
+        m_listProblems +=
+            Tr(QT_TRANSLATE_NOOP("ConfigService", "The settings file cannot be read: %1. Changes cannot be saved."))
+                .arg(CErrorCode::GetDescription(nRead));
+    }
+    else
+    {
+        QString strError;
+        const SettingsDocument::Result eResult = m_document.Parse(m_onDisk, &strError);
+        if (eResult == SettingsDocument::Newer)
+        {
+            m_eState = Unreadable;
+            m_listProblems += Tr(QT_TRANSLATE_NOOP(
+                "ConfigService", "The settings file is from a newer version. Changes cannot be saved."));
+        }
+        else if (eResult == SettingsDocument::Damaged)
+        {
+            const bool bLastGood = LoadLastGood();
+            const bool bAside = m_lock.isLocked() && SetAside();
+            const char* pszText =
+                bLastGood ? QT_TRANSLATE_NOOP("ConfigService",
+                                              "The settings file is damaged (%1); the last good settings are used. %2")
+                          : QT_TRANSLATE_NOOP("ConfigService",
+                                              "The settings file is damaged (%1); the default settings are used. %2");
+            m_listProblems +=
+                Tr(pszText)
+                    .arg(strError, bAside ? Tr(QT_TRANSLATE_NOOP("ConfigService", "It was set aside.")) : QString())
+                    .trimmed();
+        }
+    }
+    m_stored = m_document.GetSettings();
+    m_working = m_stored;
+}
+
+bool ConfigService::LoadLastGood()
+{
+    QByteArray content;
+    return CAtomicFile::Read(GetPath(g_szLastGood), content) == CErrorCode::Success &&
+           m_document.Parse(content) == SettingsDocument::Good;
+}
+
+/// Moves the damaged document out of the way, never over another one.
+bool ConfigService::SetAside()
+{
+    const QString strStamp = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-hhmmss"));
+    const QString strBase = QStringLiteral("%1.damaged-%2").arg(GetPath(g_szDocument), strStamp);
+    QString strTarget = strBase;
+    for (int n = 2; QFileInfo::exists(strTarget); ++n)
+    {
+        strTarget = QStringLiteral("%1-%2").arg(strBase).arg(n);
+    }
+    if (!QFile::rename(GetPath(g_szDocument), strTarget))
+    {
+        return false;
+    }
+    m_onDisk.clear();
+    QByteArray lastGood;
+    if (CAtomicFile::Read(GetPath(g_szLastGood), lastGood) == CErrorCode::Success &&
+        SettingsDocument().Parse(lastGood) == SettingsDocument::Good &&
+        CAtomicFile::Write(GetPath(g_szDocument), lastGood) == CErrorCode::Success)
+    {
+        m_onDisk = lastGood;
+    }
+    return true;
+}
+
+int ConfigService::TakeLock()
+{
+    if (m_lock.isLocked() || m_lock.tryLock(0))
+    {
+        return CErrorCode::Success;
+    }
+    if (m_lock.error() == QLockFile::LockFailedError)
+    {
+        return CErrorCode::Locked;
+    }
+    // The lock does not say what is wrong with the folder, a file beside it does.
+    const QString strProbe =
+        QStringLiteral("%1.probe-%2").arg(GetPath(g_szLock)).arg(QCoreApplication::applicationPid());
+    const int nProbe = CAtomicFile::Write(strProbe, QByteArray("probe"));
+    QFile::remove(strProbe);
+    return nProbe == CErrorCode::Success ? int(CErrorCode::IoError) : nProbe;
+}
+
+// --- Saving
+
+int ConfigService::SaveAll()
+{
+    if (m_eState == Unreadable)
+    {
+        return CErrorCode::Unreadable;
+    }
+    if (m_eMode == ReadOnly)
+    {
+        return CErrorCode::NoPermission;
+    }
+    const int nLock = TakeLock();
+    if (nLock != CErrorCode::Success)
+    {
+        return nLock;
+    }
+    const int nResult = WriteGenerations();
+    if (nResult != CErrorCode::Success)
+    {
+        return nResult;
+    }
+    const bool bAutoRunBefore = m_stored.basic.autoRun;
+    m_stored = m_working;
+    ApplyAutoStart(bAutoRunBefore);
+    if (m_savedHandler)
+    {
+        m_savedHandler();
+    }
+    return CErrorCode::Success;
+}
+
+/// The document on disk becomes the last good generation, the working records the document.
+int ConfigService::WriteGenerations()
+{
+    QByteArray onDisk;
+    const int nRead = CAtomicFile::Read(GetPath(g_szDocument), onDisk);
+    if (nRead != CErrorCode::Success && nRead != CErrorCode::FileMissing)
+    {
+        return CErrorCode::Unreadable;
+    }
+    const bool bChanged = onDisk != m_onDisk;
+    if (bChanged && m_bLockedElsewhere)
+    {
+        return CErrorCode::ChangedElsewhere; // by the client that held the lock, whose values are not known here
+    }
+
+    if (nRead == CErrorCode::Success)
+    {
+        // Parsing takes over what others have added since; the records are this client's.
+        switch (m_document.Parse(onDisk))
+        {
+        case SettingsDocument::Good:
+            break;
+        case SettingsDocument::Newer:
+            return CErrorCode::Unreadable;
+        case SettingsDocument::Damaged:
+            if (!SetAside())
+            {
+                return CErrorCode::Damaged;
+            }
+            onDisk = m_onDisk;
+            break;
+        }
+    }
+    m_document.SetSettings(m_working);
+    const QByteArray content = m_document.Serialize();
+    if (content == onDisk)
+    {
+        return CErrorCode::Success;
+    }
+
+    if (!onDisk.isEmpty())
+    {
+        const int nKept = CAtomicFile::Write(GetPath(g_szLastGood), onDisk);
+        if (nKept != CErrorCode::Success)
+        {
+            return nKept;
+        }
+    }
+    const int nWritten = CAtomicFile::Write(GetPath(g_szDocument), content);
+    if (nWritten == CErrorCode::Success)
+    {
+        m_onDisk = content;
+        m_bLockedElsewhere = false;
+    }
+    return nWritten;
+}
+
+void ConfigService::ApplyAutoStart(bool bBefore)
+{
+    const bool bWanted = m_stored.basic.autoRun;
+    if (!m_autoStartWriter || m_basic.GetAutoRunEntry().value_or(bBefore) == bWanted)
+    {
+        return;
+    }
+    const int nResult = m_autoStartWriter(bWanted);
+    if (nResult == CErrorCode::Success)
+    {
+        m_basic.SetAutoRunState(bWanted);
+    }
+    else
+    {
+        Report(Tr(QT_TRANSLATE_NOOP("ConfigService", "The auto-start entry could not be changed: %1."))
+                   .arg(CErrorCode::GetDescription(nResult)));
+    }
+}
+
+void ConfigService::Report(const QString& strProblem)
+{
+    m_listProblems += strProblem;
+    if (m_problemHandler)
+    {
+        m_problemHandler(strProblem);
+    }
+}
+
+int ConfigService::Import(const QByteArray& content, QString* pError)
+{
+    SettingsDocument document;
+    if (document.Parse(content, pError) != SettingsDocument::Good)
+    {
+        return CErrorCode::Damaged;
+    }
+    const Settings before = m_working;
+    m_working = document.GetSettings();
+    const int nResult = SaveAll();
+    if (nResult != CErrorCode::Success)
+    {
+        m_working = before;
+    }
+    return nResult;
+}
+
+QByteArray ConfigService::Export() const
+{
+    SettingsDocument document = m_document;
+    document.SetSettings(m_working);
+    return document.Serialize();
+}
+
+} // namespace LocalConfigClient

@@ -1,0 +1,162 @@
+#include "LoginManager.h"
+
+#include <QMutexLocker>
+#include <QTcpSocket>
+#include <QTimer>
+
+namespace LocalConfigClient
+{
+
+namespace
+{
+
+constexpr int g_nStateConnected = 2;
+constexpr int g_nStateLost = 3;
+constexpr int g_nConnectTimeout = 5000; // milliseconds; the system's own is minutes
+
+} // namespace
+
+/// Lives in the manager's thread.
+class ConnectionWatch : public QObject
+{
+public:
+    ConnectionWatch(LoginManager& manager, const QString& strHost, quint16 nPort, LoginManager::BackOff backOff)
+        : m_manager(manager)
+        , m_strHost(strHost)
+        , m_nPort(nPort)
+        , m_backOff(backOff)
+        , m_nDelay(backOff.nFirst)
+        , m_socket(this)
+        , m_retry(this)
+        , m_timeout(this)
+    {
+        m_retry.setSingleShot(true);
+        m_timeout.setSingleShot(true);
+        m_timeout.setInterval(g_nConnectTimeout);
+        connect(&m_retry, &QTimer::timeout, this, &ConnectionWatch::Connect);
+        connect(&m_timeout, &QTimer::timeout, this, &ConnectionWatch::OnLost);
+        connect(&m_socket, &QTcpSocket::connected, this, &ConnectionWatch::OnConnected);
+        connect(&m_socket, &QTcpSocket::disconnected, this, &ConnectionWatch::OnLost);
+        connect(&m_socket, &QTcpSocket::errorOccurred, this, &ConnectionWatch::OnLost);
+        // The server's words are none of the watch's business, but unread they would keep the loss from being seen.
+        connect(&m_socket, &QTcpSocket::readyRead, &m_socket, [this] { m_socket.skip(m_socket.bytesAvailable()); });
+    }
+
+    void Connect()
+    {
+        m_timeout.start();
+        m_socket.connectToHost(m_strHost, m_nPort);
+    }
+
+private:
+    void OnConnected()
+    {
+        m_timeout.stop();
+        m_socket.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+        m_nDelay = m_backOff.nFirst;
+        m_manager.SetConnected(true);
+    }
+
+    void OnLost()
+    {
+        if (m_retry.isActive())
+        {
+            return; // one loss is reported by several signals
+        }
+        m_timeout.stop();
+        m_retry.start(m_nDelay);
+        m_nDelay = qMin(2 * m_nDelay, m_backOff.nLongest);
+        m_socket.abort();
+        m_manager.SetConnected(false);
+    }
+
+    LoginManager& m_manager;
+    QString m_strHost;
+    quint16 m_nPort;
+    LoginManager::BackOff m_backOff;
+    int m_nDelay;
+    QTcpSocket m_socket;
+    QTimer m_retry;
+    QTimer m_timeout;
+};
+
+LoginManager::LoginManager() = default;
+
+LoginManager::LoginManager(const QString& strHost, quint16 nPort, BackOff backOff)
+{
+    auto* pWatch = new ConnectionWatch(*this, strHost, nPort, backOff);
+    m_pWatch = pWatch;
+    pWatch->moveToThread(&m_thread);
+    QObject::connect(&m_thread, &QThread::started, pWatch, &ConnectionWatch::Connect);
+    QObject::connect(&m_thread, &QThread::finished, pWatch, &QObject::deleteLater);
+    m_thread.setObjectName(QStringLiteral("login watch"));
+    m_thread.start();
+}
+
+LoginManager::~LoginManager()
+{
+    m_thread.quit();
+    m_thread.wait();
+}
+
+void LoginManager::AddObserver(KvPluginAPI::IObserver* pObserver)
+{
+    auto* pLoginObserver = static_cast<UserLogical::ILoginManagerObserver*>(pObserver);
+    const QMutexLocker locker(&m_mutex);
+    if (!pLoginObserver || m_listObservers.contains(pLoginObserver))
+    {
+        return;
+    }
+    m_listObservers += pLoginObserver;
+    if (m_pWatch && !m_bConnected)
+    {
+        m_listNewcomers += pLoginObserver;
+        QMetaObject::invokeMethod(
+            m_pWatch, [this] { TellNewcomers(); }, Qt::QueuedConnection);
+    }
+}
+
+void LoginManager::RemoveObserver(KvPluginAPI::IObserver* pObserver)
+{
+    auto* pLoginObserver = static_cast<UserLogical::ILoginManagerObserver*>(pObserver);
+    const QMutexLocker locker(&m_mutex);
+    m_listObservers.removeAll(pLoginObserver);
+    m_listNewcomers.removeAll(pLoginObserver);
+}
+
+void LoginManager::SetConnected(bool bConnected)
+{
+    const QMutexLocker locker(&m_mutex);
+    if (bConnected == m_bConnected)
+    {
+        return;
+    }
+    m_bConnected = bConnected;
+    m_listNewcomers.clear();
+    const QList<UserLogical::ILoginManagerObserver*> listObservers = m_listObservers;
+    for (UserLogical::ILoginManagerObserver* pObserver : listObservers)
+    {
+        if (m_listObservers.contains(pObserver)) // one observer may remove another
+        {
+            Tell(pObserver, bConnected);
+        }
+    }
+}
+
+void LoginManager::TellNewcomers()
+{
+    const QMutexLocker locker(&m_mutex);
+    while (!m_listNewcomers.isEmpty())
+    {
+        Tell(m_listNewcomers.takeFirst(), m_bConnected);
+    }
+}
+
+void LoginManager::Tell(UserLogical::ILoginManagerObserver* pObserver, bool bConnected)
+{
+    UserLogical::ILoginManagerObserver::Param param;
+    param.nState = bConnected ? g_nStateConnected : g_nStateLost;
+    pObserver->NotifyLoginState(param);
+}
+
+} // namespace LocalConfigClient

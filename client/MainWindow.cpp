@@ -1,0 +1,150 @@
+#include "MainWindow.h"
+
+#include "ConfigService.h"
+#include "SplitView.h"
+
+#include <KvGui/KvMessageNotify.h>
+#include <KvGui/KvPushButton.h>
+#include <LocalConfig/CLocalConfig.h>
+
+#include <QDateTime>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScreen>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace LocalConfigClient
+{
+
+namespace
+{
+
+// By basic.clientSize.
+constexpr QSize g_arrClientSizes[] = {{1280, 800}, {1280, 1024}, {1440, 900}, {1680, 1050}};
+
+/// "UTC+01:00"
+QString GetTimeZoneText()
+{
+    const int nMinutes = QDateTime::currentDateTime().offsetFromUtc() / 60;
+    return QStringLiteral("UTC%1%2:%3")
+        .arg(nMinutes < 0 ? QLatin1Char('-') : QLatin1Char('+'))
+        .arg(qAbs(nMinutes) / 60, 2, 10, QLatin1Char('0'))
+        .arg(qAbs(nMinutes) % 60, 2, 10, QLatin1Char('0'));
+}
+
+} // namespace
+
+/// Shows the connection state; the notifications come from the login manager's thread.
+class MainWindow::ConnectionObserver : public QObject, public UserLogical::ILoginManagerObserver
+{
+public:
+    explicit ConnectionObserver(QLabel* pLabel)
+        : m_pLabel(pLabel)
+    {
+        Show(true);
+    }
+
+    void NotifyLoginState(const Param& param) override
+    {
+        const bool bConnected = param.nState == 2;
+        QMetaObject::invokeMethod(
+            this, [this, bConnected] { Show(bConnected); }, Qt::QueuedConnection);
+    }
+
+private:
+    void Show(bool bConnected)
+    {
+        m_pLabel->setText(bConnected ? MainWindow::tr("Connected") : MainWindow::tr("Disconnected"));
+    }
+
+    QLabel* m_pLabel;
+};
+
+MainWindow::MainWindow(ConfigService& configService, UserLogical::IUserManager& userManager)
+    : m_configService(configService)
+    , m_userManager(userManager)
+{
+    setObjectName(QStringLiteral("MainWindow"));
+    setWindowTitle(tr("Surveillance Client"));
+
+    auto* pCentral = new QWidget(this);
+    auto* pHeader = new QWidget(pCentral);
+    auto* pTitle = new QLabel(windowTitle(), pHeader);
+    m_pTimeZone = new QLabel(pHeader);
+    m_pTimeZone->setObjectName(QStringLiteral("timeZone"));
+    m_pConnection = new QLabel(pHeader);
+    m_pConnection->setObjectName(QStringLiteral("connection"));
+    auto* pSettings = new KVGUI::KvPushButton(tr("Local Config..."), pHeader);
+    pSettings->setObjectName(QStringLiteral("btnSettings"));
+    pSettings->setToolTip(tr("Settings of this workstation (Ctrl+,)"));
+    m_pSplitView = new SplitView(pCentral);
+
+    auto* pHeaderLayout = new QHBoxLayout(pHeader);
+    pHeaderLayout->setContentsMargins(16, 8, 16, 8);
+    pHeaderLayout->setSpacing(16);
+    pHeaderLayout->addWidget(pTitle);
+    pHeaderLayout->addStretch();
+    pHeaderLayout->addWidget(m_pTimeZone);
+    pHeaderLayout->addWidget(m_pConnection);
+    pHeaderLayout->addWidget(pSettings);
+    auto* pLayout = new QVBoxLayout(pCentral);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->setSpacing(0);
+    pLayout->addWidget(pHeader);
+    pLayout->addWidget(m_pSplitView, 1);
+    setCentralWidget(pCentral);
+
+    connect(pSettings, &KVGUI::KvPushButton::clicked, this, &MainWindow::OpenSettings);
+    connect(new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_Comma), this), &QShortcut::activated, this,
+            &MainWindow::OpenSettings);
+
+    m_pObserver = std::make_unique<ConnectionObserver>(m_pConnection);
+    if (UserLogical::ILoginManager* pLoginManager = m_userManager.GetLoginManager())
+    {
+        pLoginManager->AddObserver(m_pObserver.get());
+    }
+
+    // The time zone is shown or not from the start; a change takes effect after a restart.
+    m_pTimeZone->setText(m_configService.GetStored().basic.showTimeZone ? GetTimeZoneText() : QString());
+    m_configService.SetSavedHandler([this] { ApplySettings(); });
+    m_configService.SetProblemHandler([](const QString& strProblem) {
+        KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(strProblem);
+    });
+    ApplySettings();
+}
+
+MainWindow::~MainWindow()
+{
+    m_configService.SetSavedHandler({});
+    m_configService.SetProblemHandler({});
+    if (UserLogical::ILoginManager* pLoginManager = m_userManager.GetLoginManager())
+    {
+        pLoginManager->RemoveObserver(m_pObserver.get());
+    }
+}
+
+void MainWindow::ApplySettings()
+{
+    const Settings& settings = m_configService.GetStored();
+    const int nClientSize = settings.basic.clientSize;
+    if (nClientSize >= 0 && nClientSize < int(std::size(g_arrClientSizes)))
+    {
+        resize(g_arrClientSizes[nClientSize].boundedTo(screen()->availableSize()));
+    }
+    m_pSplitView->SetSplit(settings.video.nDefaultSplit);
+}
+
+void MainWindow::OpenSettings()
+{
+    LocalConfig::CLocalConfig dialog(this);
+    if (dialog.Init(&m_configService, &m_userManager) != 0)
+    {
+        return;
+    }
+    dialog.InitDialogSize();
+    dialog.exec();
+    dialog.UnInitUI();
+}
+
+} // namespace LocalConfigClient

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "RecordFields.h"
+
+#include <functional>
+#include <optional>
+
+namespace LocalConfigClient
+{
+
+/// A section whose working record is all there is to it.
+template <class Interface, class Record>
+class RecordSection final : public Interface
+{
+public:
+    explicit RecordSection(Record& working)
+        : m_working(working)
+    {}
+
+    int SetConfig(const Record& record) override
+    {
+        m_working = record;
+        return 0;
+    }
+
+    void GetConfig(Record& record) override { record = m_working; }
+
+private:
+    Record& m_working;
+};
+
+/// The Basic section also hears whether the system's auto-start entry names this client.
+class BasicSection final : public LocalConfigLogical::IBasicSection
+{
+public:
+    explicit BasicSection(LocalConfigLogical::BasicConfigInfo& working)
+        : m_working(working)
+    {}
+
+    void SetAutoRunState(bool bAutoRun) override { m_autoRunEntry = bAutoRun; }
+
+    int SetConfig(const LocalConfigLogical::BasicConfigInfo& record) override
+    {
+        m_working = record;
+        return 0;
+    }
+
+    void GetConfig(LocalConfigLogical::BasicConfigInfo& record) override { record = m_working; }
+
+    /// What the page has seen of the system's entry; nothing before it was shown.
+    std::optional<bool> GetAutoRunEntry() const { return m_autoRunEntry; }
+
+private:
+    LocalConfigLogical::BasicConfigInfo& m_working;
+    std::optional<bool> m_autoRunEntry;
+};
+
+/// The Alarm section keeps changes that are not to persist in the working record alone, where ResetConfig drops them.
+class AlarmSection final : public LocalConfigLogical::IAlarmSection
+{
+public:
+    AlarmSection(LocalConfigLogical::AlarmConfigInfo& working, LocalConfigLogical::AlarmConfigInfo& stored)
+        : m_working(working)
+        , m_stored(stored)
+    {}
+
+    int SetConfig(const LocalConfigLogical::AlarmConfigInfo& record, bool bPersist) override
+    {
+        m_working = record;
+        if (bPersist)
+        {
+            m_stored = record;
+        }
+        return 0;
+    }
+
+    void GetConfig(LocalConfigLogical::AlarmConfigInfo& record) override { record = m_working; }
+
+    void ResetConfig(bool bUseDefaults) override
+    {
+        m_working = m_stored;
+        if (bUseDefaults)
+        {
+            // The maps tell which categories and types there are, so their keys stay.
+            LocalConfigLogical::AlarmConfigInfo defaults;
+            defaults.flashCategories = m_stored.flashCategories;
+            defaults.alarmSounds = m_stored.alarmSounds;
+            m_working = defaults;
+        }
+    }
+
+    void PrepareSave() override {} // the working record is all that a save needs
+
+private:
+    LocalConfigLogical::AlarmConfigInfo& m_working;
+    LocalConfigLogical::AlarmConfigInfo& m_stored;
+};
+
+} // namespace LocalConfigClient

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "RecordFields.h"
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QString>
+
+namespace LocalConfigClient
+{
+
+/// The nine records as one JSON document: {"version": 1, "sections": {"basic": {...}, ...}}.
+///
+/// Numbers must be whole and within the field's range. Byte strings are text, or {"base64": "..."} when the bytes are
+/// no UTF-8. Maps are objects whose keys are decimal numbers. A missing key stands for the field's default. Keys that
+/// this version does not know survive reading and writing, at every level.
+class SettingsDocument
+{
+public:
+    enum Result
+    {
+        Good,
+        Damaged,
+        Newer ///< written by a later version, whose meaning this one cannot know
+    };
+
+    /// Takes a document over. Nothing changes unless the result is Good.
+    /// \param pError  where not null, gets what is wrong and where, for people
+    Result Parse(const QByteArray& content, QString* pError = nullptr);
+
+    const Settings& GetSettings() const { return m_settings; }
+    void SetSettings(const Settings& settings) { m_settings = settings; }
+
+    /// The same settings always give the same bytes.
+    QByteArray Serialize() const;
+
+private:
+    Settings m_settings;
+    QJsonObject m_root; // as it was read, for the keys that this version does not know
+};
+
+/// Whether all fields of two sets of settings are equal.
+bool operator==(const Settings& left, const Settings& right);
+inline bool operator!=(const Settings& left, const Settings& right)
+{
+    return !(left == right);
+}
+
+} // namespace LocalConfigClient

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QVector>
+#include <QWidget>
+
+namespace LocalConfigClient
+{
+
+/// The live-view area: one pane for each video window of the current split.
+class SplitView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SplitView(QWidget* pParent);
+
+    /// \param nSplit  1, 4, 6, 8, 9, 13, 16, 20, 25 or 36; any other number leaves the view as it is
+    void SetSplit(int nSplit);
+    int GetSplit() const { return m_nSplit; }
+
+    /// The panes of a split within an area, in reading order of their first row; empty for an unknown split.
+    static QVector<QRect> GetPanes(int nSplit, const QRect& area);
+
+protected:
+    void paintEvent(QPaintEvent* pEvent) override;
+
+private:
+    int m_nSplit = 4;
+};
+
+} // namespace LocalConfigClient

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <LocalConfig/interfaces/IUserManager.h>
+
+#include <QSet>
+
+namespace LocalConfigClient
+{
+
+/// The rights of the user who is logged in: all but the missing ones.
+class UserRight final : public UserLogical::IUserRight
+{
+public:
+    explicit UserRight(const QSet<int>& setMissing)
+        : m_setMissing(setMissing)
+    {}
+
+    bool HasRight(int nRight) override { return !m_setMissing.contains(nRight); }
+
+private:
+    QSet<int> m_setMissing;
+};
+
+/// The client's user manager. One rights object serves everybody who asks, so handing it back does nothing.
+class UserManager final : public UserLogical::IUserManager
+{
+public:
+    /// \param pLoginManager  not owned; may be null
+    UserManager(const QSet<int>& setMissingRights, UserLogical::ILoginManager* pLoginManager)
+        : m_right(setMissingRights)
+        , m_pLoginManager(pLoginManager)
+    {}
+
+    UserLogical::ILoginManager* GetLoginManager() override { return m_pLoginManager; }
+    UserLogical::IUserRight* GetUserRight() override { return &m_right; }
+    void ReleaseUserRight(UserLogical::IUserRight* /*pUserRight*/) override {}
+
+private:
+    UserRight m_right;
+    UserLogical::ILoginManager* m_pLoginManager;
+};
+
+} // namespace LocalConfigClient

@@ -1,0 +1,10 @@
+#include "KvComboBox.h"
+
+namespace KVGUI
+{
+
+KvComboBox::KvComboBox(QWidget* pParent)
+    : QComboBox(pParent)
+{}
+
+} // namespace KVGUI

@@ -1,0 +1,176 @@
+#include "KvDialog.h"
+
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace KVGUI
+{
+
+namespace
+{
+
+constexpr int g_nTitleBarHeight = 36;
+constexpr int g_nBorder = 1;
+
+} // namespace
+
+KvDialog::KvDialog(QWidget* pParent)
+    : QDialog(pParent, Qt::Dialog | Qt::FramelessWindowHint)
+    , m_pTitleBar(new QWidget(this))
+    , m_pTitleLabel(new QLabel(m_pTitleBar))
+    , m_pCloseButton(new QToolButton(m_pTitleBar))
+    , m_pContent(new QWidget(this))
+{
+    setAttribute(Qt::WA_StyledBackground); // a style sheet's border is drawn only then
+
+    m_pTitleBar->setObjectName(QStringLiteral("titleBar"));
+    m_pTitleBar->setAttribute(Qt::WA_StyledBackground);
+    m_pTitleBar->setFixedHeight(g_nTitleBarHeight);
+    m_pTitleBar->installEventFilter(this);
+    m_pTitleLabel->setObjectName(QStringLiteral("titleLabel"));
+    m_pTitleLabel->setTextFormat(Qt::PlainText);
+    m_pTitleLabel->setMinimumWidth(0);
+    m_pTitleLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_pTitleLabel->installEventFilter(this);
+    m_pCloseButton->setObjectName(QStringLiteral("btnClose"));
+    m_pCloseButton->setAccessibleName(tr("Close"));
+    m_pCloseButton->setToolTip(tr("Close"));
+    m_pCloseButton->setFocusPolicy(Qt::TabFocus);
+    m_pCloseButton->setFixedSize(28, 28);
+
+    auto* pBarLayout = new QHBoxLayout(m_pTitleBar);
+    pBarLayout->setContentsMargins(16, 0, 4, 0);
+    pBarLayout->setSpacing(8);
+    pBarLayout->addWidget(m_pTitleLabel, 1);
+    pBarLayout->addWidget(m_pCloseButton);
+
+    auto* pLayout = new QVBoxLayout(this);
+    pLayout->setContentsMargins(g_nBorder, g_nBorder, g_nBorder, g_nBorder);
+    pLayout->setSpacing(0);
+    pLayout->addWidget(m_pTitleBar);
+    pLayout->addWidget(m_pContent, 1);
+
+    connect(m_pCloseButton, &QToolButton::clicked, this, [this] { OnCloseBtmClicked(); });
+}
+
+void KvDialog::SetTitle(const QString& strTitle)
+{
+    setWindowTitle(strTitle);
+    ElideTitle();
+}
+
+void KvDialog::OnCloseBtmClicked()
+{
+    QDialog::reject();
+}
+
+void KvDialog::reject()
+{
+    // Escape and, through QDialog's own close event, the window manager arrive here.
+    OnCloseBtmClicked();
+}
+
+void KvDialog::setVisible(bool bVisible)
+{
+    if (bVisible && !testAttribute(Qt::WA_Resized))
+    {
+        // Left alone, a dialog would not take more than two thirds of the screen, whatever its content needs.
+        ensurePolished();
+        resize(sizeHint());
+    }
+    QDialog::setVisible(bVisible);
+}
+
+QWidget* KvDialog::GetContentWidget() const
+{
+    return m_pContent;
+}
+
+void KvDialog::SetCloseButtonVisible(bool bVisible)
+{
+    m_pCloseButton->setVisible(bVisible);
+}
+
+void KvDialog::MoveToEndOfTabOrder(QWidget* pWidget)
+{
+    // The focus chain is a ring that starts with the dialog.
+    if (previousInFocusChain() != pWidget)
+    {
+        setTabOrder(previousInFocusChain(), pWidget);
+    }
+}
+
+void KvDialog::OrderTitleBarLast()
+{
+    MoveToEndOfTabOrder(m_pCloseButton);
+}
+
+void KvDialog::ElideTitle()
+{
+    const int nWidth = m_pTitleLabel->contentsRect().width();
+    m_pTitleLabel->setText(m_pTitleLabel->fontMetrics().elidedText(windowTitle(), Qt::ElideRight, nWidth));
+}
+
+bool KvDialog::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    if (pWatched == m_pTitleLabel)
+    {
+        if (pEvent->type() == QEvent::Resize || pEvent->type() == QEvent::FontChange)
+        {
+            ElideTitle();
+        }
+    }
+    else if (pWatched == m_pTitleBar)
+    {
+        auto* pMouse = static_cast<QMouseEvent*>(pEvent);
+        switch (pEvent->type())
+        {
+        case QEvent::MouseButtonPress:
+            if (pMouse->button() == Qt::LeftButton && !windowHandle()->startSystemMove())
+            {
+                m_bDragging = true;
+                m_dragOffset = pMouse->globalPos() - pos();
+            }
+            return true;
+        case QEvent::MouseMove:
+            if (m_bDragging && (pMouse->buttons() & Qt::LeftButton))
+            {
+                move(pMouse->globalPos() - m_dragOffset);
+            }
+            return true;
+        case QEvent::MouseButtonRelease:
+            m_bDragging = false;
+            return true;
+        default:
+            break;
+        }
+    }
+    return QDialog::eventFilter(pWatched, pEvent);
+}
+
+void KvDialog::showEvent(QShowEvent* pEvent)
+{
+    QDialog::showEvent(pEvent);
+    ElideTitle();
+    OrderTitleBarLast();
+    if (m_bPlaced || testAttribute(Qt::WA_Moved))
+    {
+        return;
+    }
+    m_bPlaced = true;
+    const QWidget* pWindow = parentWidget() ? parentWidget()->window() : nullptr;
+    const QRect available = (pWindow && pWindow->isVisible() ? pWindow->screen() : screen())->availableGeometry();
+    QRect place(QPoint(), size());
+    place.moveCenter(pWindow && pWindow->isVisible() ? pWindow->geometry().center() : available.center());
+    place.moveTo(qMax(available.left(), qMin(place.left(), available.right() + 1 - place.width())),
+                 qMax(available.top(), qMin(place.top(), available.bottom() + 1 - place.height())));
+    move(place.topLeft());
+}
+
+} // namespace KVGUI

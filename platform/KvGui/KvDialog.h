@@ -1,0 +1,55 @@
+#pragma once
+
+#include <KvGui/KvGuiExport.h>
+
+#include <QDialog>
+
+class QLabel;
+class QToolButton;
+
+namespace KVGUI
+{
+
+/// Frameless dialog with the client's title bar, which drags the window and has a close button.
+///
+/// The close button ("btnClose"), Escape and the window manager's close all go through OnCloseBtmClicked, and nothing
+/// else closes the dialog but accept, done and hide.
+class KVGUI_EXPORT KvDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit KvDialog(QWidget* pParent = nullptr);
+
+    /// The text of the title bar and of the window in the task bar.
+    void SetTitle(const QString& strTitle);
+
+    /// Closes the dialog with the result Rejected. An override that does not call this keeps the dialog open.
+    virtual void OnCloseBtmClicked();
+
+    void reject() override;
+    void setVisible(bool bVisible) override;
+
+protected:
+    /// The area below the title bar, still without a layout.
+    QWidget* GetContentWidget() const;
+    void SetCloseButtonVisible(bool bVisible);
+    void MoveToEndOfTabOrder(QWidget* pWidget);
+    void OrderTitleBarLast();
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+    void showEvent(QShowEvent* pEvent) override;
+
+private:
+    void ElideTitle();
+
+    QWidget* m_pTitleBar;
+    QLabel* m_pTitleLabel;
+    QToolButton* m_pCloseButton;
+    QWidget* m_pContent;
+    QPoint m_dragOffset;
+    bool m_bDragging = false;
+    bool m_bPlaced = false;
+};
+
+} // namespace KVGUI

@@ -1,0 +1,10 @@
+#include "KvListWidget.h"
+
+namespace KVGUI
+{
+
+KvListWidget::KvListWidget(QWidget* pParent)
+    : QListWidget(pParent)
+{}
+
+} // namespace KVGUI

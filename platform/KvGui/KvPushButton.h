@@ -1,0 +1,20 @@
+#pragma once
+
+#include <KvGui/KvGuiExport.h>
+
+#include <QPushButton>
+
+namespace KVGUI
+{
+
+/// Push button with the client's look.
+class KVGUI_EXPORT KvPushButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit KvPushButton(QWidget* pParent = nullptr);
+    explicit KvPushButton(const QString& strText, QWidget* pParent = nullptr);
+};
+
+} // namespace KVGUI

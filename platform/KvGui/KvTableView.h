@@ -1,0 +1,27 @@
+#pragma once
+
+#include <KvGui/KvGuiExport.h>
+
+#include <QTableView>
+
+namespace KVGUI
+{
+
+/// Table with the client's look. The model names the width of a column, in pixels, under the header role
+/// ColumnWidthRole; columns without one keep their default width.
+class KVGUI_EXPORT KvTableView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    static constexpr int ColumnWidthRole = Qt::UserRole + 110; // 366
+
+    explicit KvTableView(QWidget* pParent = nullptr);
+
+    void setModel(QAbstractItemModel* pModel) override;
+
+private:
+    void ApplyColumnWidths();
+};
+
+} // namespace KVGUI

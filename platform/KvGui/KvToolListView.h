@@ -1,0 +1,65 @@
+#pragma once
+
+#include <KvGui/KvGuiExport.h>
+
+#include <QColor>
+#include <QListView>
+
+class QStandardItemModel;
+
+namespace KVGUI
+{
+
+/// Navigation list of icons and texts.
+///
+/// An entry's index is its place in the order of AddItem and never changes, also when entries before it are removed.
+/// Mouse, arrow keys, Home and End pick an entry. The colours are properties, so that style sheets can set them.
+class KVGUI_EXPORT KvToolListView : public QListView
+{
+    Q_OBJECT
+    Q_PROPERTY(QColor accentColor MEMBER m_accentColor NOTIFY SignalColorChanged)
+    Q_PROPERTY(QColor hoverColor MEMBER m_hoverColor NOTIFY SignalColorChanged)
+    Q_PROPERTY(QColor selectedColor MEMBER m_selectedColor NOTIFY SignalColorChanged)
+    Q_PROPERTY(QColor selectedTextColor MEMBER m_selectedTextColor NOTIFY SignalColorChanged)
+    Q_PROPERTY(QColor focusColor MEMBER m_focusColor NOTIFY SignalColorChanged)
+
+public:
+    explicit KvToolListView(QWidget* pParent = nullptr);
+
+    void AddItem(const QIcon& icon, const QString& strText);
+
+    /// Takes an entry out; an unknown index does nothing.
+    void RemoveItem(int nIndex);
+
+    /// Makes an entry current and emits when that changes something; an unknown index does nothing.
+    void SetCurrentIndex(int nIndex);
+
+    /// -1 when no entry is current.
+    int GetCurrentIndex() const;
+
+signals:
+    /// The current entry changed, or the user picked the current one again (with the mouse, Home, End, Enter or Space).
+    void SignalCurrentIndexChanged(int nIndex);
+    void SignalColorChanged();
+
+protected:
+    void mousePressEvent(QMouseEvent* pEvent) override;
+    void keyPressEvent(QKeyEvent* pEvent) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+private:
+    friend class CToolListDelegate;
+
+    QModelIndex Find(int nIndex) const;
+    void PickAgainUnlessChanged(const QModelIndex& before);
+
+    QStandardItemModel* m_pModel;
+    int m_nNextIndex = 0;
+    QColor m_accentColor;
+    QColor m_hoverColor;
+    QColor m_selectedColor;
+    QColor m_selectedTextColor;
+    QColor m_focusColor;
+};
+
+} // namespace KVGUI

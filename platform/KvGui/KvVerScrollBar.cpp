@@ -1,0 +1,10 @@
+#include "KvVerScrollBar.h"
+
+namespace KVGUI
+{
+
+KvVerScrollBar::KvVerScrollBar(QWidget* pParent)
+    : QScrollBar(Qt::Vertical, pParent)
+{}
+
+} // namespace KVGUI

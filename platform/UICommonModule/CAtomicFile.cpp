@@ -1,0 +1,86 @@
+#include "CAtomicFile.h"
+
+#include "CErrorCode.h"
+#include "FileSystem.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace UICommonMdl
+{
+
+int CAtomicFile::Write(const QString& strFile, const QByteArray& content)
+{
+    const QFileInfo info(strFile);
+    if (!info.absoluteDir().exists())
+    {
+        return CErrorCode::FolderMissing;
+    }
+    if (info.exists() && !info.isFile())
+    {
+        return CErrorCode::IoError;
+    }
+
+    // Unbuffered, so that the system's error is the one of the call that failed.
+    QSaveFile file(strFile);
+    ClearSystemError();
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+    {
+        return GetSystemError();
+    }
+    qint64 nWritten = 0;
+    while (nWritten < content.size())
+    {
+        const qint64 nStep = file.write(content.constData() + nWritten, content.size() - nWritten);
+        if (nStep <= 0)
+        {
+            const int nError = GetSystemError();
+            file.cancelWriting();
+            return nError;
+        }
+        nWritten += nStep;
+    }
+    if (!FlushFile(file.handle()))
+    {
+        const int nError = GetSystemError();
+        file.cancelWriting();
+        return nError;
+    }
+    if (!file.commit())
+    {
+        return GetSystemError();
+    }
+    // The new file is complete; only its name may not be on the disk yet.
+    return FlushFolder(QFileInfo(file.fileName()).absolutePath()) ? int(CErrorCode::Success) : GetSystemError();
+}
+
+int CAtomicFile::Read(const QString& strFile, QByteArray& content)
+{
+    content.clear();
+    const QFileInfo info(strFile);
+    if (!info.exists())
+    {
+        // A file behind a folder that may not be entered is not a missing one.
+        return info.isSymLink() || CanSeeInto(info.absolutePath()) ? CErrorCode::FileMissing : CErrorCode::NoPermission;
+    }
+    if (!info.isFile())
+    {
+        return CErrorCode::Unreadable;
+    }
+    QFile file(strFile);
+    ClearSystemError();
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    {
+        return GetSystemError();
+    }
+    const QByteArray read = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+    {
+        return CErrorCode::IoError;
+    }
+    content = read;
+    return CErrorCode::Success;
+}
+
+} // namespace UICommonMdl

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <UICommonModule/UICommonModuleExport.h>
+
+#include <QString>
+
+namespace UICommonMdl
+{
+
+/// What all parts of the client share. To be used on the GUI thread.
+class UICOMMONMODULE_EXPORT CGlobalInfo
+{
+public:
+    /// The client's language: "en" or "zh_CN". Until it is set, what Localcfg.ini in the working folder names under
+    /// [Language] type (0 "en", 1 "zh_CN"), read once; anything else counts as "en".
+    static QString GetClientStrLanguage();
+    static void SetClientStrLanguage(const QString& strLanguage);
+
+    /// The folder of the client's skins, translations and data files, without a separator at the end:
+    /// $KV_CLIENT_RESOURCES when set, else ../share/local-config-client beside the application's folder when there is
+    /// one, else the application's folder.
+    static QString GetResourcePath();
+};
+
+} // namespace UICommonMdl

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <UICommonModule/UICommonModuleExport.h>
+
+#include <QString>
+#include <QVariant>
+
+namespace UICommonMdl
+{
+
+/// The client's ini files. A bare file name lies in the client's working folder.
+class UICOMMONMODULE_EXPORT CLocalIniFile
+{
+public:
+    /// Sets one key and leaves every other byte of the file as it is: keys, comments, order, line ends. The file is
+    /// replaced as a whole (see CAtomicFile), made when it is missing, and not touched when the value stands there
+    /// already. Group and key are case-sensitive. QSettings reads the value back as it was given; a bool is written
+    /// as "true" or "false".
+    /// \return false when the file cannot be read or written; it is then as it was
+    static bool WriteValue(const QString& strGroup, const QString& strKey, const QVariant& value,
+                           const QString& strFileName);
+
+    /// The text of a key; \a strDefault when file, group or key is missing.
+    static QString ReadValue(const QString& strGroup, const QString& strKey, const QString& strDefault,
+                             const QString& strFileName);
+};
+
+} // namespace UICommonMdl

@@ -1,0 +1,116 @@
+#include "CPathEdit.h"
+
+#include <QCompleter>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileSystemModel>
+#include <QStyle>
+#include <QToolButton>
+
+namespace UICommonMdl
+{
+
+namespace
+{
+
+constexpr int g_nButtonSize = 24;
+constexpr int g_nButtonMargin = 4;
+
+} // namespace
+
+CPathEdit::CPathEdit(QWidget* pParent)
+    : KvLineEdit(pParent)
+    , m_pBrowseButton(new QToolButton(this))
+{
+    m_pBrowseButton->setObjectName(QStringLiteral("btnBrowse"));
+    m_pBrowseButton->setAccessibleName(tr("Browse"));
+    m_pBrowseButton->setToolTip(tr("Browse"));
+    m_pBrowseButton->setCursor(Qt::ArrowCursor);
+    m_pBrowseButton->setFocusPolicy(Qt::TabFocus);
+    setTextMargins(0, 0, g_nButtonSize + g_nButtonMargin, 0);
+    connect(m_pBrowseButton, &QToolButton::clicked, this, &CPathEdit::OnBrowse);
+    connect(this, &CPathEdit::textChanged, this, &CPathEdit::CheckLength);
+}
+
+CPathEdit::BrowseMode CPathEdit::GetBrowseMode() const
+{
+    return m_eBrowseMode;
+}
+
+void CPathEdit::SetBrowseMode(BrowseMode eMode)
+{
+    m_eBrowseMode = eMode;
+    if (eMode == BrowseByOwner)
+    {
+        setCompleter(nullptr);
+    }
+}
+
+void CPathEdit::SetTipParentWidget(QWidget* pTipParent)
+{
+    m_pTipParent = pTipParent;
+}
+
+void CPathEdit::SetMaxInputParam(int nMaxBytes, const QString& strMessage)
+{
+    m_nMaxBytes = nMaxBytes;
+    m_strMessage = strMessage;
+    CheckLength();
+}
+
+void CPathEdit::CheckLength()
+{
+    const bool bTooLong = m_nMaxBytes > 0 && text().toUtf8().size() > m_nMaxBytes;
+    if (bTooLong)
+    {
+        showErrorHint(m_pTipParent ? m_pTipParent : window(), true, m_strMessage);
+    }
+    else if (m_bTooLong)
+    {
+        showErrorHint(nullptr, true, QString());
+    }
+    m_bTooLong = bTooLong;
+}
+
+void CPathEdit::OnBrowse()
+{
+    if (m_eBrowseMode == BrowseFolder)
+    {
+        const QString strFolder =
+            QFileDialog::getExistingDirectory(this, tr("Select a folder"), QDir::fromNativeSeparators(text()));
+        if (!strFolder.isEmpty())
+        {
+            setText(QDir::toNativeSeparators(strFolder));
+        }
+    }
+    emit sgnPathBtnClicked();
+}
+
+void CPathEdit::keyPressEvent(QKeyEvent* pEvent)
+{
+    if (m_eBrowseMode == BrowseFolder && !completer())
+    {
+        AddCompleter(); // the model starts a thread of its own, which a page that is only looked at does not need
+    }
+    KvLineEdit::keyPressEvent(pEvent);
+}
+
+void CPathEdit::AddCompleter()
+{
+    auto* pCompleter = new QCompleter(this);
+    auto* pModel = new QFileSystemModel(pCompleter);
+    pModel->setFilter(QDir::AllDirs | QDir::Drives | QDir::NoDotAndDotDot);
+    pModel->setRootPath(QString());
+    pCompleter->setModel(pModel);
+    setCompleter(pCompleter);
+}
+
+void CPathEdit::resizeEvent(QResizeEvent* pEvent)
+{
+    KvLineEdit::resizeEvent(pEvent);
+    const QRect button(width() - g_nButtonSize - g_nButtonMargin, (height() - g_nButtonSize) / 2, g_nButtonSize,
+                       g_nButtonSize);
+    m_pBrowseButton->setGeometry(QStyle::visualRect(layoutDirection(), rect(), button));
+}
+
+} // namespace UICommonMdl

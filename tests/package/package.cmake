@@ -1,0 +1,28 @@
+# Installs the build into a fresh prefix, then configures, builds and runs a host that knows nothing but that prefix.
+# Variables: BUILD_DIR, SOURCE_DIR (of the host), WORK_DIR, GENERATOR, CXX, CXX_FLAGS
+
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "failed (${result}): ${ARGN}\n${output}")
+    endif()
+    set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+file(REMOVE_RECURSE "${WORK_DIR}")
+file(MAKE_DIRECTORY "${WORK_DIR}")
+run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${WORK_DIR}/prefix")
+run("${CMAKE_COMMAND}" -S "${SOURCE_DIR}" -B "${WORK_DIR}/build" -G "${GENERATOR}" "-DCMAKE_CXX_COMPILER=${CXX}"
+    "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}" "-DCMAKE_PREFIX_PATH=${WORK_DIR}/prefix")
+run("${CMAKE_COMMAND}" --build "${WORK_DIR}/build")
+
+# The installed libraries and resources must be found without help from the environment of the build tree.
+unset(ENV{KV_CLIENT_RESOURCES})
+run("${WORK_DIR}/build/package-host")
+if(NOT output MATCHES "Local Config: shown\n")
+    message(FATAL_ERROR "the host said: ${output}")
+endif()
+run("${WORK_DIR}/prefix/bin/local-config-client" --data-dir "${WORK_DIR}/data" --dump)
+if(NOT output MATCHES "\"sections\"")
+    message(FATAL_ERROR "the installed client said: ${output}")
+endif()

@@ -1,0 +1,118 @@
+#include <LocalConfig/widgets/CCombobox.h>
+
+#include <QAbstractItemView>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+#include <QtTest>
+
+using LocalConfig::CCombobox;
+
+namespace
+{
+
+/// Turns the wheel one step down over the middle of a widget.
+void TurnWheel(QWidget* pWidget)
+{
+    const QPointF pos(pWidget->rect().center());
+    QWheelEvent event(pos, pWidget->mapToGlobal(pos.toPoint()), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&event); // events of the program's own do not travel to parents
+    qApp->notify(pWidget, &event);
+}
+
+void Fill(CCombobox& combo)
+{
+    combo.addItems({"One", "Two", "Three"});
+    combo.setCurrentIndex(1);
+}
+
+} // namespace
+
+class tst_Combobox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void IsTheClientsComboBox();
+    void TheWheelScrollsTheAreaAround();
+    void TheWheelWithoutAScrollAreaChangesNothing();
+    void ArrowKeysSelect();
+    void ThePopupSelectsByMouse();
+};
+
+void tst_Combobox::IsTheClientsComboBox()
+{
+    const CCombobox combo(nullptr);
+    QCOMPARE(combo.metaObject()->className(), "LocalConfig::CCombobox");
+    QVERIFY(combo.inherits("KVGUI::KvComboBox"));
+    QCOMPARE(CCombobox::staticMetaObject.methodCount(), CCombobox::staticMetaObject.methodOffset());
+}
+
+void tst_Combobox::TheWheelScrollsTheAreaAround()
+{
+    QScrollArea area;
+    auto* pContents = new QWidget;
+    pContents->setFixedSize(200, 2000);
+    CCombobox combo(pContents);
+    Fill(combo);
+    area.setWidget(pContents);
+    area.resize(220, 200);
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    combo.setFocus();
+
+    TurnWheel(&combo);
+    QVERIFY(area.verticalScrollBar()->value() > 0);
+    QCOMPARE(combo.currentIndex(), 1);
+    area.takeWidget();
+    combo.setParent(nullptr);
+    delete pContents;
+}
+
+void tst_Combobox::TheWheelWithoutAScrollAreaChangesNothing()
+{
+    CCombobox combo(nullptr);
+    Fill(combo);
+    combo.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&combo));
+    combo.setFocus();
+    TurnWheel(&combo);
+    QCOMPARE(combo.currentIndex(), 1);
+}
+
+void tst_Combobox::ArrowKeysSelect()
+{
+    CCombobox combo(nullptr);
+    Fill(combo);
+    combo.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&combo));
+    QTest::keyClick(&combo, Qt::Key_Down);
+    QCOMPARE(combo.currentIndex(), 2);
+    QTest::keyClick(&combo, Qt::Key_Up);
+    QTest::keyClick(&combo, Qt::Key_Up);
+    QCOMPARE(combo.currentIndex(), 0);
+}
+
+void tst_Combobox::ThePopupSelectsByMouse()
+{
+    CCombobox combo(nullptr);
+    Fill(combo);
+    combo.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&combo));
+    QApplication::setDoubleClickInterval(20); // for that long the popup takes a release for the opening click's
+    combo.showPopup();
+    QAbstractItemView* pView = combo.view();
+    QTRY_VERIFY(pView->isVisible());
+    QTest::qWait(40);
+    const QRect item = pView->visualRect(pView->model()->index(2, 0));
+    QMouseEvent move(QEvent::MouseMove, item.center(), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(pView->viewport(), &move);
+    QTest::mouseClick(pView->viewport(), Qt::LeftButton, {}, item.center());
+    QTRY_COMPARE(combo.currentIndex(), 2);
+}
+
+QTEST_MAIN(tst_Combobox)
+
+#include "tst_Combobox.moc"

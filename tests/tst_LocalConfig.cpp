@@ -1,0 +1,1292 @@
+#include "support/FakeHost.h"
+#include "support/FakePages.h"
+
+#include <KvGui/KvHorScrollBar.h>
+#include <KvGui/KvMessageNotify.h>
+#include <KvGui/KvToolListView.h>
+#include <KvGui/KvVerScrollBar.h>
+#include <LocalConfig/CGroupBox.h>
+#include <LocalConfig/CLocalConfig.h>
+#include <UICommonModule/CErrorCode.h>
+#include <UICommonModule/Pxa.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDesktopWidget>
+#include <QLabel>
+#include <QLayout>
+#include <QMetaMethod>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QThread>
+#include <QtTest>
+
+#include <thread>
+
+using namespace LocalConfig;
+using KVGUI::KvToolListView;
+
+namespace
+{
+
+struct SBox
+{
+    int nIndex;
+    const char* pszBox;
+    const char* pszLayout;
+    int nMinimumHeight;
+    const char* pszText;
+    const char* pszPage;
+    int nSectionType;
+};
+
+const SBox g_arrBoxes[] = {
+    {0, "m_gBBasic", "horizontalLayout_2", 462, "Basic", "m_pBasic", 1},
+    {1, "m_gBVideo", "horizontalLayout_3", 841, "Video", "m_pVideo", 2},
+    {2, "m_gBPlayback", "horizontalLayout_4", 168, "Record Playback", "m_pPlayback", 3},
+    {3, "m_gBCapture", "horizontalLayout_5", 446, "Snapshot", "m_pCapture", 4},
+    {4, "m_gBRecord", "horizontalLayout_6", 286, "Recording", "m_pRecord", 5},
+    {5, "m_gBAlarm", "horizontalLayout_8", 522, "Alarm", "m_pAlarm", 6},
+    {6, "m_gBTvwall", "horizontalLayout_9", 390, "Video Wall", "m_pTvWall", 8},
+    {7, "m_gBSecurity", "horizontalLayout_10", 84, "Security", "m_pSecurity", 9},
+    {8, "m_gShortcutKey", "horizontalLayout_7", 790, "Shortcut Keys", "m_pKey", 7},
+};
+
+const QStringList g_listPageOrder = {"Basic", "Video",       "Playback", "Snapshot", "Record",
+                                     "Alarm", "ShortcutKey", "TvWall",   "Security"};
+const QStringList g_listRefusedOrder = {"Basic", "Video",  "Playback", "Snapshot",   "Record",
+                                        "Alarm", "TvWall", "Security", "ShortcutKey"};
+
+QStringList Each(const QStringList& listNames, const QString& strCall)
+{
+    QStringList listCalls;
+    for (const QString& strName : listNames)
+    {
+        listCalls += strName + QLatin1Char(' ') + strCall;
+    }
+    return listCalls;
+}
+
+QStringList Without(QStringList listNames, const QString& strName)
+{
+    listNames.removeAll(strName);
+    return listNames;
+}
+
+/// The dialog with its fake host, taken down in the order that a host follows.
+struct SDialog
+{
+    explicit SDialog(SFakeHost& host)
+        : host(host)
+        , dialog(nullptr)
+    {}
+
+    ~SDialog()
+    {
+        dialog.hide();
+        dialog.UnInitUI();
+    }
+
+    void Init() { nInitResult = dialog.Init(&host.localConfig, &host.userManager); }
+
+    void InitAndShow()
+    {
+        Init();
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        WaitForLayout();
+        host.journal.Take();
+    }
+
+    /// Past the delayed computation of the content's height.
+    static void WaitForLayout() { QTest::qWait(80); }
+
+    CGroupBox* Box(int nIndex) { return dialog.findChild<CGroupBox*>(g_arrBoxes[nIndex].pszBox); }
+    KvToolListView* List() { return dialog.findChild<KvToolListView*>("m_pToolListView"); }
+    QScrollArea* ScrollArea() { return dialog.findChild<QScrollArea*>("scrollArea"); }
+    QScrollBar* ScrollBar() { return ScrollArea()->verticalScrollBar(); }
+    QWidget* Contents() { return dialog.findChild<QWidget*>("scrollAreaWidgetContents"); }
+    QAbstractButton* Button(const char* pszName) { return dialog.findChild<QAbstractButton*>(pszName); }
+    void Click(const char* pszName) { QTest::mouseClick(Button(pszName), Qt::LeftButton); }
+
+    QList<int> SelectedBoxes()
+    {
+        QList<int> listIndices;
+        for (const SBox& box : g_arrBoxes)
+        {
+            if (Box(box.nIndex)->IsSelect())
+            {
+                listIndices += box.nIndex;
+            }
+        }
+        return listIndices;
+    }
+
+    SFakeHost& host;
+    CLocalConfig dialog;
+    int nInitResult = 0;
+};
+
+/// How many connections a signal has.
+class CReceivers : public QObject
+{
+public:
+    static int Count(const QObject* pSender, const char* pszSignal)
+    {
+        return (pSender->*(&CReceivers::receivers))(pszSignal);
+    }
+};
+
+} // namespace
+
+class tst_LocalConfig : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    // Host boundary
+    void MetaObjectOrder();
+    void InitWithoutAServiceRefuses_data();
+    void InitWithoutAServiceRefuses();
+    void InitAsksForTheWallRightAndRegistersTheObserver();
+    void TheObserverIsTheSubObject();
+    void WithoutARightsObjectThereIsNoWall();
+    void WithoutALoginManagerTheDialogWorks();
+    void UnInitReleasesThePagesInOrder();
+    void UnInitTwiceRemovesTheObserverOnce();
+    void TranslationContext();
+
+    // Dialog
+    void FormTree();
+    void GroupBoxes_data();
+    void GroupBoxes();
+    void GroupBoxTitlesAreEmptyBeforeInit();
+    void NavigationEntries();
+    void NavigationIconsComeFromTheirFolders_data();
+    void NavigationIconsComeFromTheirFolders();
+    void ButtonTexts();
+    void ScrollBarsAreTheClients();
+    void WithoutTheWallRight();
+    void PagesAreCreatedAtTheFirstShowInOrder();
+    void ShowingAgainCreatesNothing();
+    void PagesStandInTheirBoxes_data();
+    void PagesStandInTheirBoxes();
+    void ANullSectionIsHandedOver();
+    void AbsentPagesAreSkipped();
+    void AlarmRight45_data();
+    void AlarmRight45();
+    void NoServiceNoPages();
+    void ContentHeightCountsEveryBox_data();
+    void ContentHeightCountsEveryBox();
+    void ContentHeightIsStable();
+    void VideoPageGrows();
+    void DesktopHeightRule_data();
+    void DesktopHeightRule();
+    void InitDialogSizeAppliesTheRuleAgain();
+    void StyleSheetsComeFromTheSkin();
+
+    // Navigation
+    void BasicIsSelectedAtFirst();
+    void PickingAnEntryScrollsAndSelects_data();
+    void PickingAnEntryScrollsAndSelects();
+    void PickingTheCurrentEntryOnlyScrolls();
+    void PickedEntryStaysOutsideEveryBand();
+    void KeysMoveThroughTheSections();
+    void ScrollBand_data();
+    void ScrollBand();
+    void ClickingABoxSelectsWithoutScrolling();
+    void ConnectionsStaySingle();
+    void HiddenWallBoxKeepsItsIndex();
+    void SecurityAndShortcutKeysAreReachedWithoutTheWall();
+
+    // Save, defaults, cancel
+    void SaveStoresEveryPageThenAll();
+    void SaveErrorIsShownAndTheDialogCloses();
+    void ARefusedPageKeepsTheDialogOpen();
+    void KeptInput_data();
+    void KeptInput();
+    void OnlySnapshotAndRecordMayKeepTheirInput();
+    void DefaultReloadsWithDefaults();
+    void EveryWayToCloseReloads_data();
+    void EveryWayToCloseReloads();
+    void AfterUnInitNothingCloses();
+    void PagesKeepTheirStateForTheNextShowing();
+
+    // Connection state
+    void LoginStates_data();
+    void LoginStates();
+    void ReconnectReloadsNothing();
+    void WhileDisconnectedNavigationAndCloseStayUsable();
+    void NotificationFromAnotherThread();
+    void DisconnectBeforeTheFirstShow();
+    void WithoutWallEveryOperationSkipsIt();
+};
+
+void tst_LocalConfig::init()
+{
+    SFakePages::Instance() = SFakePages();
+    QApplication::desktop()->setGeometry(0, 0, 1920, 1080);
+}
+
+#define DIALOG                                                                                                         \
+    SFakeHost host;                                                                                                    \
+    SFakePages::Instance().pJournal = &host.journal;                                                                   \
+    SDialog d(host)
+
+// --- Host boundary
+
+void tst_LocalConfig::MetaObjectOrder()
+{
+    const QMetaObject& meta = CLocalConfig::staticMetaObject;
+    QCOMPARE(QByteArray(meta.className()), QByteArray("LocalConfig::CLocalConfig"));
+    QList<QByteArray> listMethods;
+    for (int n = meta.methodOffset(); n < meta.methodCount(); ++n)
+    {
+        listMethods += meta.method(n).methodSignature();
+    }
+    const QList<QByteArray> listExpected = {"SignalDisconnect()",
+                                            "SignalReconnect()",
+                                            "OnGroupBoxClicked(int)",
+                                            "OnToolListCurrentIndexChanged(int)",
+                                            "OnVerticalScrollBarChanged(int)",
+                                            "OnSaveBtnClicked()",
+                                            "OnResumeClicked()",
+                                            "OnBtnCancelClicked()",
+                                            "OnDisconnect()",
+                                            "OnReconnect()",
+                                            "OnAdjustVerticalScrollBar()",
+                                            "OnVideoConfigChangeSize()"};
+    QCOMPARE(listMethods, listExpected);
+}
+
+void tst_LocalConfig::InitWithoutAServiceRefuses_data()
+{
+    QTest::addColumn<bool>("bLocalConfig");
+    QTest::addColumn<bool>("bUserManager");
+    QTest::newRow("no configuration service") << false << true;
+    QTest::newRow("no user manager") << true << false;
+    QTest::newRow("neither") << false << false;
+}
+
+void tst_LocalConfig::InitWithoutAServiceRefuses()
+{
+    QFETCH(bool, bLocalConfig);
+    QFETCH(bool, bUserManager);
+    DIALOG;
+    QCOMPARE(d.dialog.Init(bLocalConfig ? &host.localConfig : nullptr, bUserManager ? &host.userManager : nullptr), -1);
+    d.dialog.show();
+    SDialog::WaitForLayout();
+    QCOMPARE(host.journal.Take(), QStringList());
+    QVERIFY(host.loginManager.m_listObservers.isEmpty());
+    QVERIFY(SFakePages::Instance().mapPages.isEmpty());
+    QCOMPARE(d.List()->GetCurrentIndex(), -1);
+}
+
+void tst_LocalConfig::InitAsksForTheWallRightAndRegistersTheObserver()
+{
+    DIALOG;
+    d.Init();
+    QCOMPARE(d.nInitResult, 0);
+    QCOMPARE(host.journal.Take(), (QStringList{"GetUserRight", "HasRight 26", "GetLoginManager", "AddObserver"}));
+    QVERIFY2(host.userManager.m_listReleased.isEmpty(), "Init keeps the rights object");
+}
+
+void tst_LocalConfig::TheObserverIsTheSubObject()
+{
+    DIALOG;
+    d.Init();
+    KvPluginAPI::IObserver* pObserver = &d.dialog;
+    QCOMPARE(host.loginManager.m_listObservers, QList<KvPluginAPI::IObserver*>{pObserver});
+    QVERIFY(static_cast<void*>(pObserver) != static_cast<void*>(&d.dialog));
+}
+
+void tst_LocalConfig::WithoutARightsObjectThereIsNoWall()
+{
+    DIALOG;
+    host.userManager.m_pUserRight = nullptr;
+    d.InitAndShow();
+    QVERIFY(!d.Box(6)->isVisible());
+    QVERIFY(!SFakePages::Instance().mapPages.contains(6));
+}
+
+void tst_LocalConfig::WithoutALoginManagerTheDialogWorks()
+{
+    DIALOG;
+    host.userManager.m_pLoginManager = nullptr;
+    d.InitAndShow();
+    QCOMPARE(d.nInitResult, 0);
+    d.Click("btnOk");
+    QVERIFY(host.journal.Take().contains("SaveAll"));
+    QVERIFY(!d.dialog.isVisible());
+}
+
+void tst_LocalConfig::UnInitReleasesThePagesInOrder()
+{
+    DIALOG;
+    d.InitAndShow();
+    d.dialog.hide();
+    d.dialog.UnInitUI();
+    QCOMPARE(host.journal.Take(), QStringList{"RemoveObserver"} + Each(g_listPageOrder, "UnInit"));
+    QVERIFY(host.loginManager.m_listObservers.isEmpty());
+}
+
+void tst_LocalConfig::UnInitTwiceRemovesTheObserverOnce()
+{
+    DIALOG;
+    d.InitAndShow();
+    d.dialog.hide();
+    d.dialog.UnInitUI();
+    host.journal.Take();
+    d.dialog.UnInitUI();
+    QCOMPARE(host.journal.Take(), Each(g_listPageOrder, "UnInit"));
+}
+
+void tst_LocalConfig::TranslationContext()
+{
+    class CTranslator : public QTranslator
+    {
+    public:
+        QString translate(const char* pszContext, const char* pszText, const char*, int) const override
+        {
+            return qstrcmp(pszContext, "CLocalConfig") == 0 ? QStringLiteral("<%1>").arg(pszText) : QString();
+        }
+        bool isEmpty() const override { return false; }
+    } translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    DIALOG;
+    d.Init();
+    QCOMPARE(d.dialog.windowTitle(), QString("<Local Config>"));
+    QCOMPARE(d.Button("btnOk")->text(), QString("<Save>"));
+    for (const SBox& box : g_arrBoxes)
+    {
+        QCOMPARE(d.Box(box.nIndex)->title(), QStringLiteral("<%1>").arg(box.pszText));
+    }
+}
+
+// --- Dialog
+
+void tst_LocalConfig::FormTree()
+{
+    DIALOG;
+    QWidget* pCentral = d.dialog.GetCentralWidget();
+    QCOMPARE(pCentral->objectName(), QString("CLocalConfig"));
+    QCOMPARE(d.dialog.objectName(), QString("CLocalConfig"));
+    QCOMPARE(pCentral->minimumSize(), QSize(943, 607));
+    QCOMPARE(pCentral->maximumSize(), QSize(943, 607));
+
+    const auto layout = [&d](const char* pszName) { return d.dialog.findChild<QBoxLayout*>(pszName); };
+    const auto check = [&](const char* pszName, QBoxLayout::Direction eDirection, int nSpacing, QMargins margins) {
+        QBoxLayout* pLayout = layout(pszName);
+        QVERIFY2(pLayout, pszName);
+        QCOMPARE(pLayout->direction(), eDirection);
+        QCOMPARE(pLayout->spacing(), nSpacing);
+        QCOMPARE(pLayout->contentsMargins(), margins);
+    };
+    check("verticalLayout_2", QBoxLayout::TopToBottom, 0, QMargins(1, 0, 1, 1));
+    check("horizontalLayout", QBoxLayout::LeftToRight, 0, QMargins(0, 0, 0, 1));
+    check("verticalLayout_3", QBoxLayout::TopToBottom, 0, QMargins(12, 12, 12, 12));
+    check("verticalLayout", QBoxLayout::TopToBottom, 19, QMargins(12, 12, 0, 12));
+    QCOMPARE(pCentral->layout(), layout("verticalLayout_2"));
+
+    auto* pCenter = d.dialog.findChild<QWidget*>("centerWidget");
+    QCOMPARE(pCenter->parentWidget(), pCentral);
+    QCOMPARE(pCenter->layout(), layout("horizontalLayout"));
+    auto* pPane = d.dialog.findChild<QWidget*>("widget");
+    QCOMPARE(pPane->parentWidget(), pCenter);
+    QCOMPARE(pPane->minimumSize(), QSize(254, 0));
+    QCOMPARE(pPane->maximumSize(), QSize(254, QWIDGETSIZE_MAX));
+    QCOMPARE(pPane->layout(), layout("verticalLayout_3"));
+
+    QCOMPARE(d.List()->parentWidget(), pPane);
+    QCOMPARE(d.List()->frameShape(), QFrame::StyledPanel);
+    QCOMPARE(d.List()->frameShadow(), QFrame::Raised);
+
+    QScrollArea* pArea = d.ScrollArea();
+    QCOMPARE(pArea->parentWidget(), pCenter);
+    QCOMPARE(pArea->frameShape(), QFrame::NoFrame);
+    QCOMPARE(pArea->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    QVERIFY(pArea->widgetResizable());
+    QCOMPARE(pArea->widget(), d.Contents());
+    QCOMPARE(d.Contents()->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
+    QCOMPARE(d.Contents()->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
+    QCOMPARE(d.Contents()->layout(), layout("verticalLayout"));
+    QCOMPARE(layout("verticalLayout")->count(), 9);
+}
+
+void tst_LocalConfig::GroupBoxes_data()
+{
+    QTest::addColumn<int>("nIndex");
+    for (const SBox& box : g_arrBoxes)
+    {
+        QTest::newRow(box.pszBox) << box.nIndex;
+    }
+}
+
+void tst_LocalConfig::GroupBoxes()
+{
+    QFETCH(int, nIndex);
+    const SBox& expected = g_arrBoxes[nIndex];
+    DIALOG;
+    d.Init();
+    CGroupBox* pBox = d.Box(nIndex);
+    QVERIFY(pBox);
+    QCOMPARE(d.Contents()->layout()->indexOf(pBox), nIndex);
+    QCOMPARE(pBox->minimumSize(), QSize(662, expected.nMinimumHeight));
+    QCOMPARE(pBox->maximumSize(), QSize(662, QWIDGETSIZE_MAX));
+    QCOMPARE(pBox->GetIndex(), nIndex);
+    QCOMPARE(pBox->title(), QString(expected.pszText));
+    auto* pLayout = qobject_cast<QHBoxLayout*>(pBox->layout());
+    QVERIFY(pLayout);
+    QCOMPARE(pLayout->objectName(), QString(expected.pszLayout));
+    QCOMPARE(pLayout->spacing(), 0);
+    QCOMPARE(pLayout->contentsMargins(), QMargins());
+}
+
+void tst_LocalConfig::GroupBoxTitlesAreEmptyBeforeInit()
+{
+    DIALOG;
+    for (const SBox& box : g_arrBoxes)
+    {
+        QVERIFY(d.Box(box.nIndex)->title().isEmpty());
+        QCOMPARE(d.Box(box.nIndex)->GetIndex(), -1);
+    }
+}
+
+void tst_LocalConfig::NavigationEntries()
+{
+    DIALOG;
+    d.InitAndShow();
+    QSignalSpy spy(d.List(), &KvToolListView::SignalCurrentIndexChanged);
+    d.List()->setFocus();
+    QTest::keyClick(d.List(), Qt::Key_Home);
+    for (int n = 1; n < 9; ++n)
+    {
+        QTest::keyClick(d.List(), Qt::Key_Down);
+        QCOMPARE(d.List()->GetCurrentIndex(), n);
+    }
+    QTest::keyClick(d.List(), Qt::Key_Down);
+    QCOMPARE(d.List()->GetCurrentIndex(), 8);
+}
+
+void tst_LocalConfig::NavigationIconsComeFromTheirFolders_data()
+{
+    QTest::addColumn<int>("nIndex");
+    QTest::addColumn<int>("nMode");
+    QTest::addColumn<QString>("strFolder");
+    QTest::addColumn<QString>("strFile");
+    struct SIcon
+    {
+        const char* pszName;
+        const char* arrFolders[3];
+    };
+    constexpr const char* P = "public";
+    constexpr const char* L = "LocalConfig";
+    const SIcon arrIcons[] = {{"general", {P, P, P}},   {"video", {L, L, L}},          {"playback", {P, P, L}},
+                              {"capture", {P, L, L}},   {"videorecord", {P, P, P}},    {"alert", {L, L, L}},
+                              {"settvwall", {L, L, L}}, {"SecurityConfig", {L, L, L}}, {"shortcut", {L, L, L}}};
+    const char* const arrSuffixes[] = {"-n.svg", "-h.svg", "-p.svg"};
+    const QIcon::Mode arrModes[] = {QIcon::Normal, QIcon::Active, QIcon::Selected};
+    for (int nIndex = 0; nIndex < 9; ++nIndex)
+    {
+        for (int n = 0; n < 3; ++n)
+        {
+            const QString strFile = QString(arrIcons[nIndex].pszName) + arrSuffixes[n];
+            QTest::newRow(qPrintable(strFile))
+                << nIndex << int(arrModes[n]) << arrIcons[nIndex].arrFolders[n] << strFile;
+        }
+    }
+}
+
+void tst_LocalConfig::NavigationIconsComeFromTheirFolders()
+{
+    // A resource folder with one file in it: the icon of one mode of one entry is not empty, all others are.
+    QFETCH(int, nIndex);
+    QFETCH(int, nMode);
+    QFETCH(QString, strFolder);
+    QFETCH(QString, strFile);
+
+    const QByteArray strResources = qgetenv("KV_CLIENT_RESOURCES");
+    QTemporaryDir folder;
+    qputenv("KV_CLIENT_RESOURCES", folder.path().toLocal8Bit());
+    const QString strPath = Pxa::GetSkinPath(strFolder, QString());
+    QVERIFY(strPath.startsWith(folder.path()));
+    QVERIFY(QDir().mkpath(strPath));
+    QFile file(strPath + strFile);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 20 20'><rect width='20' height='20'/></svg>");
+    file.close();
+
+    DIALOG;
+    d.Init();
+    qputenv("KV_CLIENT_RESOURCES", strResources);
+    auto* pView = qobject_cast<QAbstractItemView*>(d.List());
+    if (!pView)
+    {
+        pView = d.List()->findChild<QAbstractItemView*>();
+    }
+    QVERIFY(pView);
+    QCOMPARE(pView->model()->rowCount(), 9);
+    for (int nRow = 0; nRow < 9; ++nRow)
+    {
+        const QIcon icon = pView->model()->index(nRow, 0).data(Qt::DecorationRole).value<QIcon>();
+        for (int nOther : {int(QIcon::Normal), int(QIcon::Active), int(QIcon::Selected)})
+        {
+            const QPixmap pixmap = icon.pixmap(QSize(20, 20), QIcon::Mode(nOther), QIcon::Off);
+            QCOMPARE(!pixmap.isNull(), nRow == nIndex && nOther == nMode);
+        }
+    }
+}
+
+void tst_LocalConfig::ButtonTexts()
+{
+    DIALOG;
+    d.Init();
+    QCOMPARE(d.Button("btnOk")->text(), QString("Save"));
+    QCOMPARE(d.Button("btnOther")->text(), QString("Default"));
+    QCOMPARE(d.Button("btnCancel")->text(), QString("Cancel"));
+    QCOMPARE(d.dialog.windowTitle(), QString("Local Config"));
+}
+
+void tst_LocalConfig::ScrollBarsAreTheClients()
+{
+    DIALOG;
+    d.Init();
+    QVERIFY(qobject_cast<KVGUI::KvHorScrollBar*>(d.ScrollArea()->horizontalScrollBar()));
+    QVERIFY(qobject_cast<KVGUI::KvVerScrollBar*>(d.ScrollArea()->verticalScrollBar()));
+    QCOMPARE(d.ScrollArea()->horizontalScrollBar()->contextMenuPolicy(), Qt::NoContextMenu);
+    QCOMPARE(d.ScrollArea()->verticalScrollBar()->contextMenuPolicy(), Qt::NoContextMenu);
+}
+
+void tst_LocalConfig::WithoutTheWallRight()
+{
+    DIALOG;
+    host.userRight.m_setMissing = {26};
+    d.InitAndShow();
+    QVERIFY(!d.Box(6)->isVisible());
+    QVERIFY(d.Box(6)->title().isEmpty());
+    QCOMPARE(d.Box(6)->GetIndex(), 6);
+    QVERIFY(!SFakePages::Instance().mapPages.contains(6));
+    QCOMPARE(SFakePages::Instance().mapPages.size(), 8);
+
+    d.List()->setFocus();
+    QTest::keyClick(d.List(), Qt::Key_Home);
+    QList<int> listIndices = {d.List()->GetCurrentIndex()};
+    for (int n = 1; n < 8; ++n)
+    {
+        QTest::keyClick(d.List(), Qt::Key_Down);
+        listIndices += d.List()->GetCurrentIndex();
+    }
+    QCOMPARE(listIndices, (QList<int>{0, 1, 2, 3, 4, 5, 7, 8}));
+}
+
+void tst_LocalConfig::PagesAreCreatedAtTheFirstShowInOrder()
+{
+    DIALOG;
+    d.Init();
+    QVERIFY(SFakePages::Instance().mapPages.isEmpty());
+    host.journal.Take();
+    d.dialog.show();
+    QCOMPARE(host.journal.Take(),
+             (QStringList{"GetSection 1",     "Basic SetSection",      "GetSection 2",     "Video SetSection",
+                          "GetSection 3",     "Playback SetSection",   "GetSection 4",     "Snapshot SetSection",
+                          "GetSection 5",     "Record SetSection",     "GetUserRight",     "HasRight 45",
+                          "ReleaseUserRight", "GetSection 6",          "Alarm SetSection", "Alarm ApplyConfigXml",
+                          "GetSection 8",     "TvWall SetSection",     "GetSection 9",     "Security SetSection",
+                          "GetSection 7",     "ShortcutKey SetSection"}));
+}
+
+void tst_LocalConfig::ShowingAgainCreatesNothing()
+{
+    DIALOG;
+    d.InitAndShow();
+    const QMap<int, CFakePage*> mapPages = SFakePages::Instance().mapPages;
+    d.dialog.hide();
+    d.dialog.show();
+    QCOMPARE(host.journal.Take(), QStringList());
+    QCOMPARE(SFakePages::Instance().mapPages, mapPages);
+    QCOMPARE(d.dialog.findChildren<CFakePage*>().size(), 9);
+}
+
+void tst_LocalConfig::PagesStandInTheirBoxes_data()
+{
+    GroupBoxes_data();
+}
+
+void tst_LocalConfig::PagesStandInTheirBoxes()
+{
+    QFETCH(int, nIndex);
+    DIALOG;
+    d.InitAndShow();
+    CFakePage* pPage = SFakePages::Instance().mapPages.value(nIndex);
+    QVERIFY(pPage);
+    QCOMPARE(pPage->objectName(), QString(g_arrBoxes[nIndex].pszPage));
+    QCOMPARE(pPage->parentWidget(), d.Box(nIndex));
+    QCOMPARE(d.Box(nIndex)->layout()->indexOf(pPage), 0);
+    QCOMPARE(pPage->minimumSize(), QSize(0, 0));
+    const QSizePolicy policy = pPage->sizePolicy();
+    QCOMPARE(policy.horizontalPolicy(), QSizePolicy::Preferred);
+    QCOMPARE(policy.verticalPolicy(), QSizePolicy::Preferred);
+    QCOMPARE(policy.horizontalStretch(), 0);
+    QCOMPARE(policy.verticalStretch(), 0);
+    QVERIFY(pPage->isVisible());
+}
+
+void tst_LocalConfig::ANullSectionIsHandedOver()
+{
+    DIALOG;
+    d.InitAndShow();
+    for (CFakePage* pPage : qAsConst(SFakePages::Instance().mapPages))
+    {
+        QVERIFY(!pPage->m_pSection);
+    }
+}
+
+void tst_LocalConfig::AbsentPagesAreSkipped()
+{
+    DIALOG;
+    SFakePages::Instance().setAbsent = {1, 2, 3, 4, 5, 6, 7, 8};
+    d.InitAndShow();
+    d.Click("btnOther");
+    QCOMPARE(host.journal.Take(), QStringList{"Basic LoadConfig true"});
+    host.loginManager.Notify(3, 0);
+    QCOMPARE(host.journal.Take(), QStringList{"Basic SetControlsEnabled false"});
+    host.loginManager.Notify(2, 0);
+    host.journal.Take();
+    d.Click("btnOk");
+    QCOMPARE(host.journal.Take(), (QStringList{"Basic SaveConfig", "SaveAll"}));
+}
+
+void tst_LocalConfig::AlarmRight45_data()
+{
+    QTest::addColumn<bool>("bRightsObject");
+    QTest::addColumn<bool>("bRight");
+    QTest::addColumn<QStringList>("listCalls");
+    QTest::newRow("held") << true << true << QStringList{"GetUserRight", "HasRight 45",      "ReleaseUserRight",
+                                                         "GetSection 6", "Alarm SetSection", "Alarm ApplyConfigXml"};
+    QTest::newRow("missing") << true << false
+                             << QStringList{"GetUserRight",        "HasRight 45",  "Alarm MarkNoRight45",
+                                            "ReleaseUserRight",    "GetSection 6", "Alarm SetSection",
+                                            "Alarm ApplyConfigXml"};
+    QTest::newRow("no rights object") << false << true
+                                      << QStringList{"GetUserRight", "Alarm MarkNoRight45", "GetSection 6",
+                                                     "Alarm SetSection", "Alarm ApplyConfigXml"};
+}
+
+void tst_LocalConfig::AlarmRight45()
+{
+    QFETCH(bool, bRightsObject);
+    QFETCH(bool, bRight);
+    QFETCH(QStringList, listCalls);
+    DIALOG;
+    SFakePages::Instance().setAbsent = {0, 1, 2, 3, 4, 6, 7, 8};
+    if (!bRight)
+    {
+        host.userRight.m_setMissing = {45};
+    }
+    host.userManager.m_pUserRight = bRightsObject ? &host.userRight : nullptr;
+    d.Init();
+    host.journal.Take();
+    d.dialog.show();
+    QCOMPARE(host.journal.Take(), listCalls);
+    QCOMPARE(host.userManager.m_listReleased.size(), bRightsObject ? 1 : 0);
+}
+
+void tst_LocalConfig::NoServiceNoPages()
+{
+    DIALOG;
+    d.Init();
+    d.dialog.UnInitUI();
+    d.dialog.show();
+    QVERIFY(SFakePages::Instance().mapPages.isEmpty());
+}
+
+void tst_LocalConfig::ContentHeightCountsEveryBox_data()
+{
+    QTest::addColumn<bool>("bWall");
+    QTest::newRow("with the wall") << true;
+    QTest::newRow("the hidden wall box counts, too") << false;
+}
+
+void tst_LocalConfig::ContentHeightCountsEveryBox()
+{
+    QFETCH(bool, bWall);
+    DIALOG;
+    if (!bWall)
+    {
+        host.userRight.m_setMissing = {26};
+    }
+    d.InitAndShow();
+    int nHeight = 8 * 19 + 12 + 12;
+    for (const SBox& box : g_arrBoxes)
+    {
+        nHeight += box.nMinimumHeight;
+        QCOMPARE(d.Box(box.nIndex)->height(), box.nMinimumHeight);
+    }
+    QCOMPARE(d.Contents()->minimumHeight(), nHeight);
+    QCOMPARE(d.Contents()->maximumHeight(), nHeight);
+    QCOMPARE(d.Contents()->height(), nHeight);
+}
+
+void tst_LocalConfig::ContentHeightIsStable()
+{
+    DIALOG;
+    host.userRight.m_setMissing = {26};
+    d.InitAndShow();
+    const int nHeight = d.Contents()->height();
+    for (int n = 0; n < 3; ++n)
+    {
+        QVERIFY(QMetaObject::invokeMethod(&d.dialog, "OnAdjustVerticalScrollBar"));
+        SDialog::WaitForLayout();
+    }
+    QCOMPARE(d.Contents()->height(), nHeight);
+}
+
+void tst_LocalConfig::VideoPageGrows()
+{
+    DIALOG;
+    d.InitAndShow();
+    const int nHeight = d.Contents()->height();
+    CFakePage* pVideo = SFakePages::Instance().mapPages.value(1);
+    pVideo->setMinimumHeight(1000);
+    emit pVideo->SignalChangeSize();
+    QVERIFY(d.Box(1)->height() >= 1000);
+    QCOMPARE(d.Contents()->height(), nHeight + d.Box(1)->height() - 841);
+    QCOMPARE(d.Contents()->minimumHeight(), d.Contents()->maximumHeight());
+}
+
+void tst_LocalConfig::DesktopHeightRule_data()
+{
+    QTest::addColumn<int>("nDesktop");
+    QTest::addColumn<bool>("bLow");
+    QTest::newRow("768") << 768 << true;
+    QTest::newRow("769") << 769 << false;
+    QTest::newRow("1080") << 1080 << false;
+}
+
+void tst_LocalConfig::DesktopHeightRule()
+{
+    QFETCH(int, nDesktop);
+    QFETCH(bool, bLow);
+    const QRect desktop = QApplication::desktop()->geometry();
+    QApplication::desktop()->setGeometry(0, 0, 1366, nDesktop);
+    DIALOG;
+    QApplication::desktop()->setGeometry(desktop);
+    d.InitAndShow();
+    if (bLow)
+    {
+        QCOMPARE(d.dialog.height(), 680);
+    }
+    else
+    {
+        QVERIFY(d.dialog.height() > 680);
+    }
+    QCOMPARE(d.dialog.GetCentralWidget()->size(), QSize(943, 607));
+    for (const char* pszButton : {"btnOk", "btnOther", "btnCancel"})
+    {
+        const QAbstractButton* pButton = d.Button(pszButton);
+        const QRect button(pButton->mapTo(&d.dialog, QPoint()), pButton->size());
+        const QRect central(d.dialog.GetCentralWidget()->mapTo(&d.dialog, QPoint()),
+                            d.dialog.GetCentralWidget()->size());
+        QVERIFY(d.dialog.rect().contains(button));
+        QVERIFY(!central.intersects(button));
+        QVERIFY(pButton->height() >= pButton->sizeHint().height());
+    }
+}
+
+void tst_LocalConfig::InitDialogSizeAppliesTheRuleAgain()
+{
+    DIALOG;
+    d.InitAndShow();
+    d.dialog.InitDialogSize();
+    QVERIFY(d.dialog.height() > 680);
+    const QRect desktop = QApplication::desktop()->geometry();
+    QApplication::desktop()->setGeometry(0, 0, 1366, 768);
+    d.dialog.InitDialogSize();
+    QApplication::desktop()->setGeometry(desktop);
+    QCOMPARE(d.dialog.height(), 680);
+}
+
+void tst_LocalConfig::StyleSheetsComeFromTheSkin()
+{
+    const QByteArray strResources = qgetenv("KV_CLIENT_RESOURCES");
+    QTemporaryDir folder;
+    qputenv("KV_CLIENT_RESOURCES", folder.path().toLocal8Bit());
+    {
+        DIALOG;
+        QVERIFY2(d.dialog.styleSheet().isEmpty() && d.Box(0)->styleSheet().isEmpty(), "no file, no sheet");
+    }
+    const QString strPath = Pxa::GetSkinPath("LocalConfig", QString());
+    QVERIFY(QDir().mkpath(strPath));
+    for (const char* pszName : {"CLocalConfig", "CGroupBox"})
+    {
+        QFile file(strPath + pszName + ".qss");
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray("QLabel { color: red } /*") + pszName + "*/");
+    }
+    DIALOG;
+    qputenv("KV_CLIENT_RESOURCES", strResources);
+    QCOMPARE(d.dialog.styleSheet(), QString("QLabel { color: red } /*CLocalConfig*/"));
+    for (const SBox& box : g_arrBoxes)
+    {
+        QCOMPARE(d.Box(box.nIndex)->styleSheet(), QString("QLabel { color: red } /*CGroupBox*/"));
+    }
+}
+
+// --- Navigation
+
+void tst_LocalConfig::BasicIsSelectedAtFirst()
+{
+    DIALOG;
+    d.Init();
+    QCOMPARE(d.List()->GetCurrentIndex(), 0);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{0});
+    QCOMPARE(d.Box(0)->property("select"), QVariant(true));
+}
+
+void tst_LocalConfig::PickingAnEntryScrollsAndSelects_data()
+{
+    GroupBoxes_data();
+}
+
+void tst_LocalConfig::PickingAnEntryScrollsAndSelects()
+{
+    QFETCH(int, nIndex);
+    DIALOG;
+    d.InitAndShow();
+    d.List()->setFocus();
+    QTest::keyClick(d.List(), Qt::Key_Home);
+    for (int n = 0; n < nIndex; ++n)
+    {
+        QTest::keyClick(d.List(), Qt::Key_Down);
+    }
+    const int nWanted = d.Box(nIndex)->y() - 20;
+    QCOMPARE(d.ScrollBar()->value(), qBound(0, nWanted, d.ScrollBar()->maximum()));
+    QCOMPARE(d.List()->GetCurrentIndex(), nIndex);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{nIndex});
+}
+
+void tst_LocalConfig::PickingTheCurrentEntryOnlyScrolls()
+{
+    DIALOG;
+    d.InitAndShow();
+    d.List()->setFocus();
+    QTest::keyClick(d.List(), Qt::Key_Home);
+    QTest::keyClick(d.List(), Qt::Key_Down);
+    d.ScrollBar()->setValue(d.Box(1)->y() + 200); // outside every band
+    QCOMPARE(d.SelectedBoxes(), QList<int>{1});
+
+    auto* pView = qobject_cast<QAbstractItemView*>(d.List());
+    QVERIFY(pView);
+    QTest::mouseClick(pView->viewport(), Qt::LeftButton, {}, pView->visualRect(pView->currentIndex()).center());
+    QCOMPARE(d.ScrollBar()->value(), d.Box(1)->y() - 20);
+    QCOMPARE(d.List()->GetCurrentIndex(), 1);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{1});
+}
+
+void tst_LocalConfig::PickedEntryStaysOutsideEveryBand()
+{
+    DIALOG;
+    d.InitAndShow();
+    d.Contents()->resize(d.Contents()->size());
+    // Security stands so near the end that its top may not come up to the view's top.
+    d.List()->setFocus();
+    QTest::keyClick(d.List(), Qt::Key_End);
+    QCOMPARE(d.List()->GetCurrentIndex(), 8);
+    QTest::keyClick(d.List(), Qt::Key_Up);
+    QCOMPARE(d.List()->GetCurrentIndex(), 7);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{7});
+}
+
+void tst_LocalConfig::KeysMoveThroughTheSections()
+{
+    DIALOG;
+    d.InitAndShow();
+    d.List()->setFocus();
+    QTest::keyClick(d.List(), Qt::Key_End);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{8});
+    QTest::keyClick(d.List(), Qt::Key_Home);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{0});
+}
+
+void tst_LocalConfig::ScrollBand_data()
+{
+    QTest::addColumn<int>("nIndex");
+    QTest::addColumn<int>("nOffset");
+    QTest::addColumn<bool>("bSelects");
+    for (int nIndex = 1; nIndex < 8; ++nIndex)
+    {
+        for (int nOffset : {-41, -40, -1, 0, 1, 40, 41})
+        {
+            // The band of the small Security box is within reach of its neighbours; theirs are checked on their own.
+            QTest::addRow("%s%+d", g_arrBoxes[nIndex].pszBox, nOffset) << nIndex << nOffset << (qAbs(nOffset) <= 40);
+        }
+    }
+}
+
+void tst_LocalConfig::ScrollBand()
+{
+    QFETCH(int, nIndex);
+    QFETCH(int, nOffset);
+    QFETCH(bool, bSelects);
+    DIALOG;
+    d.InitAndShow();
+    // Start between two bands, with Basic selected.
+    d.ScrollBar()->setValue(200);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{0});
+
+    d.ScrollBar()->setValue(d.Box(nIndex)->y() + nOffset);
+    QCOMPARE(d.ScrollBar()->value(), d.Box(nIndex)->y() + nOffset);
+    const int nExpected = bSelects ? nIndex : 0;
+    QCOMPARE(d.List()->GetCurrentIndex(), nExpected);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{nExpected});
+}
+
+void tst_LocalConfig::ClickingABoxSelectsWithoutScrolling()
+{
+    DIALOG;
+    d.InitAndShow();
+    d.ScrollBar()->setValue(d.Box(5)->y() - 200);
+    const int nValue = d.ScrollBar()->value();
+    const QList<int> listBefore = d.SelectedBoxes();
+    QVERIFY(listBefore != QList<int>{5});
+    // The fake page ignores the press, which therefore reaches the box.
+    QTest::mouseClick(SFakePages::Instance().mapPages.value(5), Qt::LeftButton, {}, QPoint(20, 20));
+    QCOMPARE(d.List()->GetCurrentIndex(), 5);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{5});
+    QCOMPARE(d.ScrollBar()->value(), nValue);
+}
+
+void tst_LocalConfig::ConnectionsStaySingle()
+{
+    DIALOG;
+    d.InitAndShow();
+    const int nOfScrollBar = CReceivers::Count(d.ScrollBar(), SIGNAL(valueChanged(int)));
+    const int nOfList = CReceivers::Count(d.List(), SIGNAL(SignalCurrentIndexChanged(int)));
+    QCOMPARE(nOfList, 1);
+    d.List()->setFocus();
+    for (int n = 0; n < 3; ++n)
+    {
+        QTest::keyClick(d.List(), Qt::Key_Down);
+        d.ScrollBar()->setValue(d.Box(2)->y());
+        d.ScrollBar()->setValue(d.Box(2)->y() + 100);
+        QTest::mouseClick(SFakePages::Instance().mapPages.value(4), Qt::LeftButton, {}, QPoint(20, 20));
+    }
+    QCOMPARE(CReceivers::Count(d.ScrollBar(), SIGNAL(valueChanged(int))), nOfScrollBar);
+    QCOMPARE(CReceivers::Count(d.List(), SIGNAL(SignalCurrentIndexChanged(int))), nOfList);
+}
+
+void tst_LocalConfig::HiddenWallBoxKeepsItsIndex()
+{
+    DIALOG;
+    host.userRight.m_setMissing = {26};
+    d.InitAndShow();
+    QCOMPARE(d.Box(6)->GetIndex(), 6);
+    // A hidden box keeps its place in the map, so its geometry still answers to a scroll value.
+    d.Box(6)->move(0, 250);
+    d.ScrollBar()->setValue(250);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{6});
+}
+
+void tst_LocalConfig::SecurityAndShortcutKeysAreReachedWithoutTheWall()
+{
+    DIALOG;
+    host.userRight.m_setMissing = {26};
+    d.InitAndShow();
+    d.List()->setFocus();
+    QTest::keyClick(d.List(), Qt::Key_End);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{8});
+    QTest::keyClick(d.List(), Qt::Key_Up);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{7});
+    QTest::keyClick(d.List(), Qt::Key_Up);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{5});
+}
+
+// --- Save, defaults, cancel
+
+#define NOTIFICATIONS                                                                                                  \
+    QSignalSpy notifications(KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance(),                                   \
+                             &KVGUI::KvMessageNotify::SignalTextNotificationAdded)
+
+void tst_LocalConfig::SaveStoresEveryPageThenAll()
+{
+    DIALOG;
+    d.InitAndShow();
+    NOTIFICATIONS;
+    d.Click("btnOk");
+    QCOMPARE(host.journal.Take(), Each(g_listPageOrder, "SaveConfig") + QStringList{"SaveAll"});
+    QVERIFY(!d.dialog.isVisible());
+    QCOMPARE(notifications.size(), 0);
+}
+
+void tst_LocalConfig::SaveErrorIsShownAndTheDialogCloses()
+{
+    for (int nResult : {0, 2, -1, 12345})
+    {
+        DIALOG;
+        host.localConfig.m_nSaveResult = nResult;
+        d.InitAndShow();
+        NOTIFICATIONS;
+        d.Click("btnOk");
+        QVERIFY(!d.dialog.isVisible());
+        QCOMPARE(host.journal.Take(), Each(g_listPageOrder, "SaveConfig") + QStringList{"SaveAll"});
+        QCOMPARE(notifications.size(), 1);
+        const QString strText = notifications.first().first().toString();
+        QCOMPARE(strText, UICommonMdl::CErrorCode::GetErroCodeInfor("Failed to save config", nResult, true, true));
+        QVERIFY(strText.startsWith("Failed to save config"));
+        QVERIFY(strText.size() > QString("Failed to save config").size());
+    }
+}
+
+void tst_LocalConfig::ARefusedPageKeepsTheDialogOpen()
+{
+    DIALOG;
+    SFakePages::Instance().mapSaveResults[0] = -1;
+    d.InitAndShow();
+    NOTIFICATIONS;
+    d.Click("btnOk");
+    QCOMPARE(host.journal.Take(), Each(g_listPageOrder, "SaveConfig") + Each(g_listRefusedOrder, "LoadConfig false"));
+    QVERIFY(d.dialog.isVisible());
+    QCOMPARE(notifications.size(), 1);
+    QCOMPARE(notifications.first().first().toString(),
+             QString("Failed to save configuration, some values are illegal."));
+}
+
+void tst_LocalConfig::KeptInput_data()
+{
+    QTest::addColumn<int>("nSnapshot");
+    QTest::addColumn<int>("nRecord");
+    QTest::addColumn<bool>("bSnapshotReloaded");
+    QTest::addColumn<bool>("bRecordReloaded");
+    QTest::newRow("both refused") << -1 << -1 << true << true;
+    QTest::newRow("snapshot kept") << -2 << -1 << false << true;
+    QTest::newRow("record kept") << -1 << -2 << true << false;
+    QTest::newRow("both kept") << -2 << -2 << false << false;
+    QTest::newRow("snapshot kept, record stored") << -2 << 0 << false << true;
+}
+
+void tst_LocalConfig::KeptInput()
+{
+    QFETCH(int, nSnapshot);
+    QFETCH(int, nRecord);
+    QFETCH(bool, bSnapshotReloaded);
+    QFETCH(bool, bRecordReloaded);
+    DIALOG;
+    SFakePages::Instance().mapSaveResults = {{3, nSnapshot}, {4, nRecord}};
+    d.InitAndShow();
+    d.Click("btnOk");
+    QStringList listReloaded = g_listRefusedOrder;
+    if (!bSnapshotReloaded)
+    {
+        listReloaded = Without(listReloaded, "Snapshot");
+    }
+    if (!bRecordReloaded)
+    {
+        listReloaded = Without(listReloaded, "Record");
+    }
+    QCOMPARE(host.journal.Take(), Each(g_listPageOrder, "SaveConfig") + Each(listReloaded, "LoadConfig false"));
+}
+
+void tst_LocalConfig::OnlySnapshotAndRecordMayKeepTheirInput()
+{
+    for (int nIndex : {0, 1, 2, 5, 6, 7, 8})
+    {
+        init();
+        DIALOG;
+        SFakePages::Instance().mapSaveResults[nIndex] = -2;
+        d.InitAndShow();
+        d.Click("btnOk");
+        QCOMPARE(host.journal.Take(),
+                 Each(g_listPageOrder, "SaveConfig") + Each(g_listRefusedOrder, "LoadConfig false"));
+    }
+}
+
+void tst_LocalConfig::DefaultReloadsWithDefaults()
+{
+    DIALOG;
+    d.InitAndShow();
+    NOTIFICATIONS;
+    d.Click("btnOther");
+    QCOMPARE(host.journal.Take(), Each(g_listPageOrder, "LoadConfig true"));
+    QVERIFY(d.dialog.isVisible());
+    QCOMPARE(notifications.size(), 0);
+}
+
+void tst_LocalConfig::EveryWayToCloseReloads_data()
+{
+    QTest::addColumn<QString>("strWay");
+    for (const char* pszWay : {"btnCancel", "btnClose", "Escape", "window manager"})
+    {
+        QTest::newRow(pszWay) << pszWay;
+    }
+}
+
+void tst_LocalConfig::EveryWayToCloseReloads()
+{
+    QFETCH(QString, strWay);
+    DIALOG;
+    d.InitAndShow();
+    if (strWay == "Escape")
+    {
+        QTest::keyClick(&d.dialog, Qt::Key_Escape);
+    }
+    else if (strWay == "window manager")
+    {
+        d.dialog.close();
+    }
+    else
+    {
+        d.Click(qPrintable(strWay));
+    }
+    QCOMPARE(host.journal.Take(), Each(g_listPageOrder, "LoadConfig false"));
+    QVERIFY(!d.dialog.isVisible());
+}
+
+void tst_LocalConfig::AfterUnInitNothingCloses()
+{
+    DIALOG;
+    d.InitAndShow();
+    d.dialog.UnInitUI();
+    host.journal.Take();
+    d.Click("btnCancel");
+    d.Click("btnClose");
+    d.Click("btnOk");
+    QTest::keyClick(&d.dialog, Qt::Key_Escape);
+    QCOMPARE(host.journal.Take(), QStringList());
+    QVERIFY(d.dialog.isVisible());
+}
+
+void tst_LocalConfig::PagesKeepTheirStateForTheNextShowing()
+{
+    DIALOG;
+    d.InitAndShow();
+    d.Click("btnOk");
+    host.journal.Take();
+    d.dialog.show();
+    QCOMPARE(host.journal.Take(), QStringList());
+    d.Click("btnOk");
+    QCOMPARE(host.journal.Take(), Each(g_listPageOrder, "SaveConfig") + QStringList{"SaveAll"});
+}
+
+// --- Connection state
+
+void tst_LocalConfig::LoginStates_data()
+{
+    QTest::addColumn<int>("nState");
+    QTest::addColumn<int>("nSubState");
+    QTest::addColumn<QString>("strReaction");
+    for (int nSubState : {-1, 0, 1, 7})
+    {
+        QTest::addRow("3/%d", nSubState) << 3 << nSubState << "false";
+    }
+    QTest::newRow("2/0") << 2 << 0 << "true";
+    for (int nSubState : {-1, 1, 3})
+    {
+        QTest::addRow("2/%d", nSubState) << 2 << nSubState << QString();
+    }
+    for (int nState : {-1, 0, 1, 4, 100})
+    {
+        QTest::addRow("%d/0", nState) << nState << 0 << QString();
+    }
+}
+
+void tst_LocalConfig::LoginStates()
+{
+    QFETCH(int, nState);
+    QFETCH(int, nSubState);
+    QFETCH(QString, strReaction);
+    DIALOG;
+    d.InitAndShow();
+    if (strReaction == "true")
+    {
+        host.loginManager.Notify(3, 0);
+        host.journal.Take();
+    }
+    QSignalSpy disconnects(&d.dialog, &CLocalConfig::SignalDisconnect);
+    QSignalSpy reconnects(&d.dialog, &CLocalConfig::SignalReconnect);
+    host.loginManager.Notify(nState, nSubState);
+    QCOMPARE(disconnects.size(), strReaction == "false" ? 1 : 0);
+    QCOMPARE(reconnects.size(), strReaction == "true" ? 1 : 0);
+    QCOMPARE(host.journal.Take(),
+             strReaction.isEmpty() ? QStringList() : Each(g_listPageOrder, "SetControlsEnabled " + strReaction));
+    for (const char* pszButton : {"btnOk", "btnOther", "btnCancel"})
+    {
+        QCOMPARE(d.Button(pszButton)->isEnabled(), strReaction != "false");
+    }
+}
+
+void tst_LocalConfig::ReconnectReloadsNothing()
+{
+    DIALOG;
+    d.InitAndShow();
+    host.loginManager.Notify(3, 0);
+    host.loginManager.Notify(2, 0);
+    for (const QString& strCall : host.journal.Take())
+    {
+        QVERIFY2(strCall.contains("SetControlsEnabled"), qPrintable(strCall));
+    }
+    QVERIFY(d.Button("btnOk")->isEnabled());
+}
+
+void tst_LocalConfig::WhileDisconnectedNavigationAndCloseStayUsable()
+{
+    DIALOG;
+    d.InitAndShow();
+    host.loginManager.Notify(3, 0);
+    QVERIFY(d.List()->isEnabled());
+    QVERIFY(d.ScrollArea()->isEnabled());
+    QVERIFY(d.Button("btnClose")->isEnabled());
+    d.Click("btnOk");
+    d.Click("btnCancel");
+    QVERIFY(d.dialog.isVisible());
+    d.List()->setFocus();
+    QTest::keyClick(d.List(), Qt::Key_End);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{8});
+    d.Click("btnClose");
+    QVERIFY(!d.dialog.isVisible());
+}
+
+void tst_LocalConfig::NotificationFromAnotherThread()
+{
+    DIALOG;
+    d.InitAndShow();
+    std::thread thread([&host] { host.loginManager.Notify(3, 0); });
+    thread.join();
+    QVERIFY2(d.Button("btnOk")->isEnabled(), "nothing happens before the GUI thread's event loop runs");
+    QCOMPARE(host.journal.Take(), QStringList());
+    QTRY_VERIFY(!d.Button("btnOk")->isEnabled());
+    QCOMPARE(host.journal.Take(), Each(g_listPageOrder, "SetControlsEnabled false"));
+}
+
+void tst_LocalConfig::DisconnectBeforeTheFirstShow()
+{
+    DIALOG;
+    d.Init();
+    host.journal.Take();
+    host.loginManager.Notify(3, 0);
+    QCOMPARE(host.journal.Take(), QStringList());
+    QVERIFY(!d.Button("btnOk")->isEnabled());
+}
+
+void tst_LocalConfig::WithoutWallEveryOperationSkipsIt()
+{
+    DIALOG;
+    host.userRight.m_setMissing = {26};
+    const QStringList listPages = Without(g_listPageOrder, "TvWall");
+    d.InitAndShow();
+    d.Click("btnOther");
+    QCOMPARE(host.journal.Take(), Each(listPages, "LoadConfig true"));
+    host.loginManager.Notify(3, 0);
+    QCOMPARE(host.journal.Take(), Each(listPages, "SetControlsEnabled false"));
+    host.loginManager.Notify(2, 0);
+    host.journal.Take();
+    d.Click("btnOk");
+    QCOMPARE(host.journal.Take(), Each(listPages, "SaveConfig") + QStringList{"SaveAll"});
+}
+
+QTEST_MAIN(tst_LocalConfig)
+
+#include "tst_LocalConfig.moc"
