@@ -106,10 +106,11 @@ void tst_Combobox::ThePopupSelectsByMouse()
     QAbstractItemView* pView = combo.view();
     QTRY_VERIFY(pView->isVisible());
     QTest::qWait(40);
-    const QRect item = pView->visualRect(pView->model()->index(2, 0));
-    QMouseEvent move(QEvent::MouseMove, item.center(), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    const QRect row = pView->visualRect(pView->model()->index(2, 0));
+    const QPoint item = row.intersected(pView->viewport()->rect()).center();
+    QMouseEvent move(QEvent::MouseMove, item, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(pView->viewport(), &move);
-    QTest::mouseClick(pView->viewport(), Qt::LeftButton, {}, item.center());
+    QTest::mouseClick(pView->viewport(), Qt::LeftButton, {}, item);
     QTRY_COMPARE(combo.currentIndex(), 2);
 }
 
