@@ -58,8 +58,12 @@ void KvCustomDialog::showEvent(QShowEvent* pEvent)
                 MoveToEndOfTabOrder(pButton);
             }
         }
-        KvDialog::OrderTitleBarLast();
     });
+}
+
+QWidget* KvCustomDialog::GetFocusArea() const
+{
+    return m_pCentral;
 }
 
 QWidget* KvCustomDialog::GetCentralWidget() const

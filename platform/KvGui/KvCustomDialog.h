@@ -47,6 +47,7 @@ signals:
 
 protected:
     void showEvent(QShowEvent* pEvent) override;
+    QWidget* GetFocusArea() const override;
 
 private:
     QWidget* m_pCentral;

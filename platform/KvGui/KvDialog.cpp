@@ -78,6 +78,10 @@ void KvDialog::reject()
 
 void KvDialog::setVisible(bool bVisible)
 {
+    if (bVisible && !focusWidget())
+    {
+        FocusContent();
+    }
     if (bVisible && !testAttribute(Qt::WA_Resized))
     {
         // Left alone, a dialog would not take more than two thirds of the screen, whatever its content needs.
@@ -92,6 +96,11 @@ QWidget* KvDialog::GetContentWidget() const
     return m_pContent;
 }
 
+QWidget* KvDialog::GetFocusArea() const
+{
+    return m_pContent;
+}
+
 void KvDialog::SetCloseButtonVisible(bool bVisible)
 {
     m_pCloseButton->setVisible(bVisible);
@@ -99,16 +108,29 @@ void KvDialog::SetCloseButtonVisible(bool bVisible)
 
 void KvDialog::MoveToEndOfTabOrder(QWidget* pWidget)
 {
-    // The focus chain is a ring that starts with the dialog.
-    if (previousInFocusChain() != pWidget)
+    // The focus chain is a ring that starts with the dialog; only widgets that take the focus can be moved in it.
+    QWidget* pLast = previousInFocusChain();
+    while (pLast != this && (pLast == pWidget || pLast->focusPolicy() == Qt::NoFocus))
     {
-        setTabOrder(previousInFocusChain(), pWidget);
+        pLast = pLast->previousInFocusChain();
+    }
+    if (pLast != this)
+    {
+        setTabOrder(pLast, pWidget);
     }
 }
 
-void KvDialog::OrderTitleBarLast()
+void KvDialog::FocusContent()
 {
-    MoveToEndOfTabOrder(m_pCloseButton);
+    for (QWidget* pWidget = nextInFocusChain(); pWidget != this; pWidget = pWidget->nextInFocusChain())
+    {
+        if ((pWidget->focusPolicy() & Qt::TabFocus) && pWidget->isEnabled() && GetFocusArea()->isAncestorOf(pWidget) &&
+            pWidget->isVisibleTo(this))
+        {
+            pWidget->setFocus(Qt::ActiveWindowFocusReason);
+            return;
+        }
+    }
 }
 
 void KvDialog::ElideTitle()
@@ -158,7 +180,6 @@ void KvDialog::showEvent(QShowEvent* pEvent)
 {
     QDialog::showEvent(pEvent);
     ElideTitle();
-    OrderTitleBarLast();
     if (m_bPlaced || testAttribute(Qt::WA_Moved))
     {
         return;

@@ -33,15 +33,17 @@ public:
 protected:
     /// The area below the title bar, still without a layout.
     QWidget* GetContentWidget() const;
+    /// Where the first control has the focus when the dialog comes up.
+    virtual QWidget* GetFocusArea() const;
     void SetCloseButtonVisible(bool bVisible);
     void MoveToEndOfTabOrder(QWidget* pWidget);
-    void OrderTitleBarLast();
 
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
     void showEvent(QShowEvent* pEvent) override;
 
 private:
     void ElideTitle();
+    void FocusContent();
 
     QWidget* m_pTitleBar;
     QLabel* m_pTitleLabel;

@@ -1,0 +1,137 @@
+#include <KvGui/KvCheckBox.h>
+#include <KvGui/KvComboBox.h>
+#include <KvGui/KvDir.h>
+#include <KvGui/KvHorScrollBar.h>
+#include <KvGui/KvListWidget.h>
+#include <KvGui/KvPushButton.h>
+#include <KvGui/KvRadioButton.h>
+#include <KvGui/KvSpinBox.h>
+#include <KvGui/KvTableView.h>
+#include <KvGui/KvVerScrollBar.h>
+
+#include <QDir>
+#include <QHeaderView>
+#include <QStandardItemModel>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace KVGUI;
+
+namespace
+{
+
+template <class Control>
+QWidget* Make(QWidget* pParent)
+{
+    return new Control(pParent);
+}
+
+struct SControl
+{
+    const char* pszClass;
+    const char* pszBase;
+    QWidget* (*pfnMake)(QWidget*);
+};
+
+constexpr SControl g_arrControls[] = {
+    {"KVGUI::KvCheckBox", "QCheckBox", &Make<KvCheckBox>},
+    {"KVGUI::KvRadioButton", "QRadioButton", &Make<KvRadioButton>},
+    {"KVGUI::KvPushButton", "QPushButton", &Make<KvPushButton>},
+    {"KVGUI::KvComboBox", "QComboBox", &Make<KvComboBox>},
+    {"KVGUI::KvSpinBox", "QSpinBox", &Make<KvSpinBox>},
+    {"KVGUI::KvListWidget", "QListWidget", &Make<KvListWidget>},
+    {"KVGUI::KvTableView", "QTableView", &Make<KvTableView>},
+    {"KVGUI::KvHorScrollBar", "QScrollBar", &Make<KvHorScrollBar>},
+    {"KVGUI::KvVerScrollBar", "QScrollBar", &Make<KvVerScrollBar>},
+};
+
+} // namespace
+
+class tst_KvControls : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void StyleSheetsReachEachClass_data();
+    void StyleSheetsReachEachClass();
+    void TextConstructors();
+    void ScrollBarsHaveTheirDirection();
+    void TablesTakeColumnWidthsFromTheHeader();
+    void TablesFollowLaterWidths();
+    void TheWorkingFolder();
+};
+
+void tst_KvControls::StyleSheetsReachEachClass_data()
+{
+    QTest::addColumn<int>("nControl");
+    for (int n = 0; n < int(std::size(g_arrControls)); ++n)
+    {
+        QTest::newRow(g_arrControls[n].pszClass) << n;
+    }
+}
+
+void tst_KvControls::StyleSheetsReachEachClass()
+{
+    QFETCH(int, nControl);
+    const SControl& expected = g_arrControls[nControl];
+    QWidget parent;
+    QWidget* pControl = expected.pfnMake(&parent);
+    QCOMPARE(pControl->parentWidget(), &parent);
+    QCOMPARE(pControl->metaObject()->className(), expected.pszClass);
+    QVERIFY(pControl->inherits(expected.pszBase));
+    parent.setStyleSheet(QString(expected.pszClass).replace("::", "--") + " { color: rgb(1, 2, 3); }");
+    pControl->ensurePolished();
+    QCOMPARE(pControl->palette().color(pControl->foregroundRole()), QColor(1, 2, 3));
+}
+
+void tst_KvControls::TextConstructors()
+{
+    QCOMPARE(KvCheckBox("One").text(), QString("One"));
+    QCOMPARE(KvRadioButton("Two").text(), QString("Two"));
+    QCOMPARE(KvPushButton("Three").text(), QString("Three"));
+}
+
+void tst_KvControls::ScrollBarsHaveTheirDirection()
+{
+    QCOMPARE(KvHorScrollBar().orientation(), Qt::Horizontal);
+    QCOMPARE(KvVerScrollBar().orientation(), Qt::Vertical);
+}
+
+void tst_KvControls::TablesTakeColumnWidthsFromTheHeader()
+{
+    QCOMPARE(KvTableView::ColumnWidthRole, 366);
+    QStandardItemModel model(2, 3);
+    model.setHeaderData(0, Qt::Horizontal, 160, 366);
+    model.setHeaderData(2, Qt::Horizontal, 90, 366);
+    KvTableView view;
+    const int nDefault = view.horizontalHeader()->defaultSectionSize();
+    view.setModel(&model);
+    QCOMPARE(view.columnWidth(0), 160);
+    QCOMPARE(view.columnWidth(1), nDefault);
+    QCOMPARE(view.columnWidth(2), 90);
+}
+
+void tst_KvControls::TablesFollowLaterWidths()
+{
+    QStandardItemModel model(2, 1);
+    KvTableView view;
+    view.setModel(&model);
+    model.setHeaderData(0, Qt::Horizontal, 222, 366);
+    QCOMPARE(view.columnWidth(0), 222);
+    view.setModel(nullptr);
+    model.setHeaderData(0, Qt::Horizontal, 111, 366);
+    QVERIFY(!view.model());
+}
+
+void tst_KvControls::TheWorkingFolder()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QDir::setCurrent(folder.path()));
+    QCOMPARE(QFileInfo(KvDir::GetCurrentPath()).canonicalFilePath(), QFileInfo(folder.path()).canonicalFilePath());
+    QVERIFY(!KvDir::GetCurrentPath().endsWith('/'));
+    QDir::setCurrent(QDir::rootPath());
+}
+
+QTEST_MAIN(tst_KvControls)
+
+#include "tst_KvControls.moc"

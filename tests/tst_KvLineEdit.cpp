@@ -1,0 +1,200 @@
+#include <KvGui/KvLineEdit.h>
+
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QtTest>
+
+using KVGUI::KvLineEdit;
+
+class tst_KvLineEdit : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void IsNotMarkedAtFirst();
+    void HintMarksAndTells();
+    void MarkWithoutText();
+    void MarkWithoutTipDropsTheTip();
+    void ClearingTakesBothAway_data();
+    void ClearingTakesBothAway();
+    void ANewTextReplacesTheOld();
+    void StyleSheetsSeeTheMark();
+    void TheTipStandsBelowTheField();
+    void TheTipStaysWithinItsParent_data();
+    void TheTipStaysWithinItsParent();
+    void TheTipFollowsTheField();
+    void TheTipHidesWithTheField();
+    void TheTipTakesNoFocusAndNoClicks();
+    void TheTipGoesWithTheField();
+    void TheTipParentMayGoFirst();
+
+private:
+    QLabel* Tip() const { return m_pParent->findChild<QLabel*>("errorTip"); }
+
+    QScopedPointer<QWidget> m_pParent;
+    KvLineEdit* m_pEdit = nullptr;
+};
+
+void tst_KvLineEdit::init()
+{
+    m_pParent.reset(new QWidget);
+    m_pParent->resize(400, 200);
+    m_pEdit = new KvLineEdit(m_pParent.data());
+    m_pEdit->setGeometry(50, 60, 120, 32);
+    m_pParent->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_pParent.data()));
+}
+
+void tst_KvLineEdit::IsNotMarkedAtFirst()
+{
+    QVERIFY(!m_pEdit->IsErrorHintShown());
+    QVERIFY(m_pEdit->GetErrorHintText().isEmpty());
+    QVERIFY(!m_pEdit->property("error").toBool());
+}
+
+void tst_KvLineEdit::HintMarksAndTells()
+{
+    m_pEdit->showErrorHint(m_pParent.data(), true, "Too long");
+    QVERIFY(m_pEdit->IsErrorHintShown());
+    QCOMPARE(m_pEdit->GetErrorHintText(), QString("Too long"));
+    QCOMPARE(m_pEdit->property("error"), QVariant(true));
+    QVERIFY(Tip()->isVisible());
+    QCOMPARE(m_pEdit->accessibleDescription(), QString("Too long"));
+}
+
+void tst_KvLineEdit::MarkWithoutText()
+{
+    m_pEdit->showErrorHint(m_pParent.data(), true, QString());
+    QVERIFY(m_pEdit->IsErrorHintShown());
+    QVERIFY(!Tip());
+}
+
+void tst_KvLineEdit::MarkWithoutTipDropsTheTip()
+{
+    m_pEdit->showErrorHint(m_pParent.data(), true, "Too long");
+    m_pEdit->showErrorHintNoTip(true);
+    QVERIFY(m_pEdit->IsErrorHintShown());
+    QVERIFY(m_pEdit->GetErrorHintText().isEmpty());
+    QVERIFY(!Tip());
+    m_pEdit->showErrorHintNoTip(false);
+    QVERIFY(!m_pEdit->IsErrorHintShown());
+}
+
+void tst_KvLineEdit::ClearingTakesBothAway_data()
+{
+    QTest::addColumn<bool>("bParent");
+    QTest::addColumn<bool>("bError");
+    QTest::newRow("no parent") << false << true;
+    QTest::newRow("no error") << true << false;
+}
+
+void tst_KvLineEdit::ClearingTakesBothAway()
+{
+    QFETCH(bool, bParent);
+    QFETCH(bool, bError);
+    m_pEdit->showErrorHint(m_pParent.data(), true, "Too long");
+    m_pEdit->showErrorHint(bParent ? m_pParent.data() : nullptr, bError, QString());
+    QVERIFY(!m_pEdit->IsErrorHintShown());
+    QVERIFY(m_pEdit->GetErrorHintText().isEmpty());
+    QCOMPARE(m_pEdit->property("error"), QVariant(false));
+    QVERIFY(m_pEdit->accessibleDescription().isEmpty());
+    QVERIFY(!Tip());
+}
+
+void tst_KvLineEdit::ANewTextReplacesTheOld()
+{
+    m_pEdit->showErrorHint(m_pParent.data(), true, "One");
+    m_pEdit->showErrorHint(m_pParent.data(), true, "Two");
+    QCOMPARE(m_pEdit->GetErrorHintText(), QString("Two"));
+    QCOMPARE(m_pParent->findChildren<QLabel*>("errorTip").size(), 1);
+}
+
+void tst_KvLineEdit::StyleSheetsSeeTheMark()
+{
+    m_pEdit->setStyleSheet("QLineEdit { color: rgb(0, 0, 0); } QLineEdit[error=\"true\"] { color: rgb(1, 2, 3); }");
+    m_pEdit->showErrorHintNoTip(true);
+    QCOMPARE(m_pEdit->palette().color(QPalette::Text), QColor(1, 2, 3));
+    m_pEdit->showErrorHintNoTip(false);
+    QCOMPARE(m_pEdit->palette().color(QPalette::Text), QColor(0, 0, 0));
+}
+
+void tst_KvLineEdit::TheTipStandsBelowTheField()
+{
+    m_pEdit->showErrorHint(m_pParent.data(), true, "Too long");
+    QVERIFY(Tip()->geometry().top() > m_pEdit->geometry().bottom());
+    QCOMPARE(Tip()->geometry().left(), m_pEdit->geometry().left());
+    QVERIFY(Tip()->geometry().top() - m_pEdit->geometry().bottom() < 10);
+}
+
+void tst_KvLineEdit::TheTipStaysWithinItsParent_data()
+{
+    QTest::addColumn<QPoint>("pos");
+    QTest::addColumn<int>("nLength");
+    QTest::newRow("at the bottom") << QPoint(50, 168) << 10;
+    QTest::newRow("at the right") << QPoint(280, 60) << 40;
+    QTest::newRow("wider than the parent") << QPoint(50, 20) << 200;
+}
+
+void tst_KvLineEdit::TheTipStaysWithinItsParent()
+{
+    QFETCH(QPoint, pos);
+    QFETCH(int, nLength);
+    m_pEdit->move(pos);
+    QString strText;
+    while (strText.size() < nLength)
+    {
+        strText += "word ";
+    }
+    m_pEdit->showErrorHint(m_pParent.data(), true, strText);
+    QVERIFY(m_pParent->rect().contains(Tip()->geometry()));
+    QVERIFY(!Tip()->geometry().intersects(m_pEdit->geometry()));
+}
+
+void tst_KvLineEdit::TheTipFollowsTheField()
+{
+    m_pEdit->showErrorHint(m_pParent.data(), true, "Too long");
+    m_pEdit->move(100, 100);
+    QCOMPARE(Tip()->geometry().left(), 100);
+    QVERIFY(Tip()->geometry().top() > 100);
+}
+
+void tst_KvLineEdit::TheTipHidesWithTheField()
+{
+    m_pEdit->showErrorHint(m_pParent.data(), true, "Too long");
+    m_pEdit->hide();
+    QVERIFY(!Tip()->isVisible());
+    m_pEdit->show();
+    QVERIFY(Tip()->isVisible());
+}
+
+void tst_KvLineEdit::TheTipTakesNoFocusAndNoClicks()
+{
+    m_pEdit->showErrorHint(m_pParent.data(), true, "Too long");
+    QCOMPARE(Tip()->focusPolicy(), Qt::NoFocus);
+    QVERIFY(Tip()->testAttribute(Qt::WA_TransparentForMouseEvents));
+}
+
+void tst_KvLineEdit::TheTipGoesWithTheField()
+{
+    m_pEdit->showErrorHint(m_pParent.data(), true, "Too long");
+    delete m_pEdit;
+    QVERIFY(!Tip());
+}
+
+void tst_KvLineEdit::TheTipParentMayGoFirst()
+{
+    QScopedPointer<QWidget> pOther(new QWidget);
+    m_pEdit->showErrorHint(pOther.data(), true, "Too long");
+    QCOMPARE(m_pEdit->GetErrorHintText(), QString("Too long"));
+    pOther.reset();
+    QVERIFY(m_pEdit->GetErrorHintText().isEmpty());
+    m_pEdit->showErrorHint(nullptr, true, QString());
+    QVERIFY(!m_pEdit->IsErrorHintShown());
+}
+
+QTEST_MAIN(tst_KvLineEdit)
+
+#include "tst_KvLineEdit.moc"

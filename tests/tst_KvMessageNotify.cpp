@@ -1,0 +1,240 @@
+#include <KvGui/KvMessageNotify.h>
+
+#include <QApplication>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <thread>
+
+using KVGUI::KvMessageNotify;
+using KVGUI::KvSingleton;
+
+namespace
+{
+
+KvMessageNotify* Notify()
+{
+    return KvSingleton<KvMessageNotify>::Instance();
+}
+
+QList<QFrame*> Bars(const QWidget& window)
+{
+    QList<QFrame*> listBars;
+    for (QFrame* pBar : window.findChildren<QFrame*>("notifyBar"))
+    {
+        if (pBar->isVisible())
+        {
+            listBars += pBar;
+        }
+    }
+    return listBars;
+}
+
+QString Text(const QFrame* pBar)
+{
+    return pBar->findChild<QLabel*>("notifyText")->text();
+}
+
+void Show(QWidget& window)
+{
+    window.resize(600, 400);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+}
+
+} // namespace
+
+class tst_KvMessageNotify : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { Notify()->SetDuration(5000); }
+
+    void ThereIsOneForTheWholeClient();
+    void ShowsTheTextOverTheActiveWindow();
+    void EmitsTheText();
+    void AnEmptyTextIsIgnored();
+    void WithoutAWindowOnlyTheSignalIsEmitted();
+    void SeveralStack();
+    void EachGoesByItself();
+    void AClickDismissesAndTheRestMovesUp();
+    void TakesNoFocus();
+    void LongTextsStayWithinTheWindow();
+    void FollowsTheWindowsSize();
+    void MovesToAnotherWindowWhenItsOwnCloses();
+    void DiesWithTheLastWindow();
+    void MayBeCalledFromAnyThread();
+};
+
+void tst_KvMessageNotify::ThereIsOneForTheWholeClient()
+{
+    QVERIFY(Notify());
+    QCOMPARE(Notify(), KvSingleton<KvMessageNotify>::Instance());
+    QCOMPARE(Notify()->GetDuration(), 5000);
+}
+
+void tst_KvMessageNotify::ShowsTheTextOverTheActiveWindow()
+{
+    QWidget other;
+    Show(other);
+    QWidget window;
+    Show(window);
+    Notify()->AddTextNotification("Saved");
+    QCOMPARE(Bars(window).size(), 1);
+    QCOMPARE(Text(Bars(window).first()), QString("Saved"));
+    QVERIFY(Bars(other).isEmpty());
+    const QRect bar = Bars(window).first()->geometry();
+    QVERIFY(qAbs(bar.center().x() - window.rect().center().x()) <= 1);
+    QVERIFY(bar.top() < 100);
+}
+
+void tst_KvMessageNotify::EmitsTheText()
+{
+    QWidget window;
+    Show(window);
+    QSignalSpy spy(Notify(), &KvMessageNotify::SignalTextNotificationAdded);
+    Notify()->AddTextNotification("Saved");
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(spy.first().first().toString(), QString("Saved"));
+}
+
+void tst_KvMessageNotify::AnEmptyTextIsIgnored()
+{
+    QWidget window;
+    Show(window);
+    QSignalSpy spy(Notify(), &KvMessageNotify::SignalTextNotificationAdded);
+    Notify()->AddTextNotification(QString());
+    QCOMPARE(spy.size(), 0);
+    QVERIFY(Bars(window).isEmpty());
+}
+
+void tst_KvMessageNotify::WithoutAWindowOnlyTheSignalIsEmitted()
+{
+    QSignalSpy spy(Notify(), &KvMessageNotify::SignalTextNotificationAdded);
+    Notify()->AddTextNotification("Saved");
+    QCOMPARE(spy.size(), 1);
+}
+
+void tst_KvMessageNotify::SeveralStack()
+{
+    QWidget window;
+    Show(window);
+    for (const char* pszText : {"One", "Two", "Three"})
+    {
+        Notify()->AddTextNotification(pszText);
+    }
+    const QList<QFrame*> listBars = Bars(window);
+    QCOMPARE(listBars.size(), 3);
+    for (int n = 1; n < 3; ++n)
+    {
+        QVERIFY(listBars[n]->geometry().top() > listBars[n - 1]->geometry().bottom());
+    }
+}
+
+void tst_KvMessageNotify::EachGoesByItself()
+{
+    QWidget window;
+    Show(window);
+    Notify()->SetDuration(150);
+    Notify()->AddTextNotification("Short");
+    Notify()->SetDuration(60000);
+    Notify()->AddTextNotification("Long");
+    QCOMPARE(Bars(window).size(), 2);
+    QTRY_COMPARE(Bars(window).size(), 1);
+    QCOMPARE(Text(Bars(window).first()), QString("Long"));
+}
+
+void tst_KvMessageNotify::AClickDismissesAndTheRestMovesUp()
+{
+    QWidget window;
+    Show(window);
+    Notify()->AddTextNotification("One");
+    Notify()->AddTextNotification("Two");
+    const QList<QFrame*> listBars = Bars(window);
+    const int nTop = listBars[0]->y();
+    QTest::mouseClick(listBars[0], Qt::LeftButton);
+    QCOMPARE(Bars(window).size(), 1);
+    QCOMPARE(Text(Bars(window).first()), QString("Two"));
+    QCOMPARE(Bars(window).first()->y(), nTop);
+}
+
+void tst_KvMessageNotify::TakesNoFocus()
+{
+    QWidget window;
+    QLineEdit edit(&window);
+    Show(window);
+    edit.setFocus();
+    Notify()->AddTextNotification("Saved");
+    QCOMPARE(window.focusWidget(), &edit);
+    QCOMPARE(QApplication::activeWindow(), &window);
+}
+
+void tst_KvMessageNotify::LongTextsStayWithinTheWindow()
+{
+    QWidget window;
+    Show(window);
+    Notify()->AddTextNotification(QString("words and words ").repeated(20));
+    const QFrame* pBar = Bars(window).first();
+    QVERIFY(window.rect().contains(pBar->geometry()));
+    const auto* pText = pBar->findChild<QLabel*>("notifyText");
+    QVERIFY(pText->height() >= pText->heightForWidth(pText->width()));
+}
+
+void tst_KvMessageNotify::FollowsTheWindowsSize()
+{
+    QWidget window;
+    Show(window);
+    Notify()->AddTextNotification("Saved");
+    window.resize(900, 400);
+    QVERIFY(qAbs(Bars(window).first()->geometry().center().x() - window.rect().center().x()) <= 1);
+}
+
+void tst_KvMessageNotify::MovesToAnotherWindowWhenItsOwnCloses()
+{
+    QWidget main;
+    Show(main);
+    auto* pDialog = new QWidget(&main, Qt::Dialog);
+    Show(*pDialog);
+    Notify()->AddTextNotification("Failed to save");
+    QCOMPARE(Bars(*pDialog).size(), 1);
+    pDialog->hide();
+    QCOMPARE(Bars(main).size(), 1);
+    delete pDialog;
+    QCOMPARE(Text(Bars(main).first()), QString("Failed to save"));
+}
+
+void tst_KvMessageNotify::DiesWithTheLastWindow()
+{
+    Notify()->SetDuration(30);
+    {
+        QWidget window;
+        Show(window);
+        Notify()->AddTextNotification("One");
+        Notify()->AddTextNotification("Two");
+    }
+    QTest::qWait(80);
+    QWidget window;
+    Show(window);
+    Notify()->SetDuration(5000);
+    Notify()->AddTextNotification("Three");
+    QCOMPARE(Bars(window).size(), 1);
+}
+
+void tst_KvMessageNotify::MayBeCalledFromAnyThread()
+{
+    QWidget window;
+    Show(window);
+    std::thread thread([] { Notify()->AddTextNotification("From elsewhere"); });
+    thread.join();
+    QVERIFY(Bars(window).isEmpty());
+    QTRY_COMPARE(Bars(window).size(), 1);
+}
+
+QTEST_MAIN(tst_KvMessageNotify)
+
+#include "tst_KvMessageNotify.moc"
