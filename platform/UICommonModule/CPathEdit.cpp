@@ -43,6 +43,7 @@ void CPathEdit::SetBrowseMode(BrowseMode eMode)
     if (eMode == BrowseByOwner)
     {
         setCompleter(nullptr);
+        m_pFolders = nullptr;
     }
 }
 
@@ -93,15 +94,19 @@ void CPathEdit::keyPressEvent(QKeyEvent* pEvent)
         AddCompleter(); // the model starts a thread of its own, which a page that is only looked at does not need
     }
     KvLineEdit::keyPressEvent(pEvent);
+    if (m_pFolders)
+    {
+        // Reads the folder that is typed in, in the background; the completer hears of it.
+        m_pFolders->setRootPath(QFileInfo(QDir::fromNativeSeparators(text())).path());
+    }
 }
 
 void CPathEdit::AddCompleter()
 {
     auto* pCompleter = new QCompleter(this);
-    auto* pModel = new QFileSystemModel(pCompleter);
-    pModel->setFilter(QDir::AllDirs | QDir::Drives | QDir::NoDotAndDotDot);
-    pModel->setRootPath(QString());
-    pCompleter->setModel(pModel);
+    m_pFolders = new QFileSystemModel(pCompleter);
+    m_pFolders->setFilter(QDir::AllDirs | QDir::Drives | QDir::NoDotAndDotDot);
+    pCompleter->setModel(m_pFolders);
     setCompleter(pCompleter);
 }
 

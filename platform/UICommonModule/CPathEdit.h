@@ -3,6 +3,7 @@
 #include <KvGui/KvLineEdit.h>
 #include <UICommonModule/UICommonModuleExport.h>
 
+class QFileSystemModel;
 class QToolButton;
 
 namespace UICommonMdl
@@ -49,6 +50,7 @@ private:
 
     QToolButton* m_pBrowseButton;
     BrowseMode m_eBrowseMode = BrowseFolder;
+    QFileSystemModel* m_pFolders = nullptr; // the completer's
     QWidget* m_pTipParent = nullptr;
     int m_nMaxBytes = 0;
     QString m_strMessage;

@@ -1,0 +1,248 @@
+// Faults come from the preloaded library "FaultFs", see support/FaultFs.cpp.
+
+#include <UICommonModule/CAtomicFile.h>
+#include <UICommonModule/CErrorCode.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+using UICommonMdl::CAtomicFile;
+using UICommonMdl::CErrorCode;
+
+class tst_AtomicFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { qunsetenv("KV_FAULT"); }
+
+    void WritesANewFile();
+    void ReplacesAFile();
+    void WritesAnEmptyFile();
+    void WritesALargeFile();
+    void KeepsThePermissions();
+    void FollowsASymbolicLink();
+    void LeavesNoTemporaryFile();
+    void AMissingFolderIsReported();
+    void AReadOnlyFolderIsReported();
+    void AReadOnlyFileIsReported();
+    void AFolderInPlaceOfTheFileIsReported();
+    void ALimitOfSizeCountsAsFull();
+    void FaultsLoseNothing_data();
+    void FaultsLoseNothing();
+
+    void ReadsAFile();
+    void AMissingFileIsReported();
+    void AnUnreadableFileIsReported();
+    void AFolderIsNotRead();
+    void APipeIsNotOpened();
+    void AFileInAClosedFolderIsNotMissing();
+
+private:
+    QString Path(const char* pszName = "file.txt") const { return m_pFolder->filePath(pszName); }
+    void Put(const QByteArray& content, const char* pszName = "file.txt") const
+    {
+        QFile file(Path(pszName));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    QByteArray Get(const char* pszName = "file.txt") const
+    {
+        QFile file(Path(pszName));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+    }
+    QStringList Names() const
+    {
+        return QDir(m_pFolder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    QScopedPointer<QTemporaryDir> m_pFolder;
+};
+
+void tst_AtomicFile::init()
+{
+    m_pFolder.reset(new QTemporaryDir);
+}
+
+void tst_AtomicFile::WritesANewFile()
+{
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::Success));
+    QCOMPARE(Get(), QByteArray("new"));
+}
+
+void tst_AtomicFile::ReplacesAFile()
+{
+    Put("old and longer");
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::Success));
+    QCOMPARE(Get(), QByteArray("new"));
+}
+
+void tst_AtomicFile::WritesAnEmptyFile()
+{
+    Put("old");
+    QCOMPARE(CAtomicFile::Write(Path(), QByteArray()), int(CErrorCode::Success));
+    QCOMPARE(Get(), QByteArray());
+}
+
+void tst_AtomicFile::WritesALargeFile()
+{
+    const QByteArray content(5 * 1024 * 1024, 'x');
+    QCOMPARE(CAtomicFile::Write(Path(), content), int(CErrorCode::Success));
+    QCOMPARE(Get(), content);
+}
+
+void tst_AtomicFile::KeepsThePermissions()
+{
+    Put("old");
+    const QFile::Permissions own = QFile::ReadOwner | QFile::WriteOwner;
+    QVERIFY(QFile::setPermissions(Path(), own));
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::Success));
+    QCOMPARE(QFile::permissions(Path()) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+}
+
+void tst_AtomicFile::FollowsASymbolicLink()
+{
+    Put("old", "target.txt");
+    QVERIFY(QFile::link("target.txt", Path()));
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::Success));
+    QVERIFY(QFileInfo(Path()).isSymLink());
+    QCOMPARE(Get("target.txt"), QByteArray("new"));
+}
+
+void tst_AtomicFile::LeavesNoTemporaryFile()
+{
+    CAtomicFile::Write(Path(), "new");
+    QCOMPARE(Names(), QStringList{"file.txt"});
+}
+
+void tst_AtomicFile::AMissingFolderIsReported()
+{
+    QCOMPARE(CAtomicFile::Write(Path("none/file.txt"), "new"), int(CErrorCode::FolderMissing));
+}
+
+void tst_AtomicFile::AReadOnlyFolderIsReported()
+{
+    Put("old");
+    QVERIFY(QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
+    const int nResult = CAtomicFile::Write(Path(), "new");
+    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QCOMPARE(nResult, int(CErrorCode::NoPermission));
+    QCOMPARE(Get(), QByteArray("old"));
+    QCOMPARE(Names(), QStringList{"file.txt"});
+}
+
+void tst_AtomicFile::AReadOnlyFileIsReported()
+{
+    Put("old");
+    QVERIFY(QFile::setPermissions(Path(), QFile::ReadOwner));
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::NoPermission));
+    QCOMPARE(Get(), QByteArray("old"));
+}
+
+void tst_AtomicFile::AFolderInPlaceOfTheFileIsReported()
+{
+    QVERIFY(QDir().mkpath(Path()));
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::IoError));
+    QVERIFY(QFileInfo(Path()).isDir());
+}
+
+void tst_AtomicFile::ALimitOfSizeCountsAsFull()
+{
+    Put("old");
+    rlimit before{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit = before;
+    limit.rlim_cur = 4096;
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    const int nResult = CAtomicFile::Write(Path(), QByteArray(100000, 'x'));
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    QCOMPARE(nResult, int(CErrorCode::DiskFull));
+    QCOMPARE(Get(), QByteArray("old"));
+    QCOMPARE(Names(), QStringList{"file.txt"});
+}
+
+void tst_AtomicFile::FaultsLoseNothing_data()
+{
+    QTest::addColumn<QByteArray>("fault");
+    QTest::addColumn<int>("nResult");
+    QTest::newRow("full while writing") << QByteArray("write:ENOSPC:") << int(CErrorCode::DiskFull);
+    QTest::newRow("error while writing") << QByteArray("write:EIO:") << int(CErrorCode::IoError);
+    QTest::newRow("full while flushing") << QByteArray("fsync:ENOSPC:") << int(CErrorCode::DiskFull);
+    QTest::newRow("error while flushing") << QByteArray("fsync:EIO:") << int(CErrorCode::IoError);
+    QTest::newRow("error while renaming") << QByteArray("rename:EIO:") << int(CErrorCode::IoError);
+}
+
+void tst_AtomicFile::FaultsLoseNothing()
+{
+    QFETCH(QByteArray, fault);
+    QFETCH(int, nResult);
+    Put("old");
+    qputenv("KV_FAULT", fault + m_pFolder->path().toLocal8Bit());
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), nResult);
+    qunsetenv("KV_FAULT");
+    QCOMPARE(Get(), QByteArray("old"));
+    QCOMPARE(Names(), QStringList{"file.txt"});
+}
+
+void tst_AtomicFile::ReadsAFile()
+{
+    Put("some\0bytes");
+    QByteArray content;
+    QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::Success));
+    QCOMPARE(content, Get());
+}
+
+void tst_AtomicFile::AMissingFileIsReported()
+{
+    QByteArray content = "before";
+    QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::FileMissing));
+    QVERIFY(content.isEmpty());
+    QCOMPARE(CAtomicFile::Read(Path("none/file.txt"), content), int(CErrorCode::FileMissing));
+}
+
+void tst_AtomicFile::AnUnreadableFileIsReported()
+{
+    Put("secret");
+    QVERIFY(QFile::setPermissions(Path(), QFile::WriteOwner));
+    QByteArray content;
+    QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::NoPermission));
+}
+
+void tst_AtomicFile::AFolderIsNotRead()
+{
+    QVERIFY(QDir().mkpath(Path()));
+    QByteArray content;
+    QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::Unreadable));
+}
+
+void tst_AtomicFile::APipeIsNotOpened()
+{
+    // Opening it would wait for a writer for ever.
+    QCOMPARE(mkfifo(qPrintable(Path()), 0600), 0);
+    QByteArray content;
+    QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::Unreadable));
+}
+
+void tst_AtomicFile::AFileInAClosedFolderIsNotMissing()
+{
+    QVERIFY(QDir().mkpath(Path("closed")));
+    Put("secret", "closed/file.txt");
+    QVERIFY(QFile::setPermissions(Path("closed"), QFile::Permissions()));
+    QByteArray content;
+    const int nResult = CAtomicFile::Read(Path("closed/file.txt"), content);
+    QFile::setPermissions(Path("closed"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QCOMPARE(nResult, int(CErrorCode::NoPermission));
+}
+
+QTEST_GUILESS_MAIN(tst_AtomicFile)
+
+#include "tst_AtomicFile.moc"

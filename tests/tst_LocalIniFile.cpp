@@ -1,0 +1,187 @@
+#include <UICommonModule/CLocalIniFile.h>
+
+#include <QDir>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using UICommonMdl::CLocalIniFile;
+
+class tst_LocalIniFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { QDir::setCurrent(QDir::rootPath()); }
+
+    void ABareNameLiesInTheWorkingFolder();
+    void AnAbsoluteNameIsTaken();
+    void EveryOtherByteStays_data();
+    void EveryOtherByteStays();
+    void ValuesComeBackThroughQSettings_data();
+    void ValuesComeBackThroughQSettings();
+    void BoolsAndNumbers();
+    void NothingIsWrittenWhenNothingChanges();
+    void AnUnreadableFileIsNotOverwritten();
+    void AReadOnlyFolderIsRefused();
+    void ReadsWithDefault();
+
+private:
+    void Put(const QByteArray& content)
+    {
+        QFile file("test.ini");
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    static QByteArray Get(const QString& strName = "test.ini")
+    {
+        QFile file(strName);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+    }
+
+    QScopedPointer<QTemporaryDir> m_pFolder;
+};
+
+void tst_LocalIniFile::init()
+{
+    m_pFolder.reset(new QTemporaryDir);
+    QVERIFY(QDir::setCurrent(m_pFolder->path()));
+}
+
+void tst_LocalIniFile::ABareNameLiesInTheWorkingFolder()
+{
+    QVERIFY(CLocalIniFile::WriteValue("Skin", "version", "White", "Localcfg.ini"));
+    QCOMPARE(Get(m_pFolder->filePath("Localcfg.ini")), QByteArray("[Skin]\nversion=White\n"));
+}
+
+void tst_LocalIniFile::AnAbsoluteNameIsTaken()
+{
+    const QTemporaryDir other;
+    QVERIFY(CLocalIniFile::WriteValue("Skin", "version", "White", other.filePath("other.ini")));
+    QVERIFY(QFile::exists(other.filePath("other.ini")));
+    QVERIFY(QDir(m_pFolder->path()).isEmpty());
+}
+
+void tst_LocalIniFile::EveryOtherByteStays_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::newRow("empty") << QByteArray("") << QByteArray("[G]\nk=v\n");
+    QTest::newRow("replaced") << QByteArray("[G]\nk=old\n") << QByteArray("[G]\nk=v\n");
+    QTest::newRow("neighbours") << QByteArray("; c\n[G]\na=1\nk=old\nb=2\n") << QByteArray("; c\n[G]\na=1\nk=v\nb=2\n");
+    QTest::newRow("added to its group") << QByteArray("[G]\na=1\n\n[H]\nk=h\n")
+                                        << QByteArray("[G]\na=1\nk=v\n\n[H]\nk=h\n");
+    QTest::newRow("empty group") << QByteArray("[G]\n[H]\nk=h\n") << QByteArray("[G]\nk=v\n[H]\nk=h\n");
+    QTest::newRow("new group") << QByteArray("[H]\nk=h\n") << QByteArray("[H]\nk=h\n\n[G]\nk=v\n");
+    QTest::newRow("no line end") << QByteArray("[H]\nk=h") << QByteArray("[H]\nk=h\n\n[G]\nk=v\n");
+    QTest::newRow("no line end in its group") << QByteArray("[G]\na=1") << QByteArray("[G]\na=1\nk=v\n");
+    QTest::newRow("carriage returns") << QByteArray("[G]\r\na=1\r\nk=old\r\n") << QByteArray("[G]\r\na=1\r\nk=v\r\n");
+    QTest::newRow("comments") << QByteArray("[G]\n;k=1\n#k=2\n") << QByteArray("[G]\n;k=1\n#k=2\nk=v\n");
+    QTest::newRow("spaces") << QByteArray("[G]\n k = old \n") << QByteArray("[G]\nk=v\n");
+    QTest::newRow("letter case") << QByteArray("[g]\nk=1\n[G]\nK=2\n") << QByteArray("[g]\nk=1\n[G]\nK=2\nk=v\n");
+    QTest::newRow("a group twice") << QByteArray("[G]\nk=1\n[H]\n[G]\nk=2\n")
+                                   << QByteArray("[G]\nk=v\n[H]\n[G]\nk=v\n");
+    QTest::newRow("longer key") << QByteArray("[G]\nkk=1\n") << QByteArray("[G]\nkk=1\nk=v\n");
+    QTest::newRow("bytes that are no text")
+        << QByteArray("[H]\nx=\xff\xfe\n[G]\nk=o\n") << QByteArray("[H]\nx=\xff\xfe\n[G]\nk=v\n");
+}
+
+void tst_LocalIniFile::EveryOtherByteStays()
+{
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    Put(before);
+    QVERIFY(CLocalIniFile::WriteValue("G", "k", "v", "test.ini"));
+    QCOMPARE(Get(), after);
+}
+
+void tst_LocalIniFile::ValuesComeBackThroughQSettings_data()
+{
+    QTest::addColumn<QString>("strValue");
+    for (const QString& strValue : {QString("plain"),
+                                    QString(""),
+                                    QString(" both ends "),
+                                    QString("a;b"),
+                                    QString("a#b"),
+                                    QString("a=b"),
+                                    QString("a,b"),
+                                    QString("\"quoted\""),
+                                    QString("C:\\folder\\new"),
+                                    QString("line\nbreak"),
+                                    QString("tab\there"),
+                                    QString("@home"),
+                                    QString("@Variant(x)"),
+                                    QString("%1"),
+                                    QString("[x]"),
+                                    QString::fromUtf8("客户端"),
+                                    QString::fromUtf8("é1"),
+                                    QString::fromUtf8("ab\xf0\x9f\x8e\xa5"
+                                                      "cd"),
+                                    QString(QChar(1)) + "2",
+                                    QString("x").repeated(5000)})
+    {
+        QTest::newRow(qPrintable(strValue.left(20).simplified())) << strValue;
+    }
+}
+
+void tst_LocalIniFile::ValuesComeBackThroughQSettings()
+{
+    QFETCH(QString, strValue);
+    QVERIFY(CLocalIniFile::WriteValue("Group", "key", strValue, "test.ini"));
+    QVERIFY(CLocalIniFile::WriteValue("Group", "other", "stays", "test.ini"));
+    const QSettings settings("test.ini", QSettings::IniFormat);
+    QCOMPARE(settings.value("Group/key").toString(), strValue);
+    QCOMPARE(settings.value("Group/other").toString(), QString("stays"));
+    QCOMPARE(CLocalIniFile::ReadValue("Group", "key", "default", "test.ini"), strValue);
+}
+
+void tst_LocalIniFile::BoolsAndNumbers()
+{
+    QVERIFY(CLocalIniFile::WriteValue("ProcessDecode", "enable", true, "test.ini"));
+    QVERIFY(CLocalIniFile::WriteValue("Language", "type", -7, "test.ini"));
+    QCOMPARE(Get(), QByteArray("[ProcessDecode]\nenable=true\n\n[Language]\ntype=-7\n"));
+    QVERIFY(CLocalIniFile::WriteValue("ProcessDecode", "enable", false, "test.ini"));
+    QVERIFY(Get().contains("enable=false"));
+}
+
+void tst_LocalIniFile::NothingIsWrittenWhenNothingChanges()
+{
+    Put("[G]\nk=v\n");
+    QVERIFY(QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
+    const bool bOk = CLocalIniFile::WriteValue("G", "k", "v", "test.ini");
+    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QVERIFY2(bOk, "in a folder that cannot be written");
+}
+
+void tst_LocalIniFile::AnUnreadableFileIsNotOverwritten()
+{
+    Put("[H]\nprecious=1\n");
+    QVERIFY(QFile::setPermissions("test.ini", QFile::WriteOwner));
+    QVERIFY(!CLocalIniFile::WriteValue("G", "k", "v", "test.ini"));
+    QVERIFY(QFile::setPermissions("test.ini", QFile::ReadOwner | QFile::WriteOwner));
+    QCOMPARE(Get(), QByteArray("[H]\nprecious=1\n"));
+}
+
+void tst_LocalIniFile::AReadOnlyFolderIsRefused()
+{
+    Put("[G]\nk=old\n");
+    QVERIFY(QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
+    const bool bOk = CLocalIniFile::WriteValue("G", "k", "v", "test.ini");
+    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QVERIFY(!bOk);
+    QCOMPARE(Get(), QByteArray("[G]\nk=old\n"));
+}
+
+void tst_LocalIniFile::ReadsWithDefault()
+{
+    QCOMPARE(CLocalIniFile::ReadValue("G", "k", "default", "none.ini"), QString("default"));
+    Put("[G]\nk=v\n");
+    QCOMPARE(CLocalIniFile::ReadValue("G", "k", "default", "test.ini"), QString("v"));
+    QCOMPARE(CLocalIniFile::ReadValue("G", "other", "default", "test.ini"), QString("default"));
+    QCOMPARE(CLocalIniFile::ReadValue("H", "k", "default", "test.ini"), QString("default"));
+}
+
+QTEST_GUILESS_MAIN(tst_LocalIniFile)
+
+#include "tst_LocalIniFile.moc"
