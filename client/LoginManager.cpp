@@ -42,6 +42,11 @@ public:
         connect(&m_socket, &QTcpSocket::readyRead, &m_socket, [this] { m_socket.skip(m_socket.bytesAvailable()); });
     }
 
+    ~ConnectionWatch() override
+    {
+        m_socket.disconnect(this); // closing it is no loss to report, least of all to timers that are gone
+    }
+
     void Connect()
     {
         m_timeout.start();

@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QTextCodec>
 
 #include <cmath>
 #include <limits>
@@ -32,13 +31,6 @@ struct IsMap : std::false_type
 template <class Mapped>
 struct IsMap<std::map<std::int32_t, Mapped>> : std::true_type
 {};
-
-bool IsUtf8(const QByteArray& bytes)
-{
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    const QString strText = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0 && strText.toUtf8() == bytes;
-}
 
 /// A decimal number in the one form that writing gives it.
 bool ParseKey(const QString& strKey, std::int32_t& nKey)
@@ -160,9 +152,10 @@ QJsonValue Write(const Value& value, const QJsonValue& old)
     else if constexpr (std::is_same_v<Value, std::string>)
     {
         const QByteArray bytes = QByteArray::fromStdString(value);
-        if (IsUtf8(bytes))
+        const QString strText = QString::fromUtf8(bytes);
+        if (strText.toUtf8() == bytes)
         {
-            return QString::fromUtf8(bytes);
+            return strText;
         }
         return QJsonObject{{g_strBase64, QString::fromLatin1(bytes.toBase64())}};
     }

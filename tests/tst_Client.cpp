@@ -1,0 +1,357 @@
+// The real client, started as an operator or a script starts it, on a real data folder.
+
+#include "support/ChangedSettings.h"
+
+#include <client/SettingsDocument.h>
+
+#include <QDir>
+#include <QImage>
+#include <QLockFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace LocalConfigClient;
+
+namespace
+{
+
+struct SRun
+{
+    int nExitCode = -1;
+    QByteArray output;
+    QStringList listErrors;
+};
+
+SRun Run(const QStringList& listArguments, const QProcessEnvironment& environment, const QString& strFolder = {})
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(strFolder.isEmpty() ? QDir::currentPath() : strFolder);
+    process.start(QString::fromLocal8Bit(qgetenv("KV_CLIENT")), listArguments);
+    SRun run;
+    if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit)
+    {
+        run.nExitCode = process.exitCode();
+    }
+    run.output = process.readAllStandardOutput();
+    run.listErrors = QString::fromLocal8Bit(process.readAllStandardError()).split('\n', Qt::SkipEmptyParts);
+    return run;
+}
+
+QByteArray Document(const Settings& settings)
+{
+    SettingsDocument document;
+    document.SetSettings(settings);
+    return document.Serialize();
+}
+
+/// Every file of a folder with its content.
+QMap<QString, QByteArray> Snapshot(const QString& strFolder)
+{
+    QMap<QString, QByteArray> mapFiles;
+    for (const QString& strName : QDir(strFolder).entryList(QDir::Files | QDir::Hidden))
+    {
+        QFile file(QDir(strFolder).filePath(strName));
+        mapFiles.insert(strName, file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)"));
+    }
+    return mapFiles;
+}
+
+int Colors(const QString& strPicture)
+{
+    const QImage image(strPicture);
+    QSet<QRgb> setColors;
+    for (int y = 0; y < image.height(); y += 2)
+    {
+        for (int x = 0; x < image.width(); x += 2)
+        {
+            setColors.insert(image.pixel(x, y));
+        }
+    }
+    return setColors.size();
+}
+
+} // namespace
+
+class tst_Client : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void DumpShowsDefaultsAtFirst();
+    void ImportDumpExport();
+    void ImportKeepsTheLastGeneration();
+    void PathsAreThoseOfTheCaller();
+    void ScreenshotShowsTheDialog_data();
+    void ScreenshotShowsTheDialog();
+    void ScreenshotOfASection();
+    void ScreenshotWithoutADisplay();
+    void TheSkinOfTheIniFileIsUsed();
+    void TheLanguageIsUsed();
+    void HelpAndVersion();
+
+    void BadInput_data();
+    void BadInput();
+    void ADamagedDocumentIsReportedAndLeftAlone();
+    void ImportOfADamagedDocumentLosesNothing();
+    void AReadOnlyFolderLosesNothing();
+    void AFullDiskLosesNothing();
+    void ASecondClientLosesNothing();
+    void WithoutADisplayTheWindowSaysSo();
+
+private:
+    SRun Client(QStringList listArguments) const
+    {
+        return Run(listArguments << "--data-dir" << m_pFolder->path(), m_environment);
+    }
+    QString Path(const QString& strName) const { return m_pFolder->filePath(strName); }
+    void Put(const QString& strPath, const QByteArray& content) const
+    {
+        QFile file(strPath);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    QProcessEnvironment m_environment;
+    QScopedPointer<QTemporaryDir> m_pFolder;
+    QScopedPointer<QTemporaryDir> m_pOther; // for files that are not the client's own
+};
+
+void tst_Client::init()
+{
+    m_environment = QProcessEnvironment::systemEnvironment();
+    m_environment.insert("QT_LOGGING_RULES", "default.warning=false"); // the offscreen plug-in's own words
+    m_pFolder.reset(new QTemporaryDir);
+    m_pOther.reset(new QTemporaryDir);
+}
+
+void tst_Client::DumpShowsDefaultsAtFirst()
+{
+    const SRun run = Client({"--dump"});
+    QCOMPARE(run.nExitCode, 0);
+    QCOMPARE(run.listErrors, QStringList());
+    QCOMPARE(run.output, Document(Settings()));
+    QVERIFY2(Snapshot(m_pFolder->path()).isEmpty(), "looking writes nothing");
+}
+
+void tst_Client::ImportDumpExport()
+{
+    const QByteArray document = Document(ChangedSettings());
+    Put(m_pOther->filePath("in.json"), document);
+    SRun run = Client({"--import", m_pOther->filePath("in.json")});
+    QCOMPARE(run.listErrors, QStringList());
+    QCOMPARE(run.nExitCode, 0);
+    QCOMPARE(Client({"--dump"}).output, document);
+    run = Client({"--export", m_pOther->filePath("out.json")});
+    QCOMPARE(run.nExitCode, 0);
+    QCOMPARE(Snapshot(m_pOther->path()).value("out.json"), document);
+}
+
+void tst_Client::ImportKeepsTheLastGeneration()
+{
+    Put(Path("settings.json"), Document(Settings()));
+    Put(m_pOther->filePath("in.json"), Document(ChangedSettings()));
+    QCOMPARE(Client({"--import", m_pOther->filePath("in.json")}).nExitCode, 0);
+    QCOMPARE(Snapshot(m_pFolder->path()).value("settings.json.bak"), Document(Settings()));
+}
+
+void tst_Client::PathsAreThoseOfTheCaller()
+{
+    const SRun run = Run({"--export", "out.json", "--data-dir", "data"}, m_environment, m_pOther->path());
+    QCOMPARE(run.listErrors, QStringList());
+    QVERIFY(QFile::exists(m_pOther->filePath("out.json")));
+    QVERIFY(QDir(m_pOther->filePath("data")).exists());
+}
+
+void tst_Client::ScreenshotShowsTheDialog_data()
+{
+    QTest::addColumn<QString>("strSkin");
+    QTest::addColumn<QByteArray>("scale");
+    for (const char* pszSkin : {"DustyBlue", "White"})
+    {
+        for (const char* pszScale : {"1", "1.5", "2"})
+        {
+            QTest::addRow("%s at %s", pszSkin, pszScale) << pszSkin << QByteArray(pszScale);
+        }
+    }
+}
+
+void tst_Client::ScreenshotShowsTheDialog()
+{
+    QFETCH(QString, strSkin);
+    QFETCH(QByteArray, scale);
+    m_environment.insert("QT_SCALE_FACTOR", QString::fromLatin1(scale));
+    const SRun run = Client({"--screenshot", m_pOther->filePath("a.png"), "--skin", strSkin});
+    QCOMPARE(run.listErrors, QStringList());
+    QCOMPARE(run.nExitCode, 0);
+    const QImage image(m_pOther->filePath("a.png"));
+    QVERIFY(qAbs(image.width() - 945 * scale.toDouble()) <= 2);
+    QVERIFY(image.height() > 680 * scale.toDouble());
+    QVERIFY(Colors(m_pOther->filePath("a.png")) > 50);
+    const int nBackground = qGray(image.pixel(image.width() / 2, image.height() - 30));
+    QVERIFY(strSkin == "White" ? nBackground > 200 : nBackground < 60);
+}
+
+void tst_Client::ScreenshotOfASection()
+{
+    Client({"--screenshot", m_pOther->filePath("first.png")});
+    Client({"--screenshot", m_pOther->filePath("last.png"), "--section", "8"});
+    const QImage first(m_pOther->filePath("first.png"));
+    const QImage last(m_pOther->filePath("last.png"));
+    QCOMPARE(first.size(), last.size());
+    QVERIFY(first != last);
+}
+
+void tst_Client::ScreenshotWithoutADisplay()
+{
+    for (const char* pszName : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_LOGGING_RULES"})
+    {
+        m_environment.remove(pszName);
+    }
+    const SRun run = Client({"--screenshot", m_pOther->filePath("a.png")});
+    QCOMPARE(run.listErrors, QStringList());
+    QCOMPARE(run.nExitCode, 0);
+    QVERIFY(!QImage(m_pOther->filePath("a.png")).isNull());
+}
+
+void tst_Client::TheSkinOfTheIniFileIsUsed()
+{
+    Client({"--screenshot", m_pOther->filePath("dark.png")});
+    Put(Path("Localcfg.ini"), "[Skin]\nversion=White\n");
+    Client({"--screenshot", m_pOther->filePath("white.png")});
+    const QImage dark(m_pOther->filePath("dark.png"));
+    const QImage white(m_pOther->filePath("white.png"));
+    QVERIFY(qGray(dark.pixel(400, 690)) < 60);
+    QVERIFY(qGray(white.pixel(400, 690)) > 200);
+}
+
+void tst_Client::TheLanguageIsUsed()
+{
+    Client({"--screenshot", m_pOther->filePath("en.png")});
+    Client({"--screenshot", m_pOther->filePath("zh.png"), "--language", "zh_CN"});
+    QVERIFY(QImage(m_pOther->filePath("en.png")) != QImage(m_pOther->filePath("zh.png")));
+}
+
+void tst_Client::HelpAndVersion()
+{
+    QVERIFY(Client({"--help"}).output.contains("--without-right"));
+    QCOMPARE(Client({"--version"}).output, QByteArray("local-config-client 1.0.0\n"));
+}
+
+void tst_Client::BadInput_data()
+{
+    QTest::addColumn<QStringList>("listArguments");
+    QTest::addColumn<int>("nExitCode");
+    QTest::newRow("unknown option") << QStringList{"--colour"} << 2;
+    QTest::newRow("two actions") << QStringList{"--dump", "--import", "x"} << 2;
+    QTest::newRow("section out of range") << QStringList{"--screenshot", "x.png", "--section", "9"} << 2;
+    QTest::newRow("import of nothing") << QStringList{"--import", "/no/such/file"} << 1;
+    QTest::newRow("import of a folder") << QStringList{"--import", "/tmp"} << 1;
+    QTest::newRow("import of a device") << QStringList{"--import", "/dev/zero"} << 1;
+    QTest::newRow("export to nowhere") << QStringList{"--export", "/no/such/folder/file"} << 1;
+    QTest::newRow("screenshot to nowhere") << QStringList{"--screenshot", "/no/such/folder/file.png"} << 1;
+}
+
+void tst_Client::BadInput()
+{
+    QFETCH(QStringList, listArguments);
+    QFETCH(int, nExitCode);
+    Put(Path("settings.json"), Document(ChangedSettings()));
+    const QMap<QString, QByteArray> mapBefore = Snapshot(m_pFolder->path());
+    const SRun run = Client(listArguments);
+    QCOMPARE(run.nExitCode, nExitCode);
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY2(run.listErrors.first().startsWith("local-config-client: "), qPrintable(run.listErrors.first()));
+    QVERIFY(run.output.isEmpty());
+    QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
+}
+
+void tst_Client::ADamagedDocumentIsReportedAndLeftAlone()
+{
+    Put(Path("settings.json"), "{\"version\": 1, \"sec");
+    Put(Path("settings.json.bak"), Document(ChangedSettings()));
+    const QMap<QString, QByteArray> mapBefore = Snapshot(m_pFolder->path());
+    const SRun run = Client({"--dump"});
+    QCOMPARE(run.nExitCode, 0);
+    QCOMPARE(run.listErrors.size(), 1);
+    QCOMPARE(run.output, Document(ChangedSettings()));
+    QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
+}
+
+void tst_Client::ImportOfADamagedDocumentLosesNothing()
+{
+    Put(Path("settings.json"), Document(ChangedSettings()));
+    Put(m_pOther->filePath("in.json"), R"({"version": 1, "sections": {"basic": {"skin": []}}})");
+    const QMap<QString, QByteArray> mapBefore = Snapshot(m_pFolder->path());
+    const SRun run = Client({"--import", m_pOther->filePath("in.json")});
+    QCOMPARE(run.nExitCode, 1);
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY(run.listErrors.first().contains("sections.basic.skin"));
+    QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
+}
+
+void tst_Client::AReadOnlyFolderLosesNothing()
+{
+    Put(Path("settings.json"), Document(ChangedSettings()));
+    Put(m_pOther->filePath("in.json"), Document(Settings()));
+    const QMap<QString, QByteArray> mapBefore = Snapshot(m_pFolder->path());
+    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner);
+    const SRun run = Client({"--import", m_pOther->filePath("in.json")});
+    const SRun dump = Client({"--dump"});
+    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QCOMPARE(run.nExitCode, 1);
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY(run.listErrors.first().contains("permission"));
+    QCOMPARE(dump.output, Document(ChangedSettings()));
+    QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
+}
+
+void tst_Client::AFullDiskLosesNothing()
+{
+    Put(Path("settings.json"), Document(ChangedSettings()));
+    Put(m_pOther->filePath("in.json"), Document(Settings()));
+    const QMap<QString, QByteArray> mapBefore = Snapshot(m_pFolder->path());
+    m_environment.insert("LD_PRELOAD", QString::fromLocal8Bit(qgetenv("KV_FAULT_LIBRARY")));
+    m_environment.insert("ASAN_OPTIONS", "verify_asan_link_order=0");
+    m_environment.insert("KV_FAULT", "write:ENOSPC:" + m_pFolder->path());
+    const SRun run = Client({"--import", m_pOther->filePath("in.json")});
+    QCOMPARE(run.nExitCode, 1);
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY2(run.listErrors.first().contains("the disk is full"), qPrintable(run.listErrors.first()));
+    QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
+}
+
+void tst_Client::ASecondClientLosesNothing()
+{
+    Put(Path("settings.json"), Document(ChangedSettings()));
+    Put(m_pOther->filePath("in.json"), Document(Settings()));
+    QLockFile lock(Path("settings.lock"));
+    lock.setStaleLockTime(0);
+    QVERIFY(lock.tryLock(0));
+    const QMap<QString, QByteArray> mapBefore = Snapshot(m_pFolder->path());
+    const SRun run = Client({"--import", m_pOther->filePath("in.json")});
+    QCOMPARE(run.nExitCode, 1);
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY(run.listErrors.first().contains("another client"));
+    QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
+    QCOMPARE(Client({"--dump"}).output, Document(ChangedSettings()));
+}
+
+void tst_Client::WithoutADisplayTheWindowSaysSo()
+{
+    for (const char* pszName : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    {
+        m_environment.remove(pszName);
+    }
+    const SRun run = Client({});
+    QCOMPARE(run.nExitCode, 1);
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY(run.listErrors.first().contains("--screenshot"));
+}
+
+QTEST_GUILESS_MAIN(tst_Client)
+
+#include "tst_Client.moc"

@@ -1,0 +1,333 @@
+// Against a real server on this machine, which goes away and comes back.
+
+#include <client/LoginManager.h>
+
+#include <QElapsedTimer>
+#include <QMutex>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QThread>
+#include <QtTest>
+
+using namespace LocalConfigClient;
+using UserLogical::ILoginManagerObserver;
+
+namespace
+{
+
+constexpr LoginManager::BackOff g_fast{10, 40};
+
+/// Notes what it is told, and where.
+class CObserver : public ILoginManagerObserver
+{
+public:
+    void NotifyLoginState(const Param& param) override
+    {
+        const QMutexLocker locker(&m_mutex);
+        m_listStates += QString("%1/%2").arg(param.nState).arg(param.nSubState);
+        m_pThread = QThread::currentThread();
+    }
+
+    QStringList States() const
+    {
+        const QMutexLocker locker(&m_mutex);
+        return m_listStates;
+    }
+
+    QThread* Thread() const
+    {
+        const QMutexLocker locker(&m_mutex);
+        return m_pThread;
+    }
+
+private:
+    mutable QMutex m_mutex;
+    QStringList m_listStates;
+    QThread* m_pThread = nullptr;
+};
+
+/// A server that keeps its connections open until it is closed.
+class CServer
+{
+public:
+    bool Open(quint16 nPort = 0)
+    {
+        m_pServer.reset(new QTcpServer);
+        QTcpServer* pServer = m_pServer.data();
+        QObject::connect(pServer, &QTcpServer::newConnection, pServer, [this] { ++m_nConnections; });
+        return m_pServer->listen(QHostAddress::LocalHost, nPort);
+    }
+    void Close() { m_pServer.reset(); }
+    quint16 Port() const { return m_pServer->serverPort(); }
+    void SendToAll(const QByteArray& data) const
+    {
+        for (QTcpSocket* pSocket : m_pServer->findChildren<QTcpSocket*>())
+        {
+            pSocket->write(data);
+        }
+    }
+
+    int m_nConnections = 0;
+
+private:
+    QScopedPointer<QTcpServer> m_pServer;
+};
+
+} // namespace
+
+class tst_LoginManager : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void WithoutAServerNobodyIsTold();
+    void AConnectionThatSucceedsIsNoNews();
+    void LossAndReturn();
+    void ToldFromAThreadOfItsOwn();
+    void AServerThatIsNotThere();
+    void ALateObserverIsToldOfTheLoss();
+    void ALateObserverOfAConnectionIsToldNothing();
+    void ARemovedObserverIsLeftAlone();
+    void RemovingFromWithinANotification();
+    void AddingTwiceCountsOnce();
+    void UnknownAndNullObserversAreHarmless();
+    void WhatTheServerSaysIsIgnored();
+    void AttemptsBecomeSeldom();
+    void EndsWhileConnecting();
+};
+
+void tst_LoginManager::WithoutAServerNobodyIsTold()
+{
+    LoginManager manager;
+    CObserver observer;
+    manager.AddObserver(&observer);
+    QTest::qWait(50);
+    QCOMPARE(observer.States(), QStringList());
+    manager.RemoveObserver(&observer);
+}
+
+void tst_LoginManager::AConnectionThatSucceedsIsNoNews()
+{
+    CServer server;
+    QVERIFY(server.Open());
+    LoginManager manager("127.0.0.1", server.Port(), g_fast);
+    CObserver observer;
+    manager.AddObserver(&observer);
+    QTRY_COMPARE(server.m_nConnections, 1);
+    QTest::qWait(50);
+    QCOMPARE(observer.States(), QStringList());
+    manager.RemoveObserver(&observer);
+}
+
+void tst_LoginManager::LossAndReturn()
+{
+    CServer server;
+    QVERIFY(server.Open());
+    const quint16 nPort = server.Port();
+    LoginManager manager("127.0.0.1", nPort, g_fast);
+    CObserver observer;
+    manager.AddObserver(&observer);
+    QTRY_COMPARE(server.m_nConnections, 1);
+    for (int n = 1; n <= 2; ++n)
+    {
+        server.Close();
+        QTRY_COMPARE(observer.States().size(), 2 * n - 1);
+        QCOMPARE(observer.States().last(), QString("3/0"));
+        QTest::qWait(60); // further attempts that fail are no news
+        QCOMPARE(observer.States().size(), 2 * n - 1);
+        QVERIFY(server.Open(nPort));
+        QTRY_COMPARE(observer.States().size(), 2 * n);
+        QCOMPARE(observer.States().last(), QString("2/0"));
+    }
+    manager.RemoveObserver(&observer);
+}
+
+void tst_LoginManager::ToldFromAThreadOfItsOwn()
+{
+    CServer server;
+    QVERIFY(server.Open());
+    LoginManager manager("127.0.0.1", server.Port(), g_fast);
+    CObserver observer;
+    manager.AddObserver(&observer);
+    QTRY_COMPARE(server.m_nConnections, 1);
+    server.Close();
+    QTRY_COMPARE(observer.States().size(), 1);
+    QVERIFY(observer.Thread() != QThread::currentThread());
+    manager.RemoveObserver(&observer);
+}
+
+void tst_LoginManager::AServerThatIsNotThere()
+{
+    CServer server;
+    QVERIFY(server.Open());
+    const quint16 nPort = server.Port();
+    server.Close();
+    LoginManager manager("127.0.0.1", nPort, g_fast);
+    CObserver observer;
+    manager.AddObserver(&observer);
+    QTRY_COMPARE(observer.States(), QStringList{"3/0"});
+    QVERIFY(server.Open(nPort));
+    QTRY_COMPARE(observer.States(), (QStringList{"3/0", "2/0"}));
+    manager.RemoveObserver(&observer);
+}
+
+void tst_LoginManager::ALateObserverIsToldOfTheLoss()
+{
+    CServer server;
+    QVERIFY(server.Open());
+    const quint16 nPort = server.Port();
+    server.Close();
+    LoginManager manager("127.0.0.1", nPort, g_fast);
+    CObserver first;
+    manager.AddObserver(&first);
+    QTRY_COMPARE(first.States().size(), 1);
+    CObserver late;
+    manager.AddObserver(&late);
+    QTRY_COMPARE(late.States(), QStringList{"3/0"});
+    QVERIFY(late.Thread() != QThread::currentThread());
+    QTest::qWait(50);
+    QCOMPARE(first.States().size(), 1);
+    QCOMPARE(late.States().size(), 1);
+    manager.RemoveObserver(&first);
+    manager.RemoveObserver(&late);
+}
+
+void tst_LoginManager::ALateObserverOfAConnectionIsToldNothing()
+{
+    CServer server;
+    QVERIFY(server.Open());
+    LoginManager manager("127.0.0.1", server.Port(), g_fast);
+    QTRY_COMPARE(server.m_nConnections, 1);
+    QTest::qWait(30);
+    CObserver observer;
+    manager.AddObserver(&observer);
+    QTest::qWait(50);
+    QCOMPARE(observer.States(), QStringList());
+    manager.RemoveObserver(&observer);
+}
+
+void tst_LoginManager::ARemovedObserverIsLeftAlone()
+{
+    CServer server;
+    QVERIFY(server.Open());
+    LoginManager manager("127.0.0.1", server.Port(), g_fast);
+    CObserver removed;
+    CObserver stays;
+    manager.AddObserver(&removed);
+    manager.AddObserver(&stays);
+    QTRY_COMPARE(server.m_nConnections, 1);
+    manager.RemoveObserver(&removed);
+    server.Close();
+    QTRY_COMPARE(stays.States().size(), 1);
+    QCOMPARE(removed.States(), QStringList());
+    manager.RemoveObserver(&stays);
+}
+
+void tst_LoginManager::RemovingFromWithinANotification()
+{
+    class CLeaver : public CObserver
+    {
+    public:
+        void NotifyLoginState(const Param& param) override
+        {
+            CObserver::NotifyLoginState(param);
+            m_pManager->RemoveObserver(this);
+            m_pManager->RemoveObserver(m_pOther);
+        }
+        LoginManager* m_pManager = nullptr;
+        ILoginManagerObserver* m_pOther = nullptr;
+    };
+    CServer server;
+    QVERIFY(server.Open());
+    LoginManager manager("127.0.0.1", server.Port(), g_fast);
+    CObserver other;
+    CLeaver leaver;
+    leaver.m_pManager = &manager;
+    leaver.m_pOther = &other;
+    manager.AddObserver(&leaver);
+    manager.AddObserver(&other);
+    QTRY_COMPARE(server.m_nConnections, 1);
+    const quint16 nPort = server.Port();
+    server.Close();
+    QTRY_COMPARE(leaver.States().size(), 1);
+    QVERIFY(server.Open(nPort));
+    QTRY_VERIFY(server.m_nConnections > 1);
+    QTest::qWait(30);
+    QCOMPARE(leaver.States().size(), 1);
+    QCOMPARE(other.States(), QStringList());
+}
+
+void tst_LoginManager::AddingTwiceCountsOnce()
+{
+    CServer server;
+    QVERIFY(server.Open());
+    LoginManager manager("127.0.0.1", server.Port(), g_fast);
+    CObserver observer;
+    manager.AddObserver(&observer);
+    manager.AddObserver(&observer);
+    QTRY_COMPARE(server.m_nConnections, 1);
+    server.Close();
+    QTRY_COMPARE(observer.States().size(), 1);
+    QTest::qWait(30);
+    QCOMPARE(observer.States().size(), 1);
+    manager.RemoveObserver(&observer);
+}
+
+void tst_LoginManager::UnknownAndNullObserversAreHarmless()
+{
+    LoginManager manager;
+    CObserver observer;
+    manager.AddObserver(nullptr);
+    manager.RemoveObserver(nullptr);
+    manager.RemoveObserver(&observer);
+    QCOMPARE(observer.States(), QStringList());
+}
+
+void tst_LoginManager::WhatTheServerSaysIsIgnored()
+{
+    CServer server;
+    QVERIFY(server.Open());
+    LoginManager manager("127.0.0.1", server.Port(), g_fast);
+    CObserver observer;
+    manager.AddObserver(&observer);
+    QTRY_COMPARE(server.m_nConnections, 1);
+    server.SendToAll(QByteArray(100000, 'x'));
+    QTest::qWait(50);
+    QCOMPARE(observer.States(), QStringList());
+    server.Close();
+    QTRY_COMPARE(observer.States(), QStringList{"3/0"});
+    manager.RemoveObserver(&observer);
+}
+
+void tst_LoginManager::AttemptsBecomeSeldom()
+{
+    QTcpServer closed;
+    QVERIFY(closed.listen(QHostAddress::LocalHost));
+    const quint16 nPort = closed.serverPort();
+    closed.close();
+    const LoginManager manager("127.0.0.1", nPort, LoginManager::BackOff{50, 400});
+    QTest::qWait(900); // attempts at 0, 50, 150, 350, 750
+    int nConnections = 0;
+    QTcpServer server;
+    connect(&server, &QTcpServer::newConnection, this, [&] { ++nConnections; });
+    QVERIFY(server.listen(QHostAddress::LocalHost, nPort));
+    QElapsedTimer timer;
+    timer.start();
+    QTRY_COMPARE(nConnections, 1);
+    QVERIFY2(timer.elapsed() > 60, "the next attempt is not due for a while");
+}
+
+void tst_LoginManager::EndsWhileConnecting()
+{
+    QElapsedTimer timer;
+    timer.start();
+    for (int n = 0; n < 20; ++n)
+    {
+        const LoginManager manager("127.0.0.1", 1, g_fast);
+    }
+    QVERIFY(timer.elapsed() < 5000);
+}
+
+QTEST_GUILESS_MAIN(tst_LoginManager)
+
+#include "tst_LoginManager.moc"

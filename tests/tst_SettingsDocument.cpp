@@ -1,0 +1,331 @@
+#include "support/ChangedSettings.h"
+
+#include <client/SettingsDocument.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QtTest>
+
+using namespace LocalConfigClient;
+
+namespace
+{
+
+/// Walks a document and lists the path of every field, with the field's JSON.
+void ListLeaves(const QString& strPath, const QJsonValue& json, QMap<QString, QJsonValue>& mapLeaves)
+{
+    if (!json.isObject())
+    {
+        mapLeaves.insert(strPath, json);
+        return;
+    }
+    const QJsonObject object = json.toObject();
+    for (auto it = object.constBegin(); it != object.constEnd(); ++it)
+    {
+        ListLeaves(strPath.isEmpty() ? it.key() : strPath + '/' + it.key(), *it, mapLeaves);
+    }
+}
+
+QJsonValue Replace(const QJsonValue& json, QStringList listPath, const QJsonValue& value)
+{
+    if (listPath.isEmpty())
+    {
+        return value;
+    }
+    QJsonObject object = json.toObject();
+    const QString strKey = listPath.takeFirst();
+    object.insert(strKey, Replace(object.value(strKey), listPath, value));
+    return object;
+}
+
+QByteArray ToBytes(const QJsonValue& json)
+{
+    return QJsonDocument(json.toObject()).toJson();
+}
+
+QJsonObject FromBytes(const QByteArray& content)
+{
+    return QJsonDocument::fromJson(content).object();
+}
+
+QByteArray ChangedDocument()
+{
+    SettingsDocument document;
+    document.SetSettings(ChangedSettings());
+    return document.Serialize();
+}
+
+} // namespace
+
+class tst_SettingsDocument : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void DefaultsRoundTrip();
+    void EveryFieldRoundTrips();
+    void EveryFieldCounts();
+    void TheSameSettingsGiveTheSameBytes();
+    void NamesOfTheDocument();
+    void AMissingKeyStandsForTheDefault();
+    void UnknownKeysSurvive();
+    void ARemovedMapEntryIsGone();
+    void BytesThatAreNoTextSurvive();
+    void ExtremeNumbers();
+    void WrongTypesAreFound_data();
+    void WrongTypesAreFound();
+    void DamagedDocumentsAreFound_data();
+    void DamagedDocumentsAreFound();
+    void AByteOrderMarkIsNoDamage();
+    void ANewerDocumentIsTold();
+    void ADamagedDocumentChangesNothing();
+};
+
+void tst_SettingsDocument::DefaultsRoundTrip()
+{
+    SettingsDocument document;
+    QCOMPARE(document.Parse(SettingsDocument().Serialize()), SettingsDocument::Good);
+    QVERIFY(document.GetSettings() == Settings());
+}
+
+void tst_SettingsDocument::EveryFieldRoundTrips()
+{
+    SettingsDocument document;
+    QCOMPARE(document.Parse(ChangedDocument()), SettingsDocument::Good);
+    const Settings settings = document.GetSettings();
+    QVERIFY(settings == ChangedSettings());
+    QCOMPARE(settings.record.recordPath, ChangedSettings().record.recordPath);
+    QCOMPARE(settings.alarm.alarmSounds.at(3).customSound, ChangedSettings().alarm.alarmSounds.at(3).customSound);
+    QCOMPARE(settings.basic.hostOwned28, ChangedSettings().basic.hostOwned28);
+}
+
+void tst_SettingsDocument::EveryFieldCounts()
+{
+    // No leaf of the changed document equals the one of the default document, so nothing was left out of the change.
+    QMap<QString, QJsonValue> mapDefault;
+    QMap<QString, QJsonValue> mapChanged;
+    ListLeaves(QString(), FromBytes(SettingsDocument().Serialize()).value("sections"), mapDefault);
+    ListLeaves(QString(), FromBytes(ChangedDocument()).value("sections"), mapChanged);
+    QVERIFY(mapDefault.size() >= 28 + 20 + 6 + 9 + 11 + 5 + 1 + 5 + 1);
+    for (auto it = mapDefault.constBegin(); it != mapDefault.constEnd(); ++it)
+    {
+        QVERIFY2(mapChanged.value(it.key(), *it) != *it, qPrintable(it.key()));
+    }
+}
+
+void tst_SettingsDocument::TheSameSettingsGiveTheSameBytes()
+{
+    SettingsDocument document;
+    document.Parse(ChangedDocument());
+    QCOMPARE(document.Serialize(), ChangedDocument());
+}
+
+void tst_SettingsDocument::NamesOfTheDocument()
+{
+    const QJsonObject root = FromBytes(SettingsDocument().Serialize());
+    QCOMPARE(root.value("version").toInt(), 1);
+    QCOMPARE(root.value("sections").toObject().keys(), (QStringList{"alarm", "basic", "playback", "record", "security",
+                                                                    "shortcutKey", "snapshot", "tvWall", "video"}));
+    const QJsonObject basic = root.value("sections").toObject().value("basic").toObject();
+    QCOMPARE(basic.size(), 28);
+    QCOMPARE(basic.value("clientSize").toInt(), 2);
+    QCOMPARE(basic.value("hostOwned2").toInt(), 1000);
+}
+
+void tst_SettingsDocument::AMissingKeyStandsForTheDefault()
+{
+    SettingsDocument document;
+    QCOMPARE(document.Parse(R"({"version": 1, "sections": {"basic": {"autoLogin": true}}})"), SettingsDocument::Good);
+    Settings expected;
+    expected.basic.autoLogin = true;
+    QVERIFY(document.GetSettings() == expected);
+}
+
+void tst_SettingsDocument::UnknownKeysSurvive()
+{
+    const QByteArray content = R"({"version": 1, "other": [1, {"a": null}], "sections": {"future": {"x": 1},
+        "basic": {"clientSize": 1, "new": "field"},
+        "alarm": {"flashCategories": {"5": true, "note": "kept"},
+                  "alarmSounds": {"7": {"alarmType": 7, "volume": 11}}}}})";
+    SettingsDocument document;
+    QCOMPARE(document.Parse(content), SettingsDocument::Good);
+    Settings settings = document.GetSettings();
+    settings.basic.clientSize = 3;
+    document.SetSettings(settings);
+    const QJsonObject root = FromBytes(document.Serialize());
+    QCOMPARE(root.value("other"), FromBytes(content).value("other"));
+    const QJsonObject sections = root.value("sections").toObject();
+    QCOMPARE(sections.value("future").toObject().value("x").toInt(), 1);
+    QCOMPARE(sections.value("basic").toObject().value("new").toString(), QString("field"));
+    QCOMPARE(sections.value("basic").toObject().value("clientSize").toInt(), 3);
+    const QJsonObject alarm = sections.value("alarm").toObject();
+    QCOMPARE(alarm.value("flashCategories").toObject().value("note").toString(), QString("kept"));
+    QCOMPARE(alarm.value("alarmSounds").toObject().value("7").toObject().value("volume").toInt(), 11);
+}
+
+void tst_SettingsDocument::ARemovedMapEntryIsGone()
+{
+    SettingsDocument document;
+    document.Parse(R"({"version": 1, "sections": {"alarm": {"flashCategories": {"5": true, "6": true}}}})");
+    Settings settings = document.GetSettings();
+    settings.alarm.flashCategories.erase(5);
+    document.SetSettings(settings);
+    SettingsDocument again;
+    QCOMPARE(again.Parse(document.Serialize()), SettingsDocument::Good);
+    QCOMPARE(again.GetSettings().alarm.flashCategories, (std::map<std::int32_t, bool>{{6, true}}));
+}
+
+void tst_SettingsDocument::BytesThatAreNoTextSurvive()
+{
+    for (const std::string& bytes :
+         {std::string("\xff\xfe\x80"), std::string("a\0b", 3), std::string("\xed\xa0\x80"), std::string("\xc0\xaf"),
+          std::string("\xef\xbb\xbf"
+                      "bom"),
+          std::string("\"\\\n")})
+    {
+        Settings settings;
+        settings.snapshot.picturePath = bytes;
+        SettingsDocument document;
+        document.SetSettings(settings);
+        SettingsDocument again;
+        QCOMPARE(again.Parse(document.Serialize()), SettingsDocument::Good);
+        QVERIFY(again.GetSettings().snapshot.picturePath == bytes);
+    }
+}
+
+void tst_SettingsDocument::ExtremeNumbers()
+{
+    Settings settings;
+    settings.basic.hostOwned1 = 4294967295u;
+    settings.basic.clientSize = std::numeric_limits<std::int32_t>::min();
+    settings.basic.hostOwned28 = std::numeric_limits<std::int32_t>::max();
+    settings.alarm.flashCategories[std::numeric_limits<std::int32_t>::min()] = true;
+    settings.alarm.alarmSounds[1].hostOwned4 = 255;
+    SettingsDocument document;
+    document.SetSettings(settings);
+    SettingsDocument again;
+    QCOMPARE(again.Parse(document.Serialize()), SettingsDocument::Good);
+    QVERIFY(again.GetSettings() == settings);
+}
+
+void tst_SettingsDocument::WrongTypesAreFound_data()
+{
+    // Each field of the document, with every value that is not of its kind.
+    QTest::addColumn<QString>("strPath");
+    QTest::addColumn<QByteArray>("content");
+    QMap<QString, QJsonValue> mapLeaves;
+    const QJsonObject root = FromBytes(ChangedDocument());
+    ListLeaves(QString(), root, mapLeaves);
+    const QMap<QString, QJsonValue> mapWrong = {{"null", QJsonValue()},
+                                                {"true", true},
+                                                {"text", "text"},
+                                                {"array", QJsonArray()},
+                                                {"object", QJsonObject()},
+                                                {"fraction", 1.5},
+                                                {"too large", 4294967296.0},
+                                                {"too small", -2147483649.0},
+                                                {"number", 3}};
+    for (auto it = mapLeaves.constBegin(); it != mapLeaves.constEnd(); ++it)
+    {
+        for (auto wrong = mapWrong.constBegin(); wrong != mapWrong.constEnd(); ++wrong)
+        {
+            const bool bNumber = it->isDouble();
+            const bool bFits = (it->isBool() && wrong.key() == "true") || (it->isString() && wrong.key() == "text") ||
+                               (bNumber && wrong.key() == "number");
+            if (!bFits)
+            {
+                QTest::addRow("%s: %s", qPrintable(it.key()), qPrintable(wrong.key()))
+                    << it.key() << ToBytes(Replace(root, it.key().split('/'), *wrong));
+            }
+        }
+    }
+    for (const char* pszPath : {"sections", "sections/basic", "sections/alarm/flashCategories",
+                                "sections/alarm/alarmSounds", "sections/alarm/alarmSounds/3"})
+    {
+        QTest::addRow("%s: array", pszPath)
+            << pszPath << ToBytes(Replace(root, QString(pszPath).split('/'), QJsonArray()));
+    }
+    QTest::newRow("base64") << "sections/record/recordPath"
+                            << ToBytes(
+                                   Replace(root, {"sections", "record", "recordPath"}, QJsonObject{{"base64", "%%%"}}));
+    QTest::newRow("negative unsigned") << "sections/basic/hostOwned1"
+                                       << ToBytes(Replace(root, {"sections", "basic", "hostOwned1"}, -1));
+    QTest::newRow("byte") << "sections/alarm/alarmSounds/3/hostOwned4"
+                          << ToBytes(Replace(root, {"sections", "alarm", "alarmSounds", "3", "hostOwned4"}, 256));
+}
+
+void tst_SettingsDocument::WrongTypesAreFound()
+{
+    QFETCH(QString, strPath);
+    QFETCH(QByteArray, content);
+    SettingsDocument document;
+    QString strError;
+    QVERIFY(document.Parse(content, &strError) != SettingsDocument::Good);
+    QVERIFY(document.GetSettings() == Settings());
+    if (strPath != "version")
+    {
+        QVERIFY2(strError.contains(strPath.section('/', -1)), qPrintable(strError));
+    }
+}
+
+void tst_SettingsDocument::DamagedDocumentsAreFound_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("blank") << QByteArray(" \n");
+    QTest::newRow("null bytes") << QByteArray(200, '\0');
+    QTest::newRow("text") << QByteArray("hello");
+    QTest::newRow("array") << QByteArray("[]");
+    QTest::newRow("null") << QByteArray("null");
+    QTest::newRow("empty object") << QByteArray("{}");
+    QTest::newRow("no version") << QByteArray(R"({"sections": {}})");
+    QTest::newRow("no sections") << QByteArray(R"({"version": 1})");
+    QTest::newRow("version 0") << QByteArray(R"({"version": 0, "sections": {}})");
+    QTest::newRow("version text") << QByteArray(R"({"version": "1", "sections": {}})");
+    QTest::newRow("version fraction") << QByteArray(R"({"version": 1.5, "sections": {}})");
+    QTest::newRow("trailing garbage") << ChangedDocument() + "x";
+    QTest::newRow("not UTF-8") << QByteArray("{\"version\": 1, \"sections\": {\"\xff\xfe\": 1}}");
+    QTest::newRow("infinity") << QByteArray(R"({"version": 1, "sections": {"basic": {"skin": 1e999}}})");
+    QTest::newRow("nested too deep") << QByteArray(5000, '[') + QByteArray(5000, ']');
+    const QByteArray good = ChangedDocument();
+    for (int nSize : {1, 2, good.size() / 3, good.size() / 2, good.size() - 3})
+    {
+        QTest::addRow("cut off at %d", nSize) << good.left(nSize);
+    }
+}
+
+void tst_SettingsDocument::DamagedDocumentsAreFound()
+{
+    QFETCH(QByteArray, content);
+    SettingsDocument document;
+    QString strError;
+    QCOMPARE(document.Parse(content, &strError), SettingsDocument::Damaged);
+    QVERIFY(!strError.isEmpty());
+    QVERIFY(!strError.contains('\n'));
+}
+
+void tst_SettingsDocument::AByteOrderMarkIsNoDamage()
+{
+    SettingsDocument document;
+    QCOMPARE(document.Parse("\xef\xbb\xbf" + ChangedDocument()), SettingsDocument::Good);
+    QVERIFY(document.GetSettings() == ChangedSettings());
+}
+
+void tst_SettingsDocument::ANewerDocumentIsTold()
+{
+    SettingsDocument document;
+    QCOMPARE(document.Parse(R"({"version": 2, "sections": []})"), SettingsDocument::Newer);
+}
+
+void tst_SettingsDocument::ADamagedDocumentChangesNothing()
+{
+    SettingsDocument document;
+    document.Parse(ChangedDocument());
+    QCOMPARE(document.Parse(R"({"version": 1, "sections": {"basic": {"skin": 2, "clientSize": "big"}}})"),
+             SettingsDocument::Damaged);
+    QVERIFY(document.GetSettings() == ChangedSettings());
+}
+
+QTEST_APPLESS_MAIN(tst_SettingsDocument)
+
+#include "tst_SettingsDocument.moc"
