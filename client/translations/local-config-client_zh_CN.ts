@@ -1,0 +1,230 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en_US">
+<context>
+    <name>Client</name>
+    <message>
+        <source>The data folder &apos;%1&apos; is no folder.</source>
+        <translation>数据文件夹“%1”不是文件夹。</translation>
+    </message>
+    <message>
+        <source>The data folder &apos;%1&apos; cannot be made.</source>
+        <translation>无法创建数据文件夹“%1”。</translation>
+    </message>
+    <message>
+        <source>The data folder &apos;%1&apos; cannot be entered.</source>
+        <translation>无法进入数据文件夹“%1”。</translation>
+    </message>
+    <message>
+        <source>Cannot read &apos;%1&apos;</source>
+        <translation>无法读取“%1”</translation>
+    </message>
+    <message>
+        <source>Cannot import &apos;%1&apos;: %2</source>
+        <translation>无法导入“%1”：%2</translation>
+    </message>
+    <message>
+        <source>Cannot import &apos;%1&apos;</source>
+        <translation>无法导入“%1”</translation>
+    </message>
+    <message>
+        <source>Cannot write &apos;%1&apos;</source>
+        <translation>无法写入“%1”</translation>
+    </message>
+    <message>
+        <source>The skin file &apos;%1&apos; cannot be read.</source>
+        <translation>无法读取皮肤文件“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Render the settings dialog to a PNG file.</source>
+        <translation>将设置对话框绘制为 PNG 文件。</translation>
+    </message>
+    <message>
+        <source>Print all settings as JSON.</source>
+        <translation>以 JSON 格式输出全部设置。</translation>
+    </message>
+    <message>
+        <source>Replace all settings by those of a file.</source>
+        <translation>用文件中的设置替换全部设置。</translation>
+    </message>
+    <message>
+        <source>Write all settings to a file.</source>
+        <translation>将全部设置写入文件。</translation>
+    </message>
+    <message>
+        <source>Show this help.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Show the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>Section of the screenshot, 0 to 8.</source>
+        <translation>截图的分类，0 到 8。</translation>
+    </message>
+    <message>
+        <source>DustyBlue or White.</source>
+        <translation>DustyBlue 或 White。</translation>
+    </message>
+    <message>
+        <source>en or zh_CN.</source>
+        <translation>en 或 zh_CN。</translation>
+    </message>
+    <message>
+        <source>Right that the user lacks; may be repeated.</source>
+        <translation>用户缺少的权限，可重复。</translation>
+    </message>
+    <message>
+        <source>Platform server whose connection is watched.</source>
+        <translation>要监视连接的平台服务器。</translation>
+    </message>
+    <message>
+        <source>Folder of the client&apos;s files.</source>
+        <translation>客户端文件所在的文件夹。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &apos;%1&apos;.</source>
+        <translation>多余的参数“%1”。</translation>
+    </message>
+    <message>
+        <source>Option --%1 is given more than once.</source>
+        <translation>选项 --%1 重复出现。</translation>
+    </message>
+    <message>
+        <source>Option --%1 needs a value.</source>
+        <translation>选项 --%1 需要一个值。</translation>
+    </message>
+    <message>
+        <source>Option --%1 takes %2, not &apos;%3&apos;.</source>
+        <translation>选项 --%1 的值应为%2，而不是“%3”。</translation>
+    </message>
+    <message>
+        <source>Options --%1 and --%2 exclude each other.</source>
+        <translation>选项 --%1 与 --%2 不能同时使用。</translation>
+    </message>
+    <message>
+        <source>a positive number</source>
+        <translation>正整数</translation>
+    </message>
+    <message>
+        <source>a number from 0 to 8</source>
+        <translation>0 到 8 的数字</translation>
+    </message>
+    <message>
+        <source>Without right 26 there is no section 6.</source>
+        <translation>没有权限 26 时不存在分类 6。</translation>
+    </message>
+    <message>
+        <source>Option --section belongs to --screenshot.</source>
+        <translation>选项 --section 只能与 --screenshot 一起使用。</translation>
+    </message>
+    <message>
+        <source>DustyBlue or White</source>
+        <translation>DustyBlue 或 White</translation>
+    </message>
+    <message>
+        <source>en or zh_CN</source>
+        <translation>en 或 zh_CN</translation>
+    </message>
+    <message>
+        <source>HOST:PORT</source>
+        <translation>主机:端口</translation>
+    </message>
+    <message>
+        <source>Surveillance workstation client. Without an action it opens its window and the settings dialog.</source>
+        <translation>监控工作站客户端。不带操作选项时打开主窗口和设置对话框。</translation>
+    </message>
+</context>
+<context>
+    <name>ConfigService</name>
+    <message>
+        <source>Another client uses this data folder; changes cannot be saved meanwhile.</source>
+        <translation>另一个客户端正在使用此数据文件夹，在此期间无法保存更改。</translation>
+    </message>
+    <message>
+        <source>The data folder cannot be written: %1. Changes cannot be saved.</source>
+        <translation>无法写入数据文件夹：%1。更改无法保存。</translation>
+    </message>
+    <message>
+        <source>The settings file is missing; the last good settings are used.</source>
+        <translation>设置文件丢失，已使用最近一次的正常设置。</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be read: %1. Changes cannot be saved.</source>
+        <translation>无法读取设置文件：%1。更改无法保存。</translation>
+    </message>
+    <message>
+        <source>The settings file is from a newer version. Changes cannot be saved.</source>
+        <translation>设置文件来自更新的版本。更改无法保存。</translation>
+    </message>
+    <message>
+        <source>The settings file is damaged (%1); the last good settings are used. %2</source>
+        <translation>设置文件已损坏（%1），已使用最近一次的正常设置。%2</translation>
+    </message>
+    <message>
+        <source>The settings file is damaged (%1); the default settings are used. %2</source>
+        <translation>设置文件已损坏（%1），已使用默认设置。%2</translation>
+    </message>
+    <message>
+        <source>It was set aside.</source>
+        <translation>该文件已另存。</translation>
+    </message>
+    <message>
+        <source>The auto-start entry could not be changed: %1.</source>
+        <translation>无法更改自动启动项：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>LocalConfigClient::MainWindow</name>
+    <message>
+        <source>Connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>已断开</translation>
+    </message>
+    <message>
+        <source>Surveillance Client</source>
+        <translation>监控客户端</translation>
+    </message>
+    <message>
+        <source>Local Config...</source>
+        <translation>本地配置...</translation>
+    </message>
+    <message>
+        <source>Settings of this workstation (Ctrl+,)</source>
+        <translation>本工作站的设置 (Ctrl+,)</translation>
+    </message>
+</context>
+<context>
+    <name>LocalConfigClient::SplitView</name>
+    <message>
+        <source>Live view</source>
+        <translation>实时预览</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsDocument</name>
+    <message>
+        <source>not a JSON document (%1)</source>
+        <translation>不是 JSON 文档（%1）</translation>
+    </message>
+    <message>
+        <source>not a settings document</source>
+        <translation>不是设置文档</translation>
+    </message>
+    <message>
+        <source>written by a newer version</source>
+        <translation>由更新的版本写入</translation>
+    </message>
+    <message>
+        <source>impossible value of %1</source>
+        <translation>%1 的值不合法</translation>
+    </message>
+</context>
+</TS>
