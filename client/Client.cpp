@@ -253,11 +253,14 @@ int Client::OpenWindow()
     window.show();
 
     ComplainAbout(service);
-    for (const QString& strProblem : service.GetProblems())
-    {
-        KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(strProblem);
-    }
     QTimer::singleShot(0, &window, &MainWindow::OpenSettings);
+    // Over the dialog, where the operator looks, and not behind it.
+    QTimer::singleShot(g_nLayoutTime, &window, [&service] {
+        for (const QString& strProblem : service.GetProblems())
+        {
+            KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(strProblem);
+        }
+    });
     return QApplication::exec();
 }
 

@@ -206,7 +206,7 @@ SettingsDocument::Result SettingsDocument::Parse(const QByteArray& content, QStr
     if (error.error != QJsonParseError::NoError)
     {
         return fail(Damaged,
-                    Tr(QT_TRANSLATE_NOOP("SettingsDocument", "not a JSON document (%1)")).arg(error.errorString()));
+                    Tr(QT_TRANSLATE_NOOP("SettingsDocument", "not a JSON document: %1")).arg(error.errorString()));
     }
     const QJsonObject root = document.object();
     const QJsonValue version = root.value(g_strVersion);

@@ -82,13 +82,13 @@ QVector<QRect> SplitView::GetPanes(int nSplit, const QRect& area)
 void SplitView::paintEvent(QPaintEvent* /*pEvent*/)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), palette().color(QPalette::Window));
+    painter.fillRect(rect(), m_gapColor);
     const QVector<QRect> listPanes = GetPanes(m_nSplit, rect());
     for (int n = 0; n < listPanes.size(); ++n)
     {
         const QRect pane = listPanes[n].adjusted(g_nGap / 2, g_nGap / 2, -g_nGap / 2, -g_nGap / 2);
-        painter.fillRect(pane, palette().color(QPalette::Base));
-        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.fillRect(pane, m_paneColor);
+        painter.setPen(m_textColor);
         painter.drawText(pane, Qt::AlignCenter, QString::number(n + 1));
     }
 }

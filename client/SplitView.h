@@ -6,10 +6,14 @@
 namespace LocalConfigClient
 {
 
-/// The live-view area: one pane for each video window of the current split.
+/// The live-view area: one pane for each video window of the current split. The colours are properties, so that style
+/// sheets can set them.
 class SplitView : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QColor gapColor MEMBER m_gapColor)
+    Q_PROPERTY(QColor paneColor MEMBER m_paneColor)
+    Q_PROPERTY(QColor textColor MEMBER m_textColor)
 
 public:
     explicit SplitView(QWidget* pParent);
@@ -26,6 +30,9 @@ protected:
 
 private:
     int m_nSplit = 4;
+    QColor m_gapColor = Qt::darkGray;
+    QColor m_paneColor = Qt::black;
+    QColor m_textColor = Qt::lightGray;
 };
 
 } // namespace LocalConfigClient

@@ -211,8 +211,8 @@
 <context>
     <name>SettingsDocument</name>
     <message>
-        <source>not a JSON document (%1)</source>
-        <translation>不是 JSON 文档（%1）</translation>
+        <source>not a JSON document: %1</source>
+        <translation>不是 JSON 文档：%1</translation>
     </message>
     <message>
         <source>not a settings document</source>

@@ -1,5 +1,7 @@
 #include "KvComboBox.h"
 
+#include <QStyledItemDelegate>
+
 namespace KVGUI
 {
 

@@ -150,20 +150,20 @@ bool KvDialog::eventFilter(QObject* pWatched, QEvent* pEvent)
     }
     else if (pWatched == m_pTitleBar)
     {
-        auto* pMouse = static_cast<QMouseEvent*>(pEvent);
+        const auto mouse = [pEvent] { return static_cast<QMouseEvent*>(pEvent); };
         switch (pEvent->type())
         {
         case QEvent::MouseButtonPress:
-            if (pMouse->button() == Qt::LeftButton && !windowHandle()->startSystemMove())
+            if (mouse()->button() == Qt::LeftButton && !windowHandle()->startSystemMove())
             {
                 m_bDragging = true;
-                m_dragOffset = pMouse->globalPos() - pos();
+                m_dragOffset = mouse()->globalPos() - pos();
             }
             return true;
         case QEvent::MouseMove:
-            if (m_bDragging && (pMouse->buttons() & Qt::LeftButton))
+            if (m_bDragging && (mouse()->buttons() & Qt::LeftButton))
             {
-                move(pMouse->globalPos() - m_dragOffset);
+                move(mouse()->globalPos() - m_dragOffset);
             }
             return true;
         case QEvent::MouseButtonRelease:
