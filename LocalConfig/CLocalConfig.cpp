@@ -21,6 +21,8 @@
 #include <QStyle>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace LocalConfig
 {
 
@@ -39,7 +41,6 @@ constexpr int g_nRightAlarm = 45;
 constexpr int g_nSaved = 1;
 constexpr int g_nKeepInput = -2;
 
-// The skins keep the pictures of one entry in two folders.
 constexpr char g_szPublic[] = "public";
 constexpr char g_szModule[] = "LocalConfig";
 
@@ -58,27 +59,29 @@ struct SSection
 
 using Form = Ui::CLocalConfig;
 
-// By navigation index.
+// By navigation index. The skins keep the pictures of one entry in two folders.
+// clang-format off
 constexpr SSection g_arrSections[SectionCount] = {
-    {&Form::m_gBBasic, &Form::horizontalLayout_2, QT_TRANSLATE_NOOP("CLocalConfig", "Basic"), "general", g_szPublic,
-     g_szPublic, g_szPublic, "m_pBasic", SectionBasic},
-    {&Form::m_gBVideo, &Form::horizontalLayout_3, QT_TRANSLATE_NOOP("CLocalConfig", "Video"), "video", g_szModule,
-     g_szModule, g_szModule, "m_pVideo", SectionVideo},
-    {&Form::m_gBPlayback, &Form::horizontalLayout_4, QT_TRANSLATE_NOOP("CLocalConfig", "Record Playback"), "playback",
-     g_szPublic, g_szPublic, g_szModule, "m_pPlayback", SectionPlayback},
-    {&Form::m_gBCapture, &Form::horizontalLayout_5, QT_TRANSLATE_NOOP("CLocalConfig", "Snapshot"), "capture",
-     g_szPublic, g_szModule, g_szModule, "m_pCapture", SectionSnapshot},
-    {&Form::m_gBRecord, &Form::horizontalLayout_6, QT_TRANSLATE_NOOP("CLocalConfig", "Recording"), "videorecord",
-     g_szPublic, g_szPublic, g_szPublic, "m_pRecord", SectionRecord},
-    {&Form::m_gBAlarm, &Form::horizontalLayout_8, QT_TRANSLATE_NOOP("CLocalConfig", "Alarm"), "alert", g_szModule,
-     g_szModule, g_szModule, "m_pAlarm", SectionAlarm},
-    {&Form::m_gBTvwall, &Form::horizontalLayout_9, QT_TRANSLATE_NOOP("CLocalConfig", "Video Wall"), "settvwall",
-     g_szModule, g_szModule, g_szModule, "m_pTvWall", SectionTvWall},
-    {&Form::m_gBSecurity, &Form::horizontalLayout_10, QT_TRANSLATE_NOOP("CLocalConfig", "Security"), "SecurityConfig",
-     g_szModule, g_szModule, g_szModule, "m_pSecurity", SectionSecurity},
-    {&Form::m_gShortcutKey, &Form::horizontalLayout_7, QT_TRANSLATE_NOOP("CLocalConfig", "Shortcut Keys"), "shortcut",
-     g_szModule, g_szModule, g_szModule, "m_pKey", SectionShortcutKey},
+    {&Form::m_gBBasic,      &Form::horizontalLayout_2,  QT_TRANSLATE_NOOP("CLocalConfig", "Basic"),
+     "general",       g_szPublic, g_szPublic, g_szPublic, "m_pBasic",   SectionBasic},
+    {&Form::m_gBVideo,      &Form::horizontalLayout_3,  QT_TRANSLATE_NOOP("CLocalConfig", "Video"),
+     "video",         g_szModule, g_szModule, g_szModule, "m_pVideo",   SectionVideo},
+    {&Form::m_gBPlayback,   &Form::horizontalLayout_4,  QT_TRANSLATE_NOOP("CLocalConfig", "Record Playback"),
+     "playback",      g_szPublic, g_szPublic, g_szModule, "m_pPlayback", SectionPlayback},
+    {&Form::m_gBCapture,    &Form::horizontalLayout_5,  QT_TRANSLATE_NOOP("CLocalConfig", "Snapshot"),
+     "capture",       g_szPublic, g_szModule, g_szModule, "m_pCapture", SectionSnapshot},
+    {&Form::m_gBRecord,     &Form::horizontalLayout_6,  QT_TRANSLATE_NOOP("CLocalConfig", "Recording"),
+     "videorecord",   g_szPublic, g_szPublic, g_szPublic, "m_pRecord",  SectionRecord},
+    {&Form::m_gBAlarm,      &Form::horizontalLayout_8,  QT_TRANSLATE_NOOP("CLocalConfig", "Alarm"),
+     "alert",         g_szModule, g_szModule, g_szModule, "m_pAlarm",   SectionAlarm},
+    {&Form::m_gBTvwall,     &Form::horizontalLayout_9,  QT_TRANSLATE_NOOP("CLocalConfig", "Video Wall"),
+     "settvwall",     g_szModule, g_szModule, g_szModule, "m_pTvWall",  SectionTvWall},
+    {&Form::m_gBSecurity,   &Form::horizontalLayout_10, QT_TRANSLATE_NOOP("CLocalConfig", "Security"),
+     "SecurityConfig", g_szModule, g_szModule, g_szModule, "m_pSecurity", SectionSecurity},
+    {&Form::m_gShortcutKey, &Form::horizontalLayout_7,  QT_TRANSLATE_NOOP("CLocalConfig", "Shortcut Keys"),
+     "shortcut",      g_szModule, g_szModule, g_szModule, "m_pKey",     SectionShortcutKey},
 };
+// clang-format on
 
 using PageOrder = std::array<int, SectionCount>;
 

@@ -66,9 +66,8 @@ void BM_BareFormsFirstShow(benchmark::State& state)
     for (auto _ : state)
     {
         state.PauseTiming();
-        auto pDialog = std::make_unique<KVGUI::KvCustomDialog>(KVGUI::KvCustomDialog::Ok | KVGUI::KvCustomDialog::Other |
-                                                                   KVGUI::KvCustomDialog::Cancel,
-                                                               nullptr, 1);
+        auto pDialog = std::make_unique<KVGUI::KvCustomDialog>(
+            KVGUI::KvCustomDialog::Ok | KVGUI::KvCustomDialog::Other | KVGUI::KvCustomDialog::Cancel, nullptr, 1);
         pDialog->setObjectName("CLocalConfig");
         pDialog->setStyleSheet(strDialogSheet);
         Ui::CLocalConfig shell;

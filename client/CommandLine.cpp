@@ -3,6 +3,8 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <limits>
+
 namespace LocalConfigClient
 {
 

@@ -1,6 +1,5 @@
 #include "LoginManager.h"
 
-#include <QMutexLocker>
 #include <QTcpSocket>
 #include <QTimer>
 
@@ -107,7 +106,7 @@ LoginManager::~LoginManager()
 void LoginManager::AddObserver(KvPluginAPI::IObserver* pObserver)
 {
     auto* pLoginObserver = static_cast<UserLogical::ILoginManagerObserver*>(pObserver);
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::recursive_mutex> locker(m_mutex);
     if (!pLoginObserver || m_listObservers.contains(pLoginObserver))
     {
         return;
@@ -124,14 +123,14 @@ void LoginManager::AddObserver(KvPluginAPI::IObserver* pObserver)
 void LoginManager::RemoveObserver(KvPluginAPI::IObserver* pObserver)
 {
     auto* pLoginObserver = static_cast<UserLogical::ILoginManagerObserver*>(pObserver);
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::recursive_mutex> locker(m_mutex);
     m_listObservers.removeAll(pLoginObserver);
     m_listNewcomers.removeAll(pLoginObserver);
 }
 
 void LoginManager::SetConnected(bool bConnected)
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::recursive_mutex> locker(m_mutex);
     if (bConnected == m_bConnected)
     {
         return;
@@ -150,7 +149,7 @@ void LoginManager::SetConnected(bool bConnected)
 
 void LoginManager::TellNewcomers()
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::recursive_mutex> locker(m_mutex);
     while (!m_listNewcomers.isEmpty())
     {
         Tell(m_listNewcomers.takeFirst(), m_bConnected);

@@ -3,10 +3,11 @@
 #include <LocalConfig/interfaces/IUserManager.h>
 
 #include <QList>
-#include <QMutex>
 #include <QObject>
 #include <QString>
 #include <QThread>
+
+#include <mutex>
 
 namespace LocalConfigClient
 {
@@ -50,7 +51,7 @@ private:
     static void Tell(UserLogical::ILoginManagerObserver* pObserver, bool bConnected);
 
     // Held while observers are told, so that none is called once RemoveObserver has returned.
-    QMutex m_mutex{QMutex::Recursive};
+    std::recursive_mutex m_mutex;
     QList<UserLogical::ILoginManagerObserver*> m_listObservers;
     QList<UserLogical::ILoginManagerObserver*> m_listNewcomers;
     bool m_bConnected = true;

@@ -1,3 +1,5 @@
+# shellcheck shell=bash disable=SC2034 # the lists are for those who source this
+
 # Sourced by ./run and ./test: installs the Debian packages that are missing, and says what it does only when it does
 # something. Usage: prepare <package>...
 
@@ -40,5 +42,5 @@ quietly() {
     return 1
 }
 
-BUILD_PACKAGES="g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5 fonts-dejavu-core"
+BUILD_PACKAGES="g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5 fonts-inter"
 TEST_PACKAGES="util-linux binutils"

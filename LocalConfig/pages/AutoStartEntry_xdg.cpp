@@ -11,7 +11,7 @@ namespace LocalConfig
 namespace
 {
 
-constexpr qint64 g_nMaxEntrySize = 64 * 1024; // bytes; a real entry has a few hundred
+constexpr qint64 g_nMaxEntrySize = 64 * Q_INT64_C(1024); // bytes; a real entry has a few hundred
 
 // Undoes the escapes that every string of a desktop entry may have.
 QString UnescapeString(const QString& strValue)

@@ -108,7 +108,6 @@ void KvToolListView::AddItem(const QIcon& icon, const QString& strText)
 {
     auto* pItem = new QStandardItem(icon, strText);
     pItem->setData(m_nNextIndex++, g_nIndexRole);
-    pItem->setToolTip(fontMetrics().horizontalAdvance(strText) > width() ? strText : QString());
     m_pModel->appendRow(pItem);
 }
 

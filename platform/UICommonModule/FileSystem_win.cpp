@@ -7,6 +7,13 @@
 namespace UICommonMdl
 {
 
+namespace
+{
+
+constexpr DWORD g_nQuotaExceeded = 1295; // ERROR_DISK_QUOTA_EXCEEDED, which some SDKs do not declare
+
+} // namespace
+
 void ClearSystemError()
 {
     ::SetLastError(ERROR_SUCCESS);
@@ -18,7 +25,7 @@ int GetSystemError()
     {
     case ERROR_DISK_FULL:
     case ERROR_HANDLE_DISK_FULL:
-    case ERROR_DISK_QUOTA_EXCEEDED:
+    case g_nQuotaExceeded:
         return CErrorCode::DiskFull;
     case ERROR_ACCESS_DENIED:
     case ERROR_WRITE_PROTECT:

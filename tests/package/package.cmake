@@ -26,3 +26,12 @@ run("${WORK_DIR}/prefix/bin/local-config-client" --data-dir "${WORK_DIR}/data" -
 if(NOT output MATCHES "\"sections\"")
     message(FATAL_ERROR "the installed client said: ${output}")
 endif()
+
+# Without a display and without a word about a missing skin.
+unset(ENV{QT_QPA_PLATFORM})
+unset(ENV{DISPLAY})
+unset(ENV{WAYLAND_DISPLAY})
+run("${WORK_DIR}/prefix/bin/local-config-client" --data-dir "${WORK_DIR}/data" --screenshot "${WORK_DIR}/dialog.png")
+if(NOT output STREQUAL "" OR NOT EXISTS "${WORK_DIR}/dialog.png")
+    message(FATAL_ERROR "the installed client said: ${output}")
+endif()
