@@ -127,8 +127,10 @@ private slots:
     void WithoutASectionLoadChangesNothing();
 
     void AutoRunStateIsToldBeforeEachLoad();
+#ifndef Q_OS_WIN // there the entry is a value of the user's own registry
     void AutoRunStateFollowsTheEntry_data();
     void AutoRunStateFollowsTheEntry();
+#endif
     void AutoRunBoxShowsTheRecord();
 
     void SaveCopiesEachClickedBox_data();
@@ -147,8 +149,14 @@ private slots:
     void UnInitForgetsTheSection();
 
 private:
-    KvCheckBox* Check(const char* pszName) const { return m_pPage->findChild<KvCheckBox*>(pszName); }
-    CCombobox* Combo(const char* pszName) const { return m_pPage->findChild<CCombobox*>(pszName); }
+    KvCheckBox* Check(const char* pszName) const
+    {
+        return m_pPage->findChild<KvCheckBox*>(pszName);
+    }
+    CCombobox* Combo(const char* pszName) const
+    {
+        return m_pPage->findChild<CCombobox*>(pszName);
+    }
     void Show()
     {
         m_parent.show();
@@ -456,6 +464,8 @@ void tst_BasicConfig::AutoRunStateIsToldBeforeEachLoad()
     QCOMPARE(m_journal.Take(), (QStringList{"SetAutoRunState false", "GetConfig"}));
 }
 
+#ifndef Q_OS_WIN
+
 void tst_BasicConfig::AutoRunStateFollowsTheEntry_data()
 {
     QTest::addColumn<QString>("strPath");
@@ -469,9 +479,6 @@ void tst_BasicConfig::AutoRunStateFollowsTheEntry_data()
 
 void tst_BasicConfig::AutoRunStateFollowsTheEntry()
 {
-#ifdef Q_OS_WIN
-    QSKIP("the registry belongs to the user");
-#else
     QFETCH(QString, strPath);
     QFETCH(bool, bMatches);
     QDir config(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
@@ -487,8 +494,9 @@ void tst_BasicConfig::AutoRunStateFollowsTheEntry()
     m_pPage->SetConfigSection(m_pSection.data());
     entry.remove();
     QCOMPARE(m_journal.Take().first(), QString(bMatches ? "SetAutoRunState true" : "SetAutoRunState false"));
-#endif
 }
+
+#endif
 
 void tst_BasicConfig::AutoRunBoxShowsTheRecord()
 {
