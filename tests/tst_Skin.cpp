@@ -213,8 +213,8 @@ void tst_Skin::NavigationPicturesStandInTheirFolders()
 void tst_Skin::NavigationStatesDiffer_data()
 {
     QTest::addColumn<QString>("strName");
-    for (const char* pszName : {"general", "video", "playback", "capture", "videorecord", "alert", "settvwall",
-                                "SecurityConfig", "shortcut"})
+    for (const char* pszName :
+         {"general", "video", "playback", "capture", "videorecord", "alert", "settvwall", "SecurityConfig", "shortcut"})
     {
         QTest::newRow(pszName) << pszName;
     }
@@ -315,8 +315,8 @@ void tst_Skin::ControlStatesDiffer_data()
     QTest::addColumn<QString>("strClass");
     for (const char* pszSkin : g_arrSkins)
     {
-        for (const char* pszClass : {"KvCheckBox", "KvRadioButton", "KvPushButton", "KvComboBox", "KvLineEdit",
-                                     "KvSpinBox", "primary button"})
+        for (const char* pszClass :
+             {"KvCheckBox", "KvRadioButton", "KvPushButton", "KvComboBox", "KvLineEdit", "KvSpinBox", "primary button"})
         {
             QTest::addRow("%s: %s", pszSkin, pszClass) << pszSkin << pszClass;
         }

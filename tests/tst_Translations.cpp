@@ -116,11 +116,14 @@ void tst_Translations::FilesNameEveryTextOfTheSources_data()
 {
     QTest::addColumn<QString>("strFolder");
     QTest::addColumn<QString>("strFile");
-    QTest::newRow("LocalConfig") << "LocalConfig" << "LocalConfig/translations/LocalConfig_zh_CN.ts";
-    QTest::newRow("KvGui") << "platform/KvGui" << "platform/KvGui/translations/KvGui_zh_CN.ts";
+    QTest::newRow("LocalConfig") << "LocalConfig"
+                                 << "LocalConfig/translations/LocalConfig_zh_CN.ts";
+    QTest::newRow("KvGui") << "platform/KvGui"
+                           << "platform/KvGui/translations/KvGui_zh_CN.ts";
     QTest::newRow("UICommonModule") << "platform/UICommonModule"
                                     << "platform/UICommonModule/translations/UICommonModule_zh_CN.ts";
-    QTest::newRow("client") << "client" << "client/translations/local-config-client_zh_CN.ts";
+    QTest::newRow("client") << "client"
+                            << "client/translations/local-config-client_zh_CN.ts";
 }
 
 void tst_Translations::FilesNameEveryTextOfTheSources()
@@ -131,9 +134,9 @@ void tst_Translations::FilesNameEveryTextOfTheSources()
     const QString strFresh = QDir::current().filePath("fresh.ts");
     QFile::remove(strFresh);
     QProcess process;
-    process.start(QStringLiteral(LUPDATE), {"-silent", "-no-obsolete", "-locations", "none", "-recursive",
-                                            QStringLiteral(SOURCE_DIR "/%1").arg(strFolder), "-target-language",
-                                            "zh_CN", "-ts", strFresh});
+    process.start(QStringLiteral(LUPDATE),
+                  {"-silent", "-no-obsolete", "-locations", "none", "-recursive",
+                   QStringLiteral(SOURCE_DIR "/%1").arg(strFolder), "-target-language", "zh_CN", "-ts", strFresh});
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitCode(), 0);
     const auto sources = [](const QString& strPath) {
