@@ -241,22 +241,22 @@ void CLocalConfig::AddSection(int nIndex)
     CGroupBox* pBox = (*m_pUi).*section.pBox;
 
     m_pUi->m_pToolListView->AddItem(SectionIcon(section), Tr(section.pszText));
-    pBox->SetIndex(nIndex);
-    m_mapGroupBox.insert(nIndex, pBox);
-
-    if (nIndex == IndexTvWall && !m_bTvWallRight)
-    {
-        // Added and taken out again, so that the entries after it keep their indices.
-        pBox->hide();
-        m_pUi->m_pToolListView->RemoveItem(nIndex);
-        return;
-    }
-    pBox->setTitle(Tr(section.pszText));
     if (nIndex == IndexBasic)
     {
         m_pUi->m_pToolListView->SetCurrentIndex(nIndex);
         pBox->SetSelect(true);
     }
+    pBox->SetIndex(nIndex);
+    if (nIndex == IndexTvWall && !m_bTvWallRight)
+    {
+        // Added and taken out again, so that the entries after it keep their indices.
+        pBox->hide();
+        m_mapGroupBox.insert(nIndex, pBox);
+        m_pUi->m_pToolListView->RemoveItem(nIndex);
+        return;
+    }
+    pBox->setTitle(Tr(section.pszText));
+    m_mapGroupBox.insert(nIndex, pBox);
 }
 
 // --- Pages
@@ -282,6 +282,7 @@ void CLocalConfig::showEvent(QShowEvent* pEvent)
     }
     CreateSrcurityConfig();
     CreateShortcurKeyConfig();
+    m_pUi->m_pToolListView->setFocus(); // which a page may have taken while it was filled
 }
 
 void CLocalConfig::CreateBasicConfig()

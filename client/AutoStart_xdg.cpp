@@ -8,6 +8,8 @@
 #include <QStandardPaths>
 #include <QStringList>
 
+#include <algorithm>
+
 using UICommonMdl::CAtomicFile;
 using UICommonMdl::CErrorCode;
 
@@ -18,6 +20,13 @@ namespace
 {
 
 const QString g_strHeader = QStringLiteral("[Desktop Entry]");
+
+QString EscapeString(QString strText)
+{
+    return strText.replace(QLatin1Char('\\'), QLatin1String("\\\\"))
+        .replace(QLatin1Char('\n'), QLatin1String("\\n"))
+        .replace(QLatin1Char('\r'), QLatin1String("\\r"));
+}
 
 /// A path as the one argument of an Exec line: quoted, then escaped as every string of a desktop entry.
 QString QuoteForExec(const QString& strPath)
@@ -35,7 +44,19 @@ QString QuoteForExec(const QString& strPath)
             strQuoted += ch;
         }
     }
-    return QStringLiteral("\"%1\"").arg(strQuoted.replace(QLatin1Char('\\'), QLatin1String("\\\\")));
+    return QStringLiteral("\"%1\"").arg(EscapeString(strQuoted));
+}
+
+QString GetKey(const QString& strLine)
+{
+    return strLine.section(QLatin1Char('='), 0, 0).trimmed();
+}
+
+/// The switches by which a desktop's settings turn an entry off.
+bool IsOffSwitch(const QString& strLine)
+{
+    const QString strKey = GetKey(strLine);
+    return strKey == QLatin1String("Hidden") || strKey == QLatin1String("X-GNOME-Autostart-enabled");
 }
 
 void SetKey(QStringList& listLines, const QString& strKey, const QString& strValue)
@@ -50,7 +71,7 @@ void SetKey(QStringList& listLines, const QString& strKey, const QString& strVal
     int nEnd = nHeader + 1;
     for (; nEnd < listLines.size() && !listLines[nEnd].startsWith(QLatin1Char('[')); ++nEnd)
     {
-        if (listLines[nEnd].section(QLatin1Char('='), 0, 0).trimmed() == strKey)
+        if (GetKey(listLines[nEnd]) == strKey)
         {
             listLines[nEnd] = strLine;
             return;
@@ -84,11 +105,11 @@ int AutoStart::Apply(bool bEnable, const QString& strApplication, const QString&
     {
         return CErrorCode::NoPermission;
     }
-    QStringList listLines = QString::fromUtf8(content).split(QLatin1Char('\n'));
+    QStringList listLines = QString::fromUtf8(content).remove(QLatin1Char('\r')).split(QLatin1Char('\n'));
     SetKey(listLines, QStringLiteral("Type"), QStringLiteral("Application"));
-    SetKey(listLines, QStringLiteral("Name"), strApplication);
+    SetKey(listLines, QStringLiteral("Name"), EscapeString(strApplication));
     SetKey(listLines, QStringLiteral("Exec"), QuoteForExec(strExecutable));
-    listLines.removeAll(QStringLiteral("Hidden=true"));
+    listLines.erase(std::remove_if(listLines.begin(), listLines.end(), &IsOffSwitch), listLines.end());
     while (!listLines.isEmpty() && listLines.last().isEmpty())
     {
         listLines.removeLast();

@@ -55,10 +55,10 @@ int Fail(const char* pszText, const QString& strWhat, int nCode)
     return g_nExitFailed;
 }
 
-void Print(const QByteArray& content)
+bool Print(const QByteArray& content)
 {
-    std::fwrite(content.constData(), 1, size_t(content.size()), stdout);
-    std::fflush(stdout);
+    const std::size_t nSize = std::size_t(content.size());
+    return std::fwrite(content.constData(), 1, nSize, stdout) == nSize && std::fflush(stdout) == 0;
 }
 
 void ComplainAbout(const ConfigService& service)
@@ -109,7 +109,8 @@ void Client::Complain(const QString& strText)
 bool Client::EnterDataFolder()
 {
     QString& strFolder = m_commandLine.strDataFolder;
-    if (strFolder.isEmpty())
+    const bool bNamed = !strFolder.isEmpty();
+    if (!bNamed)
     {
         strFolder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
     }
@@ -117,6 +118,16 @@ bool Client::EnterDataFolder()
     {
         Complain(Tr(QT_TRANSLATE_NOOP("Client", "The data folder '%1' is no folder.")).arg(strFolder));
         return false;
+    }
+    if (m_commandLine.eAction == CommandLine::Dump || m_commandLine.eAction == CommandLine::Export)
+    {
+        // Looking makes no folder. The user's own one may be missing, a folder that was named should be there.
+        if (bNamed && !QFileInfo::exists(strFolder))
+        {
+            Complain(Tr(QT_TRANSLATE_NOOP("Client", "The data folder '%1' does not exist.")).arg(strFolder));
+            return false;
+        }
+        return true;
     }
     if (!QDir().mkpath(strFolder))
     {
@@ -158,6 +169,10 @@ int Client::RunWithoutDisplay()
         }
         ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadWrite);
         const int nResult = service.Import(content, &strError);
+        if (nResult == CErrorCode::Success)
+        {
+            ComplainAbout(service);
+        }
         return nResult == CErrorCode::Success
                    ? g_nExitGood
                    : Fail(QT_TRANSLATE_NOOP("Client", "Cannot import '%1'"), m_commandLine.strFile, nResult);
@@ -165,10 +180,20 @@ int Client::RunWithoutDisplay()
 
     const ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadOnly);
     ComplainAbout(service);
+    if (!service.IsReadable())
+    {
+        return g_nExitFailed; // what stands in for the settings must not be taken for them
+    }
     if (m_commandLine.eAction == CommandLine::Dump)
     {
-        Print(service.Export());
-        return g_nExitGood;
+        return Print(service.Export()) ? g_nExitGood
+                                       : Fail(QT_TRANSLATE_NOOP("Client", "Cannot write '%1'"),
+                                              QStringLiteral("stdout"), CErrorCode::IoError);
+    }
+    if (service.IsOwnFile(m_commandLine.strFile))
+    {
+        Complain(Tr(QT_TRANSLATE_NOOP("Client", "'%1' is the client's own file.")).arg(m_commandLine.strFile));
+        return g_nExitFailed;
     }
     const int nWritten = CAtomicFile::Write(m_commandLine.strFile, service.Export());
     return nWritten == CErrorCode::Success
@@ -248,12 +273,12 @@ int Client::OpenWindow()
 {
     ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadWrite, &WriteAutoStart);
     const std::unique_ptr<LoginManager> pLoginManager = MakeLoginManager(m_commandLine);
-    UserManager userManager(m_commandLine.setMissingRights, pLoginManager.get());
+    UserManager userManager(m_commandLine.setMissingRights + service.GetMissingRights(), pLoginManager.get());
     MainWindow window(service, userManager);
     window.show();
 
     ComplainAbout(service);
-    QTimer::singleShot(0, &window, &MainWindow::OpenSettings);
+    QTimer::singleShot(0, &window, [this, &window] { window.OpenSettings(m_commandLine.nSection); });
     // Over the dialog, where the operator looks, and not behind it.
     QTimer::singleShot(g_nLayoutTime, &window, [&service] {
         for (const QString& strProblem : service.GetProblems())
@@ -269,7 +294,7 @@ int Client::TakeScreenshot()
     ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadOnly);
     ComplainAbout(service);
     const std::unique_ptr<LoginManager> pLoginManager = MakeLoginManager(m_commandLine);
-    UserManager userManager(m_commandLine.setMissingRights, pLoginManager.get());
+    UserManager userManager(m_commandLine.setMissingRights + service.GetMissingRights(), pLoginManager.get());
     if (QGuiApplication::platformName() == QLatin1String("offscreen"))
     {
         // That plug-in's screen is lower than any desktop; the dialog is to be seen as on an ordinary one.

@@ -51,7 +51,8 @@ void AddOptions(QCommandLineParser& parser)
     {
         parser.addOption(Option(action.pszName, action.pszHelp, action.bFile ? "FILE" : nullptr));
     }
-    parser.addOption(Option("section", QT_TRANSLATE_NOOP("CommandLine", "Section of the screenshot, 0 to 8."), "N"));
+    parser.addOption(
+        Option("section", QT_TRANSLATE_NOOP("CommandLine", "Section that the dialog shows at first, 0 to 8."), "N"));
     parser.addOption(Option("skin", QT_TRANSLATE_NOOP("CommandLine", "DustyBlue or White."), "SKIN"));
     parser.addOption(Option("language", QT_TRANSLATE_NOOP("CommandLine", "en or zh_CN."), "LANGUAGE"));
     parser.addOption(
@@ -164,9 +165,9 @@ bool CommandLine::Parse(const QStringList& listArguments, CommandLine& result, Q
         {
             return fail(Tr(QT_TRANSLATE_NOOP("CommandLine", "Without right 26 there is no section 6.")));
         }
-        if (result.eAction != Screenshot)
+        if (result.eAction != Screenshot && result.eAction != OpenWindow)
         {
-            return fail(Tr(QT_TRANSLATE_NOOP("CommandLine", "Option --section belongs to --screenshot.")));
+            return fail(Tr(QT_TRANSLATE_NOOP("CommandLine", "Option --section belongs to the dialog.")));
         }
     }
     result.strSkin = parser.value(QStringLiteral("skin"));

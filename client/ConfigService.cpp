@@ -39,8 +39,8 @@ ConfigService::ConfigService(const QString& strFolder, Mode eMode, AutoStartWrit
     if (m_eMode == ReadWrite)
     {
         const int nLock = TakeLock();
-        m_bLockedElsewhere = nLock == CErrorCode::Locked;
-        if (m_bLockedElsewhere)
+        m_bLoadedWithoutLock = nLock != CErrorCode::Success;
+        if (nLock == CErrorCode::Locked)
         {
             m_listProblems += Tr(QT_TRANSLATE_NOOP(
                 "ConfigService", "Another client uses this data folder; changes cannot be saved meanwhile."));
@@ -137,7 +137,28 @@ void ConfigService::Load()
         }
     }
     m_stored = m_document.GetSettings();
+    Revert();
+}
+
+void ConfigService::Revert()
+{
     m_working = m_stored;
+    m_alarm.Accept(m_stored.alarm);
+}
+
+bool ConfigService::IsOwnFile(const QString& strPath) const
+{
+    const QFileInfo file(strPath);
+    for (const char* pszName : {g_szDocument, g_szLastGood, g_szLock})
+    {
+        const QFileInfo own(GetPath(pszName));
+        const bool bSameFile = own.exists() && own.canonicalFilePath() == file.canonicalFilePath();
+        if (bSameFile || own.absoluteFilePath() == file.absoluteFilePath())
+        {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool ConfigService::LoadLastGood()
@@ -194,6 +215,12 @@ int ConfigService::TakeLock()
 
 int ConfigService::SaveAll()
 {
+    return Save(nullptr);
+}
+
+int ConfigService::Save(const SettingsDocument* pImported)
+{
+    ++m_nSaveAttempts;
     if (m_eState == Unreadable)
     {
         return CErrorCode::Unreadable;
@@ -207,7 +234,7 @@ int ConfigService::SaveAll()
     {
         return nLock;
     }
-    const int nResult = WriteGenerations();
+    const int nResult = WriteGenerations(pImported);
     if (nResult != CErrorCode::Success)
     {
         return nResult;
@@ -223,7 +250,7 @@ int ConfigService::SaveAll()
 }
 
 /// The document on disk becomes the last good generation, the working records the document.
-int ConfigService::WriteGenerations()
+int ConfigService::WriteGenerations(const SettingsDocument* pImported)
 {
     QByteArray onDisk;
     const int nRead = CAtomicFile::Read(GetPath(g_szDocument), onDisk);
@@ -232,9 +259,9 @@ int ConfigService::WriteGenerations()
         return CErrorCode::Unreadable;
     }
     const bool bChanged = onDisk != m_onDisk;
-    if (bChanged && m_bLockedElsewhere)
+    if (bChanged && m_bLoadedWithoutLock)
     {
-        return CErrorCode::ChangedElsewhere; // by the client that held the lock, whose values are not known here
+        return CErrorCode::ChangedElsewhere; // by a client whose values are not known here
     }
 
     if (nRead == CErrorCode::Success)
@@ -252,8 +279,14 @@ int ConfigService::WriteGenerations()
                 return CErrorCode::Damaged;
             }
             onDisk = m_onDisk;
+            Report(
+                Tr(QT_TRANSLATE_NOOP("ConfigService", "The settings file was damaged meanwhile and was set aside.")));
             break;
         }
+    }
+    if (pImported)
+    {
+        m_document.TakeUnknownKeys(*pImported);
     }
     m_document.SetSettings(m_working);
     const QByteArray content = m_document.Serialize();
@@ -274,7 +307,7 @@ int ConfigService::WriteGenerations()
     if (nWritten == CErrorCode::Success)
     {
         m_onDisk = content;
-        m_bLockedElsewhere = false;
+        m_bLoadedWithoutLock = false;
     }
     return nWritten;
 }
@@ -316,7 +349,7 @@ int ConfigService::Import(const QByteArray& content, QString* pError)
     }
     const Settings before = m_working;
     m_working = document.GetSettings();
-    const int nResult = SaveAll();
+    const int nResult = Save(&document);
     if (nResult != CErrorCode::Success)
     {
         m_working = before;

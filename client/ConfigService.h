@@ -40,7 +40,23 @@ public:
     ///         ChangedElsewhere; the sections keep their records in any case
     int SaveAll() override;
 
-    /// Replaces all records by those of a document and saves.
+    /// Whether the records are those of the document, and not only stand in for one that cannot be read.
+    bool IsReadable() const { return m_eState == Usable; }
+
+    /// Whether a file is one that this service keeps.
+    bool IsOwnFile(const QString& strPath) const;
+
+    /// Drops what the sections have taken but nobody has saved.
+    void Revert();
+
+    /// The rights that the document takes from the user.
+    QSet<int> GetMissingRights() const { return m_document.GetMissingRights(); }
+
+    /// How often a save was tried.
+    int GetSaveAttempts() const { return m_nSaveAttempts; }
+
+    /// Replaces all records by those of a document and saves. Keys of either document that this version does not know
+    /// survive; where both have one, the imported one counts.
     /// \return as SaveAll, or Damaged when the document cannot be understood, in which case nothing has changed
     int Import(const QByteArray& content, QString* pError);
 
@@ -68,7 +84,8 @@ private:
     bool LoadLastGood();
     bool SetAside();
     int TakeLock();
-    int WriteGenerations();
+    int WriteGenerations(const SettingsDocument* pImported);
+    int Save(const SettingsDocument* pImported);
     void ApplyAutoStart(bool bBefore);
     void Report(const QString& strProblem);
     QString GetPath(const char* pszName) const;
@@ -78,7 +95,8 @@ private:
     AutoStartWriter m_autoStartWriter;
     QLockFile m_lock;
     State m_eState = Usable;
-    bool m_bLockedElsewhere = false; // at the time of loading
+    bool m_bLoadedWithoutLock = false; // so that somebody else may have written since
+    int m_nSaveAttempts = 0;
     SettingsDocument m_document;
     QByteArray m_onDisk; // the document as it was last read or written
     Settings m_stored;
@@ -94,7 +112,7 @@ private:
     RecordSection<LocalConfigLogical::ISnapshotSection, LocalConfigLogical::SnapshotConfigInfo> m_snapshot{
         m_working.snapshot};
     RecordSection<LocalConfigLogical::IRecordSection, LocalConfigLogical::RecordConfigInfo> m_record{m_working.record};
-    AlarmSection m_alarm{m_working.alarm, m_stored.alarm};
+    AlarmSection m_alarm{m_working.alarm};
     RecordSection<LocalConfigLogical::IShortcutKeySection, LocalConfigLogical::ShortcutKeyConfigInfo> m_shortcutKey{
         m_working.shortcutKey};
     RecordSection<LocalConfigLogical::ITvWallSection, LocalConfigLogical::TvWallConfigInfo> m_tvWall{m_working.tvWall};

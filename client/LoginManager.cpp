@@ -1,5 +1,6 @@
 #include "LoginManager.h"
 
+#include <QElapsedTimer>
 #include <QTcpSocket>
 #include <QTimer>
 
@@ -57,7 +58,7 @@ private:
     {
         m_timeout.stop();
         m_socket.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
-        m_nDelay = m_backOff.nFirst;
+        m_held.start();
         m_manager.SetConnected(true);
     }
 
@@ -68,6 +69,11 @@ private:
             return; // one loss is reported by several signals
         }
         m_timeout.stop();
+        if (m_held.isValid() && m_held.elapsed() > m_backOff.nLongest)
+        {
+            m_nDelay = m_backOff.nFirst; // a server that hangs up at once is tried ever more seldom, too
+        }
+        m_held.invalidate();
         m_retry.start(m_nDelay);
         m_nDelay = qMin(2 * m_nDelay, m_backOff.nLongest);
         m_socket.abort();
@@ -79,6 +85,7 @@ private:
     quint16 m_nPort;
     LoginManager::BackOff m_backOff;
     int m_nDelay;
+    QElapsedTimer m_held; // how long the connection has lasted
     QTcpSocket m_socket;
     QTimer m_retry;
     QTimer m_timeout;

@@ -5,6 +5,7 @@
 
 #include <KvGui/KvMessageNotify.h>
 #include <KvGui/KvPushButton.h>
+#include <KvGui/KvToolListView.h>
 #include <LocalConfig/CLocalConfig.h>
 
 #include <QDateTime>
@@ -12,6 +13,7 @@
 #include <QLabel>
 #include <QScreen>
 #include <QShortcut>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace LocalConfigClient
@@ -22,6 +24,8 @@ namespace
 
 // By basic.clientSize.
 constexpr QSize g_arrClientSizes[] = {{1280, 800}, {1280, 1024}, {1440, 900}, {1680, 1050}};
+
+constexpr int g_nLayoutTime = 120; // milliseconds until the dialog has computed its final layout
 
 /// "UTC+01:00"
 QString GetTimeZoneText()
@@ -95,9 +99,9 @@ MainWindow::MainWindow(ConfigService& configService, UserLogical::IUserManager& 
     pLayout->addWidget(m_pSplitView, 1);
     setCentralWidget(pCentral);
 
-    connect(pSettings, &KVGUI::KvPushButton::clicked, this, &MainWindow::OpenSettings);
+    connect(pSettings, &KVGUI::KvPushButton::clicked, this, [this] { OpenSettings(); });
     connect(new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_Comma), this), &QShortcut::activated, this,
-            &MainWindow::OpenSettings);
+            [this] { OpenSettings(); });
 
     m_pObserver = std::make_unique<ConnectionObserver>(m_pConnection);
     if (UserLogical::ILoginManager* pLoginManager = m_userManager.GetLoginManager())
@@ -128,23 +132,35 @@ void MainWindow::ApplySettings()
 {
     const Settings& settings = m_configService.GetStored();
     const int nClientSize = settings.basic.clientSize;
-    if (nClientSize >= 0 && nClientSize < int(std::size(g_arrClientSizes)))
+    const bool bKnown = nClientSize >= 0 && nClientSize < int(std::size(g_arrClientSizes));
+    if (bKnown && nClientSize != m_nClientSize) // else the operator's own size stays
     {
+        m_nClientSize = nClientSize;
         resize(g_arrClientSizes[nClientSize].boundedTo(screen()->availableSize()));
     }
     m_pSplitView->SetSplit(settings.video.nDefaultSplit);
+    m_pSplitView->SetDisplayScale(settings.video.nDisplayScale);
 }
 
-void MainWindow::OpenSettings()
+void MainWindow::OpenSettings(int nSection)
 {
     LocalConfig::CLocalConfig dialog(this);
-    if (dialog.Init(&m_configService, &m_userManager) != 0)
-    {
-        return;
-    }
+    dialog.Init(&m_configService, &m_userManager);
     dialog.InitDialogSize();
+    if (nSection >= 0)
+    {
+        QTimer::singleShot(g_nLayoutTime, &dialog, [&dialog, nSection] {
+            dialog.findChild<KVGUI::KvToolListView*>()->SetCurrentIndex(nSection);
+        });
+    }
+    const int nSaves = m_configService.GetSaveAttempts();
     dialog.exec();
     dialog.UnInitUI();
+    if (m_configService.GetSaveAttempts() == nSaves)
+    {
+        // Cancelled: what single pages had stored before another one refused is not to come back with the next save.
+        m_configService.Revert();
+    }
 }
 
 } // namespace LocalConfigClient

@@ -25,7 +25,8 @@ public:
     ~MainWindow() override;
 
     /// Opens the settings dialog, modal, until the operator closes it.
-    void OpenSettings();
+    /// \param nSection  navigation index of the section that it shows at first; -1 for the first one
+    void OpenSettings(int nSection = -1);
 
     /// Applies what takes effect at once; the rest is applied at the next start.
     void ApplySettings();
@@ -36,6 +37,7 @@ private:
     ConfigService& m_configService;
     UserLogical::IUserManager& m_userManager;
     std::unique_ptr<ConnectionObserver> m_pObserver;
+    int m_nClientSize = -1; // the last one that was applied
     SplitView* m_pSplitView;
     QLabel* m_pConnection;
     QLabel* m_pTimeZone;

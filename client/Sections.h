@@ -59,17 +59,19 @@ private:
 class AlarmSection final : public LocalConfigLogical::IAlarmSection
 {
 public:
-    AlarmSection(LocalConfigLogical::AlarmConfigInfo& working, LocalConfigLogical::AlarmConfigInfo& stored)
+    explicit AlarmSection(LocalConfigLogical::AlarmConfigInfo& working)
         : m_working(working)
-        , m_stored(stored)
     {}
+
+    /// What ResetConfig goes back to.
+    void Accept(const LocalConfigLogical::AlarmConfigInfo& record) { m_accepted = record; }
 
     int SetConfig(const LocalConfigLogical::AlarmConfigInfo& record, bool bPersist) override
     {
         m_working = record;
         if (bPersist)
         {
-            m_stored = record;
+            Accept(record);
         }
         return 0;
     }
@@ -78,22 +80,31 @@ public:
 
     void ResetConfig(bool bUseDefaults) override
     {
-        m_working = m_stored;
-        if (bUseDefaults)
+        m_working = m_accepted;
+        if (!bUseDefaults)
         {
-            // The maps tell which categories and types there are, so their keys stay.
-            LocalConfigLogical::AlarmConfigInfo defaults;
-            defaults.flashCategories = m_stored.flashCategories;
-            defaults.alarmSounds = m_stored.alarmSounds;
-            m_working = defaults;
+            return;
         }
+        // The maps tell which categories and types there are, so their keys stay.
+        LocalConfigLogical::AlarmConfigInfo defaults;
+        defaults.flashCategories = m_accepted.flashCategories;
+        defaults.alarmSounds = m_accepted.alarmSounds;
+        for (auto& category : defaults.flashCategories)
+        {
+            category.second = true;
+        }
+        for (auto& sound : defaults.alarmSounds)
+        {
+            sound.second.customSound.clear();
+        }
+        m_working = defaults;
     }
 
     void PrepareSave() override {} // the working record is all that a save needs
 
 private:
     LocalConfigLogical::AlarmConfigInfo& m_working;
-    LocalConfigLogical::AlarmConfigInfo& m_stored;
+    LocalConfigLogical::AlarmConfigInfo m_accepted;
 };
 
 } // namespace LocalConfigClient

@@ -189,6 +189,22 @@ QJsonValue Write(const Value& value, const QJsonValue& old)
     }
 }
 
+/// Objects are united at every level; anything else of \a over takes the place of what is in \a base.
+QJsonValue Merge(const QJsonValue& base, const QJsonValue& over)
+{
+    if (!base.isObject() || !over.isObject())
+    {
+        return over;
+    }
+    QJsonObject object = base.toObject();
+    const QJsonObject other = over.toObject();
+    for (auto it = other.constBegin(); it != other.constEnd(); ++it)
+    {
+        object.insert(it.key(), object.contains(it.key()) ? Merge(object.value(it.key()), *it) : *it);
+    }
+    return object;
+}
+
 } // namespace
 
 SettingsDocument::Result SettingsDocument::Parse(const QByteArray& content, QString* pError)
@@ -232,6 +248,22 @@ SettingsDocument::Result SettingsDocument::Parse(const QByteArray& content, QStr
     m_settings = settings;
     m_root = root;
     return Good;
+}
+
+void SettingsDocument::TakeUnknownKeys(const SettingsDocument& other)
+{
+    m_root = Merge(m_root, other.m_root).toObject();
+}
+
+QSet<int> SettingsDocument::GetMissingRights() const
+{
+    QSet<int> setRights;
+    const QJsonArray arrRights = m_root.value(QLatin1String("missingRights")).toArray();
+    for (const QJsonValue& right : arrRights)
+    {
+        setRights.insert(right.toInt());
+    }
+    return setRights;
 }
 
 QByteArray SettingsDocument::Serialize() const

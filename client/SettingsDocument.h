@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QJsonObject>
+#include <QSet>
 #include <QString>
 
 namespace LocalConfigClient
@@ -30,6 +31,12 @@ public:
 
     const Settings& GetSettings() const { return m_settings; }
     void SetSettings(const Settings& settings) { m_settings = settings; }
+
+    /// Adds the keys of another document that this version does not know to those of this one.
+    void TakeUnknownKeys(const SettingsDocument& other);
+
+    /// The rights that the document takes from the user: whole numbers under the key "missingRights".
+    QSet<int> GetMissingRights() const;
 
     /// The same settings always give the same bytes.
     QByteArray Serialize() const;

@@ -9,6 +9,9 @@ namespace
 {
 
 constexpr int g_nGap = 2; // pixels between panes
+constexpr int g_nOriginalScale = 0;
+constexpr int g_nFullScreen = 1;
+constexpr QSize g_pictureSize(352, 288); // of the stand-in for a camera's picture
 
 struct SSplit
 {
@@ -41,6 +44,26 @@ void SplitView::SetSplit(int nSplit)
         m_nSplit = nSplit;
         update();
     }
+}
+
+void SplitView::SetDisplayScale(int nScale)
+{
+    if (nScale == g_nOriginalScale || nScale == g_nFullScreen)
+    {
+        m_nDisplayScale = nScale;
+        update();
+    }
+}
+
+QRect SplitView::GetPicturePlace(const QRect& pane, const QSize& picture, int nScale)
+{
+    if (nScale == g_nFullScreen)
+    {
+        return pane;
+    }
+    QRect place(QPoint(), picture);
+    place.moveCenter(pane.center());
+    return place;
 }
 
 QVector<QRect> SplitView::GetPanes(int nSplit, const QRect& area)
@@ -88,6 +111,12 @@ void SplitView::paintEvent(QPaintEvent* /*pEvent*/)
     {
         const QRect pane = listPanes[n].adjusted(g_nGap / 2, g_nGap / 2, -g_nGap / 2, -g_nGap / 2);
         painter.fillRect(pane, m_paneColor);
+        painter.setClipRect(pane);
+        QLinearGradient sky(0, 0, 0, 1);
+        sky.setCoordinateMode(QGradient::ObjectBoundingMode);
+        sky.setColorAt(0, m_paneColor.lighter(300));
+        sky.setColorAt(1, m_paneColor.lighter(150));
+        painter.fillRect(GetPicturePlace(pane, g_pictureSize, m_nDisplayScale), sky);
         painter.setPen(m_textColor);
         painter.drawText(pane, Qt::AlignCenter, QString::number(n + 1));
     }

@@ -22,6 +22,14 @@ public:
     void SetSplit(int nSplit);
     int GetSplit() const { return m_nSplit; }
 
+    /// \param nScale  0 shows pictures at their own size, 1 fills the panes; any other number changes nothing
+    void SetDisplayScale(int nScale);
+    int GetDisplayScale() const { return m_nDisplayScale; }
+
+    /// Where a picture stands in its pane: filling it, or in its middle at its own size and cut off at the pane's
+    /// edges.
+    static QRect GetPicturePlace(const QRect& pane, const QSize& picture, int nScale);
+
     /// The panes of a split within an area, in reading order of their first row; empty for an unknown split.
     static QVector<QRect> GetPanes(int nSplit, const QRect& area);
 
@@ -30,6 +38,7 @@ protected:
 
 private:
     int m_nSplit = 4;
+    int m_nDisplayScale = 1;
     QColor m_gapColor = Qt::darkGray;
     QColor m_paneColor = Qt::black;
     QColor m_textColor = Qt::lightGray;

@@ -33,3 +33,11 @@ function(localconfig_translations target stem)
     add_custom_target(${target}Translations ALL DEPENDS ${qmFiles})
     install(FILES ${qmFiles} DESTINATION "${LOCALCONFIG_RESOURCE_INSTALL_DIR}/translations")
 endfunction()
+
+# localconfig_picture(<source> <target> <color>): a picture that is drawn in currentColor, in a colour.
+function(localconfig_picture source target color)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${source}")
+    file(READ "${source}" content)
+    string(REPLACE "currentColor" "${color}" content "${content}")
+    file(CONFIGURE OUTPUT "${target}" CONTENT "${content}" @ONLY)
+endfunction()

@@ -46,6 +46,10 @@ private slots:
     void SwitchingOffTwiceIsNoError();
     void OtherKeysStay();
     void AHiddenEntryComesBack();
+    void AnEntrySwitchedOffByTheDesktopComesBack_data();
+    void AnEntrySwitchedOffByTheDesktopComesBack();
+    void AnEntryWithCarriageReturnsIsTakenOver();
+    void TheNameIsEscaped();
     void AnotherPathReplacesTheOld();
     void AReadOnlyFolderIsReported();
 };
@@ -116,6 +120,50 @@ void tst_AutoStart::AHiddenEntryComesBack()
     QCOMPARE(LocalConfig::ReadAutoStartCommand(g_strName), QString());
     QCOMPARE(AutoStart::Apply(true, g_strName, "/opt/client"), int(CErrorCode::Success));
     QCOMPARE(LocalConfig::ReadAutoStartCommand(g_strName), QString("\"/opt/client\""));
+}
+
+void tst_AutoStart::AnEntrySwitchedOffByTheDesktopComesBack_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("plain") << QByteArray("Hidden=true");
+    QTest::newRow("spaces") << QByteArray("Hidden = true");
+    QTest::newRow("GNOME") << QByteArray("X-GNOME-Autostart-enabled=false");
+}
+
+void tst_AutoStart::AnEntrySwitchedOffByTheDesktopComesBack()
+{
+    QFETCH(QByteArray, line);
+    AutoStart::Apply(true, g_strName, "/opt/client");
+    const QByteArray before = Content();
+    QFile file(EntryPath());
+    QVERIFY(file.open(QIODevice::Append));
+    file.write(line + '\n');
+    file.close();
+    QCOMPARE(AutoStart::Apply(true, g_strName, "/opt/client"), int(CErrorCode::Success));
+    QCOMPARE(Content(), before);
+}
+
+void tst_AutoStart::AnEntryWithCarriageReturnsIsTakenOver()
+{
+    AutoStart::Apply(true, g_strName, "/opt/client");
+    QFile file(EntryPath());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[Desktop Entry]\r\nIcon=camera\r\nExec=/old\r\n");
+    file.close();
+    QCOMPARE(AutoStart::Apply(true, g_strName, "/opt/client"), int(CErrorCode::Success));
+    QCOMPARE(Content(), QByteArray("[Desktop Entry]\nIcon=camera\nExec=\"/opt/client\"\nType=Application\n"
+                                   "Name=auto start test\n"));
+}
+
+void tst_AutoStart::TheNameIsEscaped()
+{
+    const QString strName = "auto\\start\nHidden=true";
+    QCOMPARE(AutoStart::Apply(true, strName, "/opt/client"), int(CErrorCode::Success));
+    QFile file(QFileInfo(EntryPath()).path() + '/' + strName + ".desktop");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains("\nName=auto\\\\start\\nHidden=true\n"));
+    QCOMPARE(AutoStart::Apply(false, strName, "/opt/client"), int(CErrorCode::Success));
+    QVERIFY(!file.exists());
 }
 
 void tst_AutoStart::AnotherPathReplacesTheOld()

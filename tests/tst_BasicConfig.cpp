@@ -28,20 +28,18 @@ struct SCheckBox
     const char* pszText;
     bool BasicConfigInfo::*pField; ///< null where the record keeps something else than a bool
     bool bDefault;
-    bool bLocks; ///< follows the connection state
 };
 
 // Top to bottom.
 const SCheckBox g_arrCheckBoxes[] = {
-    {"ShowZoneInfoChkBox", "Show time zone(Takes effect after restart)", &BasicConfigInfo::showTimeZone, false, true},
-    {"timeChkBox", "Enable time sync with platform server", &BasicConfigInfo::timeSync, false, true},
-    {"autologinChkBox", "Auto Login", &BasicConfigInfo::autoLogin, false, true},
-    {"autoRunChkBox", "Auto restart after reboot", &BasicConfigInfo::autoRun, false, true},
-    {"liveStartAtBeginChkBox", "Display previous live view after restart", &BasicConfigInfo::restoreLiveView, false,
-     true},
-    {"adjustTalkChkBox", "Self-adaptive audio talk parameter", &BasicConfigInfo::adaptiveTalk, true, true},
-    {"ShowDevChkBox", "Show device node", nullptr, true, true},
-    {"previewSnapshotChkBox", "Display live view thumbnail", &BasicConfigInfo::liveThumbnail, true, true},
+    {"ShowZoneInfoChkBox", "Show time zone(Takes effect after restart)", &BasicConfigInfo::showTimeZone, false},
+    {"timeChkBox", "Enable time sync with platform server", &BasicConfigInfo::timeSync, false},
+    {"autologinChkBox", "Auto Login", &BasicConfigInfo::autoLogin, false},
+    {"autoRunChkBox", "Auto restart after reboot", &BasicConfigInfo::autoRun, false},
+    {"liveStartAtBeginChkBox", "Display previous live view after restart", &BasicConfigInfo::restoreLiveView, false},
+    {"adjustTalkChkBox", "Self-adaptive audio talk parameter", &BasicConfigInfo::adaptiveTalk, true},
+    {"ShowDevChkBox", "Show device node", nullptr, true},
+    {"previewSnapshotChkBox", "Display live view thumbnail", &BasicConfigInfo::liveThumbnail, true},
 };
 
 /// A record in which no field has its default value.
@@ -109,6 +107,7 @@ private slots:
     void ThemeItems();
     void ClientSizeItems();
     void TextsAreTranslated();
+    void IsAToolWindowOnlyWhileItIsBuilt();
     void IsAPlainChildAfterConstruction();
     void TabOrderFollowsTheForm();
     void TimeSyncToolTipShowsTheWholeText();
@@ -204,6 +203,7 @@ void tst_BasicConfig::FormLayout()
 
     Show();
     auto* pLabel = m_pPage->findChild<QLabel*>("label");
+    QCOMPARE(pLabel->geometry().top(), 32); // nothing is left of the hidden row above
     QVERIFY(pLabel->geometry().bottom() < Combo("screenRatioCmbBox")->geometry().top());
     int nTop = Combo("screenRatioCmbBox")->geometry().bottom();
     for (const SCheckBox& expected : g_arrCheckBoxes)
@@ -288,6 +288,30 @@ void tst_BasicConfig::TextsAreTranslated()
     QCOMPARE(page.findChild<CCombobox*>("cmbSkinSet")->itemText(0), QString("<Dark>"));
     QCOMPARE(page.findChild<CCombobox*>("screenRatioCmbBox")->itemText(0), QString("1280*800"));
     QCOMPARE(page.windowTitle(), QString("<Basic Config>"));
+}
+
+void tst_BasicConfig::IsAToolWindowOnlyWhileItIsBuilt()
+{
+    // Each change of the flags gives the page its parent anew.
+    class CWatcher : public QObject
+    {
+    public:
+        bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+        {
+            if (pEvent->type() == QEvent::ParentChange && pWatched->inherits("LocalConfig::CBasicConfig"))
+            {
+                m_listTypes += static_cast<QWidget*>(pWatched)->windowType();
+            }
+            return false;
+        }
+        QList<Qt::WindowType> m_listTypes;
+    } watcher;
+    qApp->installEventFilter(&watcher);
+    const CBasicConfig page(&m_parent);
+    qApp->removeEventFilter(&watcher);
+    QCOMPARE(watcher.m_listTypes.first(), Qt::Tool);
+    QCOMPARE(watcher.m_listTypes.last(), Qt::Widget);
+    QCOMPARE(watcher.m_listTypes.count(Qt::Tool), 1);
 }
 
 void tst_BasicConfig::IsAPlainChildAfterConstruction()
@@ -615,8 +639,11 @@ void tst_BasicConfig::TheSkinNameIsWrittenWhateverTheResult()
 {
     m_pPage->SetConfigSection(m_pSection.data());
     m_pSection->m_nResult = -1;
+    QString strBefore;
+    m_pSection->m_onSetConfig = [&strBefore] { strBefore = Ini("Skin/version").toString(); };
     QCOMPARE(m_pPage->SaveConfig(), -1);
     QCOMPARE(Ini("Skin/version").toString(), QString("DustyBlue"));
+    QVERIFY2(strBefore == "DustyBlue", "written before the section is asked");
 }
 
 void tst_BasicConfig::SkinAndLanguageKeys()
@@ -637,10 +664,11 @@ void tst_BasicConfig::ConnectionState()
         m_pPage->SetControlsEnabled(bEnable);
         for (const SCheckBox& expected : g_arrCheckBoxes)
         {
-            QCOMPARE(Check(expected.pszName)->isEnabled(), bEnable || !expected.bLocks);
+            QCOMPARE(Check(expected.pszName)->isEnabled(), bEnable);
         }
         QCOMPARE(Combo("cmbSkinSet")->isEnabled(), bEnable);
         QVERIFY(Combo("screenRatioCmbBox")->isEnabled());
+        QVERIFY(Check("AutohidetaskbarChkBox")->isEnabled());
     }
 }
 

@@ -222,6 +222,22 @@ void tst_Boundary::ReservedSlotsAreHarmless()
     }
     QVERIFY(!users.m_pReleased);
 
+    CHostRight right;
+    CHostBasic basic;
+    CHostAlarm alarm;
+    CHostSection<IVideoSection, VideoConfigInfo> video;
+    for (int nSlot : {0, 1})
+    {
+        CallSlot<void>(&right, nSlot);
+    }
+    for (int nSlot : {0, 1, 2})
+    {
+        CallSlot<void>(&basic, nSlot);
+        CallSlot<void>(&alarm, nSlot);
+        CallSlot<void>(&video, nSlot);
+    }
+    QVERIFY(!basic.m_bAutoRun && !basic.m_pSet && !alarm.m_pSet && !video.m_pSet);
+
     CHostConfig config;
     for (int nSlot : {0, 1, 3, 4})
     {
@@ -304,7 +320,8 @@ void tst_Boundary::LoginParamStartsWithTwoInts()
     using Param = ILoginManagerObserver::Param;
     QCOMPARE(offsetof(Param, nState), std::size_t(0));
     QCOMPARE(offsetof(Param, nSubState), std::size_t(4));
-    QCOMPARE(sizeof(Param::nState), std::size_t(4));
+    QVERIFY((std::is_same<decltype(Param::nState), std::int32_t>::value));
+    QVERIFY((std::is_same<decltype(Param::nSubState), std::int32_t>::value));
 }
 
 void tst_Boundary::FieldsStandInTheirOrder()

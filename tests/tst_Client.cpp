@@ -30,7 +30,7 @@ SRun Run(const QStringList& listArguments, const QProcessEnvironment& environmen
     process.setWorkingDirectory(strFolder.isEmpty() ? QDir::currentPath() : strFolder);
     process.start(QString::fromLocal8Bit(qgetenv("KV_CLIENT")), listArguments);
     SRun run;
-    if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit)
+    if (process.waitForFinished(100000) && process.exitStatus() == QProcess::NormalExit)
     {
         run.nExitCode = process.exitCode();
     }
@@ -97,6 +97,11 @@ private slots:
     void BadInput();
     void ADamagedDocumentIsReportedAndLeftAlone();
     void ImportOfADamagedDocumentLosesNothing();
+    void ADocumentThatCannotBeReadIsNotExported_data();
+    void ADocumentThatCannotBeReadIsNotExported();
+    void AMissingFolderIsNotMade();
+    void ADumpThatCannotBePrintedFails();
+    void RightsOfTheDocument();
     void AReadOnlyFolderLosesNothing();
     void AFullDiskLosesNothing();
     void ASecondClientLosesNothing();
@@ -160,10 +165,11 @@ void tst_Client::ImportKeepsTheLastGeneration()
 
 void tst_Client::PathsAreThoseOfTheCaller()
 {
+    QVERIFY(QDir(m_pOther->path()).mkdir("data"));
+    Put(m_pOther->filePath("data/settings.json"), Document(ChangedSettings()));
     const SRun run = Run({"--export", "out.json", "--data-dir", "data"}, m_environment, m_pOther->path());
     QCOMPARE(run.listErrors, QStringList());
-    QVERIFY(QFile::exists(m_pOther->filePath("out.json")));
-    QVERIFY(QDir(m_pOther->filePath("data")).exists());
+    QCOMPARE(Snapshot(m_pOther->path()).value("out.json"), Document(ChangedSettings()));
 }
 
 void tst_Client::ScreenshotShowsTheDialog_data()
@@ -230,9 +236,17 @@ void tst_Client::TheSkinOfTheIniFileIsUsed()
 
 void tst_Client::TheLanguageIsUsed()
 {
-    Client({"--screenshot", m_pOther->filePath("en.png")});
-    Client({"--screenshot", m_pOther->filePath("zh.png"), "--language", "zh_CN"});
-    QVERIFY(QImage(m_pOther->filePath("en.png")) != QImage(m_pOther->filePath("zh.png")));
+    for (const char* pszLanguage : {"en", "zh_CN"})
+    {
+        QCOMPARE(Client({"--screenshot", m_pOther->filePath(QString(pszLanguage) + ".png"), "--language", pszLanguage})
+                     .nExitCode,
+                 0);
+    }
+    const QImage english(m_pOther->filePath("en.png"));
+    const QImage chinese(m_pOther->filePath("zh_CN.png"));
+    QVERIFY(!english.isNull());
+    QCOMPARE(chinese.size(), english.size());
+    QVERIFY(chinese != english);
 }
 
 void tst_Client::HelpAndVersion()
@@ -251,6 +265,7 @@ void tst_Client::BadInput_data()
     QTest::newRow("import of nothing") << QStringList{"--import", "/no/such/file"} << 1;
     QTest::newRow("import of a folder") << QStringList{"--import", "/tmp"} << 1;
     QTest::newRow("import of a device") << QStringList{"--import", "/dev/zero"} << 1;
+    QTest::newRow("export over its own document") << QStringList{"--export", "settings.json"} << 1;
     QTest::newRow("export to nowhere") << QStringList{"--export", "/no/such/folder/file"} << 1;
     QTest::newRow("screenshot to nowhere") << QStringList{"--screenshot", "/no/such/folder/file.png"} << 1;
 }
@@ -261,7 +276,7 @@ void tst_Client::BadInput()
     QFETCH(int, nExitCode);
     Put(Path("settings.json"), Document(ChangedSettings()));
     const QMap<QString, QByteArray> mapBefore = Snapshot(m_pFolder->path());
-    const SRun run = Client(listArguments);
+    const SRun run = Run(listArguments << "--data-dir" << m_pFolder->path(), m_environment, m_pFolder->path());
     QCOMPARE(run.nExitCode, nExitCode);
     QCOMPARE(run.listErrors.size(), 1);
     QVERIFY2(run.listErrors.first().startsWith("local-config-client: "), qPrintable(run.listErrors.first()));
@@ -291,6 +306,67 @@ void tst_Client::ImportOfADamagedDocumentLosesNothing()
     QCOMPARE(run.listErrors.size(), 1);
     QVERIFY(run.listErrors.first().contains("sections.basic.skin"));
     QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
+}
+
+void tst_Client::ADocumentThatCannotBeReadIsNotExported_data()
+{
+    QTest::addColumn<bool>("bNewer");
+    QTest::newRow("newer") << true;
+    QTest::newRow("a folder in its place") << false;
+}
+
+void tst_Client::ADocumentThatCannotBeReadIsNotExported()
+{
+    QFETCH(bool, bNewer);
+    if (bNewer)
+    {
+        Put(Path("settings.json"), R"({"version": 2, "sections": {}})");
+    }
+    else
+    {
+        QVERIFY(QDir(m_pFolder->path()).mkdir("settings.json"));
+    }
+    Put(m_pOther->filePath("out.json"), "an older export");
+    for (const QStringList& listAction :
+         {QStringList{"--dump"}, QStringList{"--export", m_pOther->filePath("out.json")}})
+    {
+        const SRun run = Client(listAction);
+        QCOMPARE(run.nExitCode, 1);
+        QCOMPARE(run.listErrors.size(), 1);
+        QVERIFY(run.output.isEmpty());
+    }
+    QCOMPARE(Snapshot(m_pOther->path()).value("out.json"), QByteArray("an older export"));
+}
+
+void tst_Client::AMissingFolderIsNotMade()
+{
+    const SRun run = Run({"--dump", "--data-dir", Path("mistyped")}, m_environment);
+    QCOMPARE(run.nExitCode, 1);
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY(!QFile::exists(Path("mistyped")));
+}
+
+void tst_Client::ADumpThatCannotBePrintedFails()
+{
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.setStandardOutputFile("/dev/full");
+    process.start(QString::fromLocal8Bit(qgetenv("KV_CLIENT")), {"--dump", "--data-dir", m_pFolder->path()});
+    QVERIFY(process.waitForFinished(100000));
+    QCOMPARE(process.exitCode(), 1);
+}
+
+void tst_Client::RightsOfTheDocument()
+{
+    Put(Path("settings.json"), R"({"version": 1, "missingRights": [26], "sections": {}})");
+    Client({"--screenshot", m_pOther->filePath("without.png")});
+    Put(Path("settings.json"), R"({"version": 1, "sections": {}})");
+    Client({"--screenshot", m_pOther->filePath("with.png")});
+    const QImage with(m_pOther->filePath("with.png"));
+    const QImage without(m_pOther->filePath("without.png"));
+    QVERIFY(!with.isNull());
+    QCOMPARE(without.size(), with.size());
+    QVERIFY(without != with);
 }
 
 void tst_Client::AReadOnlyFolderLosesNothing()

@@ -40,6 +40,7 @@ private slots:
     void TheWheelWithoutAScrollAreaChangesNothing();
     void ArrowKeysSelect();
     void ThePopupSelectsByMouse();
+    void TheOpenPopupScrolls();
 };
 
 void tst_Combobox::IsTheClientsComboBox()
@@ -112,6 +113,23 @@ void tst_Combobox::ThePopupSelectsByMouse()
     QApplication::sendEvent(pView->viewport(), &move);
     QTest::mouseClick(pView->viewport(), Qt::LeftButton, {}, item);
     QTRY_COMPARE(combo.currentIndex(), 2);
+}
+
+void tst_Combobox::TheOpenPopupScrolls()
+{
+    CCombobox combo(nullptr);
+    for (int n = 0; n < 200; ++n)
+    {
+        combo.addItem(QString::number(n));
+    }
+    combo.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&combo));
+    combo.showPopup();
+    QTRY_VERIFY(combo.view()->isVisible());
+    QVERIFY(combo.view()->verticalScrollBar()->maximum() > 0);
+    TurnWheel(combo.view()->viewport());
+    QVERIFY(combo.view()->verticalScrollBar()->value() > 0);
+    QCOMPARE(combo.currentIndex(), 0);
 }
 
 QTEST_MAIN(tst_Combobox)

@@ -122,7 +122,7 @@ void tst_CommandLine::BadInputGetsOneLine_data()
     QTest::newRow("section text") << QStringList{"--screenshot", "x", "--section", "one"} << "one";
     QTest::newRow("section -1") << QStringList{"--screenshot", "x", "--section", "-1"} << "-1";
     QTest::newRow("section 9") << QStringList{"--screenshot", "x", "--section", "9"} << "9";
-    QTest::newRow("section without screenshot") << QStringList{"--section", "1"} << "screenshot";
+    QTest::newRow("section without a dialog") << QStringList{"--dump", "--section", "1"} << "section";
     QTest::newRow("no wall") << QStringList{"--screenshot", "x", "--section", "6", "--without-right", "26"} << "26";
     QTest::newRow("skin") << QStringList{"--skin", "white"} << "white";
     QTest::newRow("language") << QStringList{"--language", "de"} << "de";

@@ -121,7 +121,11 @@ private slots:
     void AutoStartFailureIsTold();
     void SavedHandlerHearsOnlySuccess();
 
+    void RevertDropsWhatNobodySaved();
+    void ALockThatCameLateDoesNotOverwrite();
+
     void ImportReplacesEverything();
+    void ImportKeepsUnknownKeys();
     void ImportOfADamagedDocumentChangesNothing();
     void AFailedImportChangesNothing();
 
@@ -353,6 +357,7 @@ void tst_ConfigService::DamageWhileRunningIsSetAside()
     QCOMPARE(SavedClientSize(), 3);
     QCOMPARE(SetAside().size(), 1);
     QCOMPARE(GetFile("settings.json.bak"), Document(1));
+    QCOMPARE(service.GetProblems().size(), 1);
 }
 
 void tst_ConfigService::ADamagedLastGenerationIsNotUsed()
@@ -581,7 +586,16 @@ void tst_ConfigService::AlarmDefaultsKeepTheKeys()
     QCOMPARE(record.alarmSound, true);
     QCOMPARE(record.openVideoType, 0);
     QCOMPARE(record.flashCategories.size(), changed.flashCategories.size());
+    for (const auto& [nId, bFlash] : record.flashCategories)
+    {
+        QVERIFY(bFlash && changed.flashCategories.count(nId));
+    }
     QCOMPARE(record.alarmSounds.size(), changed.alarmSounds.size());
+    for (const auto& [nType, sound] : record.alarmSounds)
+    {
+        QVERIFY(sound.customSound.empty());
+        QCOMPARE(sound.defaultSound, changed.alarmSounds.at(nType).defaultSound);
+    }
 }
 
 void tst_ConfigService::AutoStartFollowsASave_data()
@@ -658,6 +672,52 @@ void tst_ConfigService::SavedHandlerHearsOnlySuccess()
     QCOMPARE(nSaved, 0);
     service.SaveAll();
     QCOMPARE(nSaved, 1);
+}
+
+void tst_ConfigService::RevertDropsWhatNobodySaved()
+{
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    auto* pAlarm = static_cast<IAlarmSection*>(service.GetSection(SectionAlarm));
+    AlarmConfigInfo record;
+    record.loopSound = true;
+    pAlarm->SetConfig(record, true);
+    SetClientSize(service, 0);
+    QVERIFY2(!service.GetStored().alarm.loopSound, "nothing is stored before a save");
+    service.Revert();
+    QCOMPARE(GetBasic(service).clientSize, 2);
+    pAlarm->ResetConfig(false);
+    pAlarm->GetConfig(record);
+    QVERIFY(!record.loopSound);
+}
+
+void tst_ConfigService::ALockThatCameLateDoesNotOverwrite()
+{
+    // The first attempt at the lock fails for another reason than a second client; meanwhile one comes and saves.
+    qputenv("KV_FAULT", "write:ENOSPC:" + m_pFolder->path().toLocal8Bit());
+    ConfigService late(m_pFolder->path(), ConfigService::ReadWrite);
+    qunsetenv("KV_FAULT");
+    {
+        ConfigService other(m_pFolder->path(), ConfigService::ReadWrite);
+        SetClientSize(other, 1);
+        QCOMPARE(other.SaveAll(), 1);
+    }
+    SetClientSize(late, 0);
+    QCOMPARE(late.SaveAll(), int(CErrorCode::ChangedElsewhere));
+    QCOMPARE(SavedClientSize(), 1);
+}
+
+void tst_ConfigService::ImportKeepsUnknownKeys()
+{
+    Put(R"({"version": 1, "mine": 42, "sections": {"basic": {"later": true}}})");
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    QCOMPARE(
+        service.Import(R"({"version": 1, "theirs": 7, "sections": {"basic": {"newer": 1, "clientSize": 3}}})", nullptr),
+        1);
+    for (const char* pszKey : {"mine", "later", "theirs", "newer"})
+    {
+        QVERIFY2(GetFile().contains(pszKey), pszKey);
+    }
+    QCOMPARE(SavedClientSize(), 3);
 }
 
 void tst_ConfigService::ImportReplacesEverything()

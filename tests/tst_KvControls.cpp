@@ -118,6 +118,9 @@ void tst_KvControls::TablesFollowLaterWidths()
     view.setModel(&model);
     model.setHeaderData(0, Qt::Horizontal, 222, 366);
     QCOMPARE(view.columnWidth(0), 222);
+    view.setModel(&model); // the same again changes nothing
+    model.setHeaderData(0, Qt::Horizontal, 180, 366);
+    QCOMPARE(view.columnWidth(0), 180);
     view.setModel(nullptr);
     model.setHeaderData(0, Qt::Horizontal, 111, 366);
     QVERIFY(!view.model());

@@ -4,6 +4,7 @@
 #include <KvGui/KvVerScrollBar.h>
 #include <UICommonModule/Pxa.h>
 
+#include <QAbstractItemView>
 #include <QLayout>
 #include <QMetaMethod>
 #include <QTemporaryDir>
@@ -46,7 +47,11 @@ private slots:
     void ShowingAgainCreatesNothing();
     void PagesStandInTheirBoxes_data();
     void PagesStandInTheirBoxes();
+    void EachPageGetsItsSection();
     void ANullSectionIsHandedOver();
+    void ContentHeightIsComputedInInit();
+    void ContentHeightIsComputedAfterTheFirstShow();
+    void ContentHeightIsComputedOnResize();
     void AbsentPagesAreSkipped();
     void AlarmRight45_data();
     void AlarmRight45();
@@ -185,6 +190,18 @@ void tst_LocalConfig::TranslationContext()
     d.Init();
     QCOMPARE(d.dialog.windowTitle(), QString("<Local Config>"));
     QCOMPARE(d.Button("btnOk")->text(), QString("<Save>"));
+    QCOMPARE(d.Button("btnOther")->text(), QString("<Default>"));
+    QCOMPARE(d.Button("btnCancel")->text(), QString("<Cancel>"));
+    NOTIFICATIONS;
+    SFakePages::Instance().mapSaveResults[0] = -1;
+    d.dialog.show();
+    d.Click("btnOk");
+    QCOMPARE(notifications.takeFirst().first().toString(),
+             QString("<Failed to save configuration, some values are illegal.>"));
+    SFakePages::Instance().mapSaveResults.clear();
+    host.localConfig.m_nSaveResult = 0;
+    d.Click("btnOk");
+    QVERIFY(notifications.takeFirst().first().toString().startsWith("<Failed to save config>"));
     for (const SBox& box : g_arrBoxes)
     {
         QCOMPARE(d.Box(box.nIndex)->title(), QStringLiteral("<%1>").arg(box.pszText));
@@ -220,6 +237,8 @@ void tst_LocalConfig::FormTree()
     QCOMPARE(pCenter->parentWidget(), pCentral);
     QCOMPARE(pCenter->layout(), layout("horizontalLayout"));
     auto* pPane = d.dialog.findChild<QWidget*>("widget");
+    QCOMPARE(layout("horizontalLayout")->indexOf(pPane), 0);
+    QCOMPARE(layout("horizontalLayout")->indexOf(d.ScrollArea()), 1);
     QCOMPARE(pPane->parentWidget(), pCenter);
     QCOMPARE(pPane->minimumSize(), QSize(254, 0));
     QCOMPARE(pPane->maximumSize(), QSize(254, QWIDGETSIZE_MAX));
@@ -280,7 +299,12 @@ void tst_LocalConfig::NavigationEntries()
 {
     DIALOG;
     d.InitAndShow();
-    QSignalSpy spy(d.List(), &KvToolListView::SignalCurrentIndexChanged);
+    const auto* pView = qobject_cast<QAbstractItemView*>(d.List());
+    QCOMPARE(pView->model()->rowCount(), 9);
+    for (const SBox& box : g_arrBoxes)
+    {
+        QCOMPARE(pView->model()->index(box.nIndex, 0).data().toString(), QString(box.pszText));
+    }
     d.List()->setFocus();
     QTest::keyClick(d.List(), Qt::Key_Home);
     for (int n = 1; n < 9; ++n)
@@ -391,6 +415,7 @@ void tst_LocalConfig::WithoutTheWallRight()
     QCOMPARE(d.Box(6)->GetIndex(), 6);
     QVERIFY(!SFakePages::Instance().mapPages.contains(6));
     QCOMPARE(SFakePages::Instance().mapPages.size(), 8);
+    QCOMPARE(qobject_cast<QAbstractItemView*>(d.List())->model()->rowCount(), 8);
 
     d.List()->setFocus();
     QTest::keyClick(d.List(), Qt::Key_Home);
@@ -452,13 +477,63 @@ void tst_LocalConfig::PagesStandInTheirBoxes()
     QCOMPARE(policy.verticalPolicy(), QSizePolicy::Preferred);
     QCOMPARE(policy.horizontalStretch(), 0);
     QCOMPARE(policy.verticalStretch(), 0);
+    QCOMPARE(policy.hasHeightForWidth(), nIndex == 1); // as the page itself had it
     QVERIFY(pPage->isVisible());
+}
+
+void tst_LocalConfig::EachPageGetsItsSection()
+{
+    class CSection : public LocalConfigLogical::IConfigSection
+    {};
+    CSection arrSections[9];
+    DIALOG;
+    for (const SBox& box : g_arrBoxes)
+    {
+        host.localConfig.m_mapSections.insert(box.nSectionType, &arrSections[box.nIndex]);
+    }
+    d.InitAndShow();
+    for (const SBox& box : g_arrBoxes)
+    {
+        QCOMPARE(SFakePages::Instance().mapPages.value(box.nIndex)->m_pSection, &arrSections[box.nIndex]);
+    }
+}
+
+void tst_LocalConfig::ContentHeightIsComputedInInit()
+{
+    DIALOG;
+    d.Init();
+    QCOMPARE(d.Contents()->minimumHeight(), 4165);
+    QCOMPARE(d.Contents()->maximumHeight(), 4165);
+}
+
+void tst_LocalConfig::ContentHeightIsComputedAfterTheFirstShow()
+{
+    DIALOG;
+    d.Init();
+    d.dialog.show();
+    d.Contents()->setFixedHeight(1000);
+    SDialog::WaitForLayout();
+    QCOMPARE(d.Contents()->minimumHeight(), 4165);
+}
+
+void tst_LocalConfig::ContentHeightIsComputedOnResize()
+{
+    DIALOG;
+    d.InitAndShow();
+    d.Contents()->setFixedHeight(1000);
+    QResizeEvent event(d.dialog.size(), d.dialog.size());
+    QApplication::sendEvent(&d.dialog, &event);
+    QCOMPARE(d.Contents()->minimumHeight(), 4165);
+    QCOMPARE(d.Contents()->maximumHeight(), 4165);
 }
 
 void tst_LocalConfig::ANullSectionIsHandedOver()
 {
     DIALOG;
-    d.InitAndShow();
+    d.Init();
+    host.journal.Take();
+    d.dialog.show();
+    QVERIFY(host.journal.Take().contains("Basic SetSection"));
     for (CFakePage* pPage : qAsConst(SFakePages::Instance().mapPages))
     {
         QVERIFY(!pPage->m_pSection);
@@ -512,7 +587,8 @@ void tst_LocalConfig::AlarmRight45()
     host.journal.Take();
     d.dialog.show();
     QCOMPARE(host.journal.Take(), listCalls);
-    QCOMPARE(host.userManager.m_listReleased.size(), bRightsObject ? 1 : 0);
+    const QList<UserLogical::IUserRight*> listHandedBack = {&host.userRight};
+    QCOMPARE(host.userManager.m_listReleased, bRightsObject ? listHandedBack : QList<UserLogical::IUserRight*>());
 }
 
 void tst_LocalConfig::NoServiceNoPages()
@@ -576,6 +652,11 @@ void tst_LocalConfig::VideoPageGrows()
     QVERIFY(d.Box(1)->height() >= 1000);
     QCOMPARE(d.Contents()->height(), nHeight + d.Box(1)->height() - 841);
     QCOMPARE(d.Contents()->minimumHeight(), d.Contents()->maximumHeight());
+    QCOMPARE(d.ScrollBar()->maximum(), d.Contents()->height() - d.ScrollArea()->viewport()->height());
+    const int nGrown = d.Contents()->height();
+    SDialog::WaitForLayout();
+    QCOMPARE(d.Contents()->height(), nGrown);
+    QVERIFY(d.Box(1)->height() >= 1000);
 }
 
 void tst_LocalConfig::DesktopHeightRule_data()

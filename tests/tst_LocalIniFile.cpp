@@ -22,6 +22,11 @@ private slots:
     void ValuesComeBackThroughQSettings_data();
     void ValuesComeBackThroughQSettings();
     void BoolsAndNumbers();
+    void AByteOrderMarkStaysInFront();
+    void NamesThatAreNoneAreRefused_data();
+    void NamesThatAreNoneAreRefused();
+    void ValuesThatAreNoTextAreRefused_data();
+    void ValuesThatAreNoTextAreRefused();
     void NothingIsWrittenWhenNothingChanges();
     void AnUnreadableFileIsNotOverwritten();
     void AReadOnlyFolderIsRefused();
@@ -143,6 +148,60 @@ void tst_LocalIniFile::BoolsAndNumbers()
     QCOMPARE(Get(), QByteArray("[ProcessDecode]\nenable=true\n\n[Language]\ntype=-7\n"));
     QVERIFY(CLocalIniFile::WriteValue("ProcessDecode", "enable", false, "test.ini"));
     QVERIFY(Get().contains("enable=false"));
+}
+
+void tst_LocalIniFile::AByteOrderMarkStaysInFront()
+{
+    Put("\xef\xbb\xbf[G]\r\nk=old\r\n");
+    QVERIFY(CLocalIniFile::WriteValue("G", "k", "v", "test.ini"));
+    QCOMPARE(Get(), QByteArray("\xef\xbb\xbf[G]\r\nk=v\r\n"));
+}
+
+void tst_LocalIniFile::NamesThatAreNoneAreRefused_data()
+{
+    QTest::addColumn<QString>("strGroup");
+    QTest::addColumn<QString>("strKey");
+    QTest::newRow("no group") << ""
+                              << "k";
+    QTest::newRow("no key") << "G"
+                            << "";
+    QTest::newRow("group with a line end") << "G]\n[H"
+                                           << "k";
+    QTest::newRow("key with a line end") << "G"
+                                         << "k\nother";
+    QTest::newRow("key with a value") << "G"
+                                      << "k=1;";
+    QTest::newRow("key that is a comment") << "G"
+                                           << ";k";
+    QTest::newRow("key that is a group") << "G"
+                                         << "[k";
+    QTest::newRow("key with a path") << "G"
+                                     << "sub/k";
+}
+
+void tst_LocalIniFile::NamesThatAreNoneAreRefused()
+{
+    QFETCH(QString, strGroup);
+    QFETCH(QString, strKey);
+    Put("[H]\nprecious=1\n");
+    QVERIFY(!CLocalIniFile::WriteValue(strGroup, strKey, "v", "test.ini"));
+    QCOMPARE(Get(), QByteArray("[H]\nprecious=1\n"));
+}
+
+void tst_LocalIniFile::ValuesThatAreNoTextAreRefused_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("none") << QVariant();
+    QTest::newRow("list") << QVariant(QStringList{"a", "b"});
+    QTest::newRow("size") << QVariant(QSize(1, 2));
+}
+
+void tst_LocalIniFile::ValuesThatAreNoTextAreRefused()
+{
+    QFETCH(QVariant, value);
+    Put("[G]\nk=precious\n");
+    QVERIFY(!CLocalIniFile::WriteValue("G", "k", value, "test.ini"));
+    QCOMPARE(Get(), QByteArray("[G]\nk=precious\n"));
 }
 
 void tst_LocalIniFile::NothingIsWrittenWhenNothingChanges()

@@ -3,12 +3,17 @@
 #include <client/LoginManager.h>
 
 #include <QElapsedTimer>
+#include <QPointer>
+#include <QSemaphore>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QThread>
 #include <QtTest>
 
+#include <array>
+#include <atomic>
 #include <mutex>
+#include <thread>
 
 using namespace LocalConfigClient;
 using UserLogical::ILoginManagerObserver;
@@ -90,6 +95,9 @@ private slots:
     void ALateObserverOfAConnectionIsToldNothing();
     void ARemovedObserverIsLeftAlone();
     void RemovingFromWithinANotification();
+    void RemovingWaitsForANotificationThatIsUnderWay();
+    void ObserversComeAndGoWhileTheServerDoes();
+    void AConnectionThatTheServerDropsIsALoss();
     void AddingTwiceCountsOnce();
     void UnknownAndNullObserversAreHarmless();
     void WhatTheServerSaysIsIgnored();
@@ -258,6 +266,92 @@ void tst_LoginManager::RemovingFromWithinANotification()
     QCOMPARE(other.States(), QStringList());
 }
 
+void tst_LoginManager::RemovingWaitsForANotificationThatIsUnderWay()
+{
+    class CSlow : public ILoginManagerObserver
+    {
+    public:
+        void NotifyLoginState(const Param& /*param*/) override
+        {
+            m_entered.release();
+            QThread::msleep(200);
+            m_bLeft = true;
+        }
+        QSemaphore m_entered;
+        std::atomic<bool> m_bLeft{false};
+    };
+    CServer server;
+    QVERIFY(server.Open());
+    LoginManager manager("127.0.0.1", server.Port(), g_fast);
+    CSlow observer;
+    manager.AddObserver(&observer);
+    QTRY_COMPARE(server.m_nConnections, 1);
+    server.Close();
+    QVERIFY(observer.m_entered.tryAcquire(1, 5000));
+    manager.RemoveObserver(&observer);
+    QVERIFY(observer.m_bLeft);
+}
+
+void tst_LoginManager::ObserversComeAndGoWhileTheServerDoes()
+{
+    CServer server;
+    QVERIFY(server.Open());
+    const quint16 nPort = server.Port();
+    LoginManager manager("127.0.0.1", nPort, g_fast);
+    std::atomic<bool> bStop{false};
+    std::atomic<int> nRounds{0};
+    std::array<std::thread, 2> arrThreads;
+    for (std::thread& thread : arrThreads)
+    {
+        thread = std::thread([&] {
+            while (!bStop)
+            {
+                CObserver observer;
+                manager.AddObserver(&observer);
+                std::this_thread::yield();
+                manager.RemoveObserver(&observer);
+                ++nRounds;
+            }
+        });
+    }
+    bool bOpened = true;
+    for (int n = 0; n < 5; ++n)
+    {
+        QTest::qWait(20);
+        server.Close();
+        QTest::qWait(20);
+        bOpened = server.Open(nPort) && bOpened;
+    }
+    bStop = true;
+    for (std::thread& thread : arrThreads)
+    {
+        thread.join();
+    }
+    QVERIFY(bOpened);
+    QVERIFY(nRounds > 10);
+    // None of them is left behind: whoever comes now hears of the next loss.
+    CObserver last;
+    manager.AddObserver(&last);
+    server.Close();
+    QTRY_COMPARE(last.States().isEmpty() ? QString() : last.States().last(), QString("3/0"));
+    manager.RemoveObserver(&last);
+}
+
+void tst_LoginManager::AConnectionThatTheServerDropsIsALoss()
+{
+    QTcpServer server; // keeps listening
+    QPointer<QTcpSocket> pSocket;
+    connect(&server, &QTcpServer::newConnection, this, [&] { pSocket = server.nextPendingConnection(); });
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    LoginManager manager("127.0.0.1", server.serverPort(), g_fast);
+    CObserver observer;
+    manager.AddObserver(&observer);
+    QTRY_VERIFY(pSocket);
+    delete pSocket;
+    QTRY_COMPARE(observer.States(), (QStringList{"3/0", "2/0"}));
+    manager.RemoveObserver(&observer);
+}
+
 void tst_LoginManager::AddingTwiceCountsOnce()
 {
     CServer server;
@@ -306,8 +400,8 @@ void tst_LoginManager::AttemptsBecomeSeldom()
     QVERIFY(closed.listen(QHostAddress::LocalHost));
     const quint16 nPort = closed.serverPort();
     closed.close();
-    const LoginManager manager("127.0.0.1", nPort, LoginManager::BackOff{50, 8000});
-    QTest::qWait(900); // attempts at 0, 50, 150, 350, 750, 1550
+    const LoginManager manager("127.0.0.1", nPort, LoginManager::BackOff{200, 60000});
+    QTest::qWait(2000); // attempts at 0, 200, 600, 1400, 3000
     int nConnections = 0;
     QTcpServer server;
     connect(&server, &QTcpServer::newConnection, this, [&] { ++nConnections; });

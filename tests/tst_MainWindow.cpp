@@ -67,6 +67,8 @@ private slots:
     void SplitsFillTheArea_data();
     void SplitsFillTheArea();
     void AnUnknownSplitChangesNothing();
+    void TheDisplayScalePlacesThePicture();
+    void SavingShowsSplitAndScaleAtOnce();
     void TheWindowShowsTheSettings();
     void TheTimeZoneIsShownWhenAskedFor_data();
     void TheTimeZoneIsShownWhenAskedFor();
@@ -124,6 +126,41 @@ void tst_MainWindow::AnUnknownSplitChangesNothing()
         view.SetSplit(nSplit);
         QCOMPARE(view.GetSplit(), 9);
     }
+}
+
+void tst_MainWindow::TheDisplayScalePlacesThePicture()
+{
+    const QRect pane(10, 10, 400, 200);
+    QCOMPARE(SplitView::GetPicturePlace(pane, QSize(100, 80), 1), pane);
+    QCOMPARE(SplitView::GetPicturePlace(pane, QSize(100, 80), 0).size(), QSize(100, 80));
+    QCOMPARE(SplitView::GetPicturePlace(pane, QSize(100, 80), 0).center(), pane.center());
+    SplitView view(nullptr);
+    view.SetDisplayScale(0);
+    view.SetDisplayScale(7);
+    QCOMPARE(view.GetDisplayScale(), 0);
+}
+
+void tst_MainWindow::SavingShowsSplitAndScaleAtOnce()
+{
+    {
+        ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+        UserManager users({}, nullptr);
+        MainWindow window(service, users);
+        window.show();
+        InDialog(window, [](QDialog& dialog) {
+            Click(dialog, "btnShowSplitWnd");
+            Click(dialog, "btnDiv13");
+            QTest::keyClick(Find<QComboBox>(dialog, "pCmbScale"), Qt::Key_Up);
+            Click(dialog, "btnOk");
+        });
+        QCOMPARE(window.findChild<SplitView*>()->GetSplit(), 13);
+        QCOMPARE(window.findChild<SplitView*>()->GetDisplayScale(), 0);
+    }
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    UserManager users({}, nullptr);
+    const MainWindow window(service, users);
+    QCOMPARE(window.findChild<SplitView*>()->GetSplit(), 13);
+    QCOMPARE(window.findChild<SplitView*>()->GetDisplayScale(), 0);
 }
 
 void tst_MainWindow::TheWindowShowsTheSettings()

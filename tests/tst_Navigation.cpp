@@ -1,5 +1,7 @@
 #include "support/DialogFixture.h"
 
+#include <KvGui/KvVerScrollBar.h>
+
 #include <QAbstractItemView>
 
 using namespace LocalConfig;
@@ -31,7 +33,10 @@ private slots:
     void PickingAnEntryScrollsAndSelects_data();
     void PickingAnEntryScrollsAndSelects();
     void PickingTheCurrentEntryOnlyScrolls();
-    void PickedEntryStaysOutsideEveryBand();
+    void APickBeyondTheScrollRangeStays_data();
+    void APickBeyondTheScrollRangeStays();
+    void ScrollingBackReachesBasic();
+    void WhereBandsOverlapTheFirstBoxCounts();
     void KeysMoveThroughTheSections();
     void ScrollBand_data();
     void ScrollBand();
@@ -90,18 +95,47 @@ void tst_Navigation::PickingTheCurrentEntryOnlyScrolls()
     QCOMPARE(d.SelectedBoxes(), QList<int>{1});
 }
 
-void tst_Navigation::PickedEntryStaysOutsideEveryBand()
+void tst_Navigation::APickBeyondTheScrollRangeStays_data()
+{
+    QTest::addColumn<int>("nEnd"); // of the scroll range; -1: the top of the wall's box
+    QTest::newRow("outside every band") << 3000;
+    QTest::newRow("inside the band of another box") << -1;
+}
+
+void tst_Navigation::APickBeyondTheScrollRangeStays()
+{
+    QFETCH(int, nEnd);
+    DIALOG;
+    d.InitAndShow();
+    const int nMaximum = nEnd < 0 ? d.Box(6)->y() : nEnd;
+    d.ScrollBar()->setMaximum(nMaximum);
+    d.List()->setFocus();
+    QTest::keyClick(d.List(), Qt::Key_End);
+    QCOMPARE(d.ScrollBar()->value(), nMaximum);
+    QCOMPARE(d.List()->GetCurrentIndex(), 8);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{8});
+}
+
+void tst_Navigation::ScrollingBackReachesBasic()
 {
     DIALOG;
     d.InitAndShow();
-    d.Contents()->resize(d.Contents()->size());
-    // Security stands so near the end that its top may not come up to the view's top.
-    d.List()->setFocus();
-    QTest::keyClick(d.List(), Qt::Key_End);
-    QCOMPARE(d.List()->GetCurrentIndex(), 8);
-    QTest::keyClick(d.List(), Qt::Key_Up);
-    QCOMPARE(d.List()->GetCurrentIndex(), 7);
-    QCOMPARE(d.SelectedBoxes(), QList<int>{7});
+    d.ScrollBar()->setValue(d.Box(1)->y());
+    QCOMPARE(d.SelectedBoxes(), QList<int>{1});
+    d.ScrollBar()->setValue(d.Box(0)->y() + 41);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{1});
+    d.ScrollBar()->setValue(d.Box(0)->y() + 40);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{0});
+}
+
+void tst_Navigation::WhereBandsOverlapTheFirstBoxCounts()
+{
+    DIALOG;
+    host.userRight.m_setMissing = {26};
+    d.InitAndShow();
+    d.Box(6)->move(0, d.Box(3)->y());
+    d.ScrollBar()->setValue(d.Box(3)->y());
+    QCOMPARE(d.SelectedBoxes(), QList<int>{3});
 }
 
 void tst_Navigation::KeysMoveThroughTheSections()
@@ -120,11 +154,10 @@ void tst_Navigation::ScrollBand_data()
     QTest::addColumn<int>("nIndex");
     QTest::addColumn<int>("nOffset");
     QTest::addColumn<bool>("bSelects");
-    for (int nIndex = 1; nIndex < 8; ++nIndex)
+    for (int nIndex = 1; nIndex < 9; ++nIndex)
     {
         for (int nOffset : {-41, -40, -1, 0, 1, 40, 41})
         {
-            // The band of the small Security box is within reach of its neighbours; theirs are checked on their own.
             QTest::addRow("%s%+d", g_arrBoxes[nIndex].pszBox, nOffset) << nIndex << nOffset << (qAbs(nOffset) <= 40);
         }
     }
@@ -170,6 +203,13 @@ void tst_Navigation::ConnectionsStaySingle()
     const int nOfScrollBar = CReceivers::Count(d.ScrollBar(), SIGNAL(valueChanged(int)));
     const int nOfList = CReceivers::Count(d.List(), SIGNAL(SignalCurrentIndexChanged(int)));
     QCOMPARE(nOfList, 1);
+    QScrollArea other; // whose own connection every scroll bar of an area has
+    other.setVerticalScrollBar(new KVGUI::KvVerScrollBar(&other));
+    QCOMPARE(nOfScrollBar, CReceivers::Count(other.verticalScrollBar(), SIGNAL(valueChanged(int))) + 1);
+    for (const SBox& box : g_arrBoxes)
+    {
+        QCOMPARE(CReceivers::Count(d.Box(box.nIndex), SIGNAL(SignalGroupBoxClicked(int))), 1);
+    }
     d.List()->setFocus();
     for (int n = 0; n < 3; ++n)
     {

@@ -29,14 +29,39 @@ private slots:
     void AnotherHintSurvivesAShortPath();
     void TheBrowseButtonStandsInside();
     void TheTextStaysClearOfTheButton();
+    void TheButtonChangesSidesWithTheLayoutDirection();
     void TheBrowseButtonIsReachedByKeyboard();
     void BrowseByOwnerOnlyEmits();
     void BrowseFolderOpensTheDialog();
+    void ThePickedFolderIsShownBeforeTheSignal();
+    void APickedFolderThatIsTooLongGetsTheMessage();
+    void AFieldMayGoWhileItsDialogIsOpen();
+    void TheTipParentMayGoFirst();
     void TheModeIsADesignerProperty();
     void FolderNamesAreCompleted();
     void NothingIsCompletedForTheOwner();
 
 private:
+    /// Presses the browse button and takes the folder in the dialog that opens.
+    void Pick(const QString& strFolder)
+    {
+        bool bPicked = false;
+        QTimer::singleShot(50, this, [&] {
+            auto* pDialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(pDialog);
+            auto* pName = pDialog->findChild<QLineEdit*>("fileNameEdit");
+            if (!pName)
+            {
+                pDialog->reject();
+                return;
+            }
+            pName->setText(strFolder);
+            QTest::keyClick(pName, Qt::Key_Enter);
+            bPicked = true;
+        });
+        QTest::mouseClick(Browse(), Qt::LeftButton);
+        QVERIFY(bPicked);
+    }
     QToolButton* Browse() const { return m_pEdit->findChild<QToolButton*>("btnBrowse"); }
 
     QScopedPointer<QWidget> m_pParent;
@@ -137,6 +162,18 @@ void tst_PathEdit::TheTextStaysClearOfTheButton()
     QVERIFY(m_pEdit->textMargins().right() >= Browse()->width());
 }
 
+void tst_PathEdit::TheButtonChangesSidesWithTheLayoutDirection()
+{
+    m_pParent->setLayoutDirection(Qt::RightToLeft);
+    QVERIFY(Browse()->geometry().right() < m_pEdit->width() / 2);
+    QVERIFY(m_pEdit->textMargins().left() >= Browse()->width());
+    QCOMPARE(m_pEdit->textMargins().right(), 0);
+    m_pParent->setLayoutDirection(Qt::LeftToRight);
+    QVERIFY(Browse()->geometry().left() > m_pEdit->width() / 2);
+    QVERIFY(m_pEdit->textMargins().right() >= Browse()->width());
+    QCOMPARE(m_pEdit->textMargins().left(), 0);
+}
+
 void tst_PathEdit::TheBrowseButtonIsReachedByKeyboard()
 {
     m_pEdit->SetBrowseMode(CPathEdit::BrowseByOwner);
@@ -179,6 +216,51 @@ void tst_PathEdit::BrowseFolderOpensTheDialog()
     QCOMPARE(strStart, folder.path());
     QCOMPARE(spy.size(), 1);
     QCOMPARE(m_pEdit->text(), folder.path());
+}
+
+void tst_PathEdit::ThePickedFolderIsShownBeforeTheSignal()
+{
+    const QTemporaryDir folder;
+    QString strAtSignal;
+    connect(m_pEdit, &CPathEdit::sgnPathBtnClicked, this, [&] { strAtSignal = m_pEdit->text(); });
+    Pick(folder.path());
+    QCOMPARE(m_pEdit->text(), QDir::toNativeSeparators(folder.path()));
+    QCOMPARE(strAtSignal, m_pEdit->text());
+}
+
+void tst_PathEdit::APickedFolderThatIsTooLongGetsTheMessage()
+{
+    const QTemporaryDir folder;
+    m_pEdit->SetMaxInputParam(folder.path().toUtf8().size() - 1, "Too long");
+    Pick(folder.path());
+    QCOMPARE(m_pEdit->text(), QDir::toNativeSeparators(folder.path()));
+    QCOMPARE(m_pEdit->GetErrorHintText(), QString("Too long"));
+}
+
+void tst_PathEdit::AFieldMayGoWhileItsDialogIsOpen()
+{
+    auto* pEdit = new CPathEdit(m_pParent.data());
+    pEdit->setGeometry(20, 80, 300, 32);
+    pEdit->show();
+    bool bOpened = false;
+    QTimer::singleShot(50, this, [&] {
+        bOpened = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) != nullptr;
+        delete pEdit;
+    });
+    QSignalSpy spy(pEdit, &CPathEdit::sgnPathBtnClicked);
+    pEdit->findChild<QToolButton*>("btnBrowse")->click();
+    QVERIFY(bOpened);
+    QCOMPARE(spy.size(), 0);
+}
+
+void tst_PathEdit::TheTipParentMayGoFirst()
+{
+    auto* pTipParent = new QWidget;
+    m_pEdit->SetTipParentWidget(pTipParent);
+    m_pEdit->SetMaxInputParam(3, "Too long");
+    delete pTipParent;
+    QTest::keyClicks(m_pEdit, "/abc");
+    QCOMPARE(m_pEdit->GetErrorHintText(), QString("Too long"));
 }
 
 void tst_PathEdit::TheModeIsADesignerProperty()

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -41,7 +42,11 @@ private slots:
 
     void ToolTipWhenTheTextIsWider_data();
     void ToolTipWhenTheTextIsWider();
+    void TheToolTipComesAsSoonAsTextIsHidden_data();
+    void TheToolTipComesAsSoonAsTextIsHidden();
     void ToolTipGoesWhenTheTextFits();
+    void AControlWithoutTextKeepsItsToolTip();
+    void APasswordIsNotTold();
     void AnotherToolTipStays();
     void MnemonicsAreLeftOut();
     void NullIsHarmless();
@@ -275,6 +280,57 @@ void tst_Pxa::ToolTipWhenTheTextIsWider()
     pControl->resize(30, 30);
     Pxa::QCommon::AddToolTipByControlWidth(pControl.data());
     QCOMPARE(pControl->toolTip(), strText);
+}
+
+void tst_Pxa::TheToolTipComesAsSoonAsTextIsHidden_data()
+{
+    QTest::addColumn<bool>("bCombo");
+    QTest::newRow("combo box, behind its arrow") << true;
+    QTest::newRow("line edit, behind its button") << false;
+}
+
+void tst_Pxa::TheToolTipComesAsSoonAsTextIsHidden()
+{
+    QFETCH(bool, bCombo);
+    const QString strText = "A text of some length";
+    QScopedPointer<QWidget> pControl;
+    if (bCombo)
+    {
+        auto* pCombo = new QComboBox;
+        pCombo->addItem(strText);
+        pControl.reset(pCombo);
+    }
+    else
+    {
+        auto* pEdit = new QLineEdit(strText);
+        pEdit->setTextMargins(0, 0, 28, 0);
+        pControl.reset(pEdit);
+    }
+    // As wide as the text alone: the control's own furniture covers the end of it.
+    pControl->resize(pControl->fontMetrics().horizontalAdvance(strText) + 10, 30);
+    Pxa::QCommon::AddToolTipByControlWidth(pControl.data());
+    QCOMPARE(pControl->toolTip(), strText);
+    pControl->resize(pControl->width() + 60, 30);
+    Pxa::QCommon::AddToolTipByControlWidth(pControl.data());
+    QVERIFY(pControl->toolTip().isEmpty());
+}
+
+void tst_Pxa::AControlWithoutTextKeepsItsToolTip()
+{
+    QCheckBox box;
+    box.setToolTip("What it is for");
+    box.resize(1, 1);
+    Pxa::QCommon::AddToolTipByControlWidth(&box);
+    QCOMPARE(box.toolTip(), QString("What it is for"));
+}
+
+void tst_Pxa::APasswordIsNotTold()
+{
+    QLineEdit edit("A secret of some length");
+    edit.setEchoMode(QLineEdit::Password);
+    edit.resize(20, 30);
+    Pxa::QCommon::AddToolTipByControlWidth(&edit);
+    QVERIFY(edit.toolTip().isEmpty());
 }
 
 void tst_Pxa::ToolTipGoesWhenTheTextFits()

@@ -94,6 +94,7 @@ void tst_SaveAndLock::KeptInput_data()
     QTest::newRow("record kept") << -1 << -2 << true << false;
     QTest::newRow("both kept") << -2 << -2 << false << false;
     QTest::newRow("snapshot kept, record stored") << -2 << 0 << false << true;
+    QTest::newRow("a positive result refuses, too") << 0 << 1 << true << true;
 }
 
 void tst_SaveAndLock::KeptInput()
@@ -105,7 +106,10 @@ void tst_SaveAndLock::KeptInput()
     DIALOG;
     SFakePages::Instance().mapSaveResults = {{3, nSnapshot}, {4, nRecord}};
     d.InitAndShow();
+    NOTIFICATIONS;
     d.Click("btnOk");
+    QVERIFY(d.dialog.isVisible());
+    QCOMPARE(notifications.size(), 1);
     QStringList listReloaded = g_listRefusedOrder;
     if (!bSnapshotReloaded)
     {

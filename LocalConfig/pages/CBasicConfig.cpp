@@ -55,8 +55,8 @@ CBasicConfig::CBasicConfig(QWidget* pParent)
     : QWidget(pParent)
     , m_pUi(std::make_unique<Ui::CBasicConfig>())
 {
-    m_pUi->setupUi(this);
     setWindowFlags(Qt::Tool);
+    m_pUi->setupUi(this);
     InitControls();
     setWindowFlags({});
 }

@@ -1,6 +1,9 @@
 #include "ConfigPages.h"
 
 #include "CBasicConfig.h"
+#include "CPlaybackConfig.h"
+#include "CTvWallConfig.h"
+#include "CVideoConfig.h"
 
 #include <LocalConfig/SectionIndex.h>
 
@@ -24,6 +27,9 @@ struct SPage
 
 constexpr SPage g_arrPages[] = {
     {IndexBasic, &Create<CBasicConfig>},
+    {IndexVideo, &Create<CVideoConfig>},
+    {IndexPlayback, &Create<CPlaybackConfig>},
+    {IndexTvWall, &Create<CTvWallConfig>},
 };
 
 } // namespace

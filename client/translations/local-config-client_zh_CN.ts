@@ -35,6 +35,14 @@
         <source>The skin file &apos;%1&apos; cannot be read.</source>
         <translation>无法读取皮肤文件“%1”。</translation>
     </message>
+    <message>
+        <source>The data folder &apos;%1&apos; does not exist.</source>
+        <translation>数据文件夹“%1”不存在。</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is the client&apos;s own file.</source>
+        <translation>“%1”是客户端自己的文件。</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -61,10 +69,6 @@
     <message>
         <source>Show the version.</source>
         <translation>显示版本。</translation>
-    </message>
-    <message>
-        <source>Section of the screenshot, 0 to 8.</source>
-        <translation>截图的分类，0 到 8。</translation>
     </message>
     <message>
         <source>DustyBlue or White.</source>
@@ -119,10 +123,6 @@
         <translation>没有权限 26 时不存在分类 6。</translation>
     </message>
     <message>
-        <source>Option --section belongs to --screenshot.</source>
-        <translation>选项 --section 只能与 --screenshot 一起使用。</translation>
-    </message>
-    <message>
         <source>DustyBlue or White</source>
         <translation>DustyBlue 或 White</translation>
     </message>
@@ -137,6 +137,14 @@
     <message>
         <source>Surveillance workstation client. Without an action it opens its window and the settings dialog.</source>
         <translation>监控工作站客户端。不带操作选项时打开主窗口和设置对话框。</translation>
+    </message>
+    <message>
+        <source>Section that the dialog shows at first, 0 to 8.</source>
+        <translation>对话框首先显示的分类，0 到 8。</translation>
+    </message>
+    <message>
+        <source>Option --section belongs to the dialog.</source>
+        <translation>选项 --section 只能与对话框一起使用。</translation>
     </message>
 </context>
 <context>
@@ -176,6 +184,10 @@
     <message>
         <source>The auto-start entry could not be changed: %1.</source>
         <translation>无法更改自动启动项：%1。</translation>
+    </message>
+    <message>
+        <source>The settings file was damaged meanwhile and was set aside.</source>
+        <translation>设置文件期间已损坏，已另存。</translation>
     </message>
 </context>
 <context>

@@ -117,6 +117,8 @@ void KvLineEdit::PlaceTip()
     const QWidget* pParent = m_pTip->parentWidget();
     const QPoint field = pParent->mapFromGlobal(mapToGlobal(QPoint()));
     m_pTip->setWordWrap(false);
+    m_pTip->setMinimumWidth(0);
+    m_pTip->setMaximumWidth(QWIDGETSIZE_MAX);
     m_pTip->adjustSize();
     if (m_pTip->width() > pParent->width())
     {

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QLabel>
+#include <QPointer>
 #include <QVBoxLayout>
 
 namespace KVGUI
@@ -88,8 +89,15 @@ private:
 int KvMessageBox::ShowInformation(QWidget* pParent, const QString& strTitle, const QString& strText, int nButtons,
                                   int nDefaultButton)
 {
-    CMessageDialog dialog(pParent, strTitle, strText, nButtons, nDefaultButton);
-    return dialog.exec();
+    // On the heap, because the parent may be deleted, and its children with it, while the box waits.
+    const QPointer<CMessageDialog> pDialog = new CMessageDialog(pParent, strTitle, strText, nButtons, nDefaultButton);
+    const int nResult = pDialog->exec();
+    if (!pDialog)
+    {
+        return 0;
+    }
+    delete pDialog;
+    return nResult;
 }
 
 } // namespace KVGUI

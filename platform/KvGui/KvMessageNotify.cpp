@@ -97,7 +97,14 @@ QWidget* FindWindow(const QWidget* pExcept)
 
 } // namespace
 
-KvMessageNotify::KvMessageNotify() = default;
+KvMessageNotify::KvMessageNotify()
+{
+    // Whoever asks first, the bars are widgets.
+    if (QCoreApplication::instance())
+    {
+        moveToThread(QCoreApplication::instance()->thread());
+    }
+}
 
 template <>
 KvMessageNotify* KvSingleton<KvMessageNotify>::Instance()

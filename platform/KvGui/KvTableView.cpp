@@ -11,16 +11,26 @@ KvTableView::KvTableView(QWidget* pParent)
 
 void KvTableView::setModel(QAbstractItemModel* pModel)
 {
+    if (pModel == model())
+    {
+        return;
+    }
     if (model())
     {
-        disconnect(model(), nullptr, this, nullptr);
+        // The view's own connections are its base's business.
+        for (const QMetaObject::Connection& connection : m_listConnections)
+        {
+            disconnect(connection);
+        }
+        m_listConnections.clear();
     }
     QTableView::setModel(pModel);
     if (pModel)
     {
-        connect(pModel, &QAbstractItemModel::headerDataChanged, this, &KvTableView::ApplyColumnWidths);
-        connect(pModel, &QAbstractItemModel::columnsInserted, this, &KvTableView::ApplyColumnWidths);
-        connect(pModel, &QAbstractItemModel::modelReset, this, &KvTableView::ApplyColumnWidths);
+        m_listConnections = {
+            connect(pModel, &QAbstractItemModel::headerDataChanged, this, &KvTableView::ApplyColumnWidths),
+            connect(pModel, &QAbstractItemModel::columnsInserted, this, &KvTableView::ApplyColumnWidths),
+            connect(pModel, &QAbstractItemModel::modelReset, this, &KvTableView::ApplyColumnWidths)};
         ApplyColumnWidths();
     }
 }

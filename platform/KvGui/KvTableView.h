@@ -22,6 +22,8 @@ public:
 
 private:
     void ApplyColumnWidths();
+
+    QList<QMetaObject::Connection> m_listConnections; // to the model
 };
 
 } // namespace KVGUI

@@ -52,7 +52,8 @@ int CAtomicFile::Write(const QString& strFile, const QByteArray& content)
         return GetSystemError();
     }
     // The new file is complete; only its name may not be on the disk yet.
-    return FlushFolder(QFileInfo(file.fileName()).absolutePath()) ? int(CErrorCode::Success) : GetSystemError();
+    return FlushFolder(QFileInfo(QFileInfo(strFile).canonicalFilePath()).path()) ? int(CErrorCode::Success)
+                                                                                 : GetSystemError();
 }
 
 int CAtomicFile::Read(const QString& strFile, QByteArray& content)
@@ -72,7 +73,8 @@ int CAtomicFile::Read(const QString& strFile, QByteArray& content)
     ClearSystemError();
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
     {
-        return GetSystemError();
+        const int nError = GetSystemError();
+        return nError == CErrorCode::FolderMissing ? int(CErrorCode::FileMissing) : nError; // it has gone meanwhile
     }
     const QByteArray read = file.readAll();
     if (file.error() != QFileDevice::NoError)

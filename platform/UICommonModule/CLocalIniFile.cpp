@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QSettings>
 
+#include <algorithm>
+
 namespace UICommonMdl
 {
 
@@ -17,6 +19,16 @@ namespace
 QString GetPath(const QString& strFileName)
 {
     return QDir(KVGUI::KvDir::GetCurrentPath()).filePath(strFileName);
+}
+
+/// Whether a group or key may stand in the file as it is. Anything else could be read as another line or name.
+bool IsName(const QString& strName)
+{
+    return !strName.isEmpty() && std::all_of(strName.begin(), strName.end(), [](QChar ch) {
+        const ushort nCode = ch.unicode();
+        return (nCode >= 'a' && nCode <= 'z') || (nCode >= 'A' && nCode <= 'Z') || (nCode >= '0' && nCode <= '9') ||
+               nCode == '_' || nCode == '-' || nCode == '.';
+    });
 }
 
 /// The value in the form that QSettings reads back, in ASCII.
@@ -93,6 +105,11 @@ bool IsBlank(const QByteArray& line)
 bool CLocalIniFile::WriteValue(const QString& strGroup, const QString& strKey, const QVariant& value,
                                const QString& strFileName)
 {
+    QVariant text(value);
+    if (!IsName(strGroup) || !IsName(strKey) || !text.convert(QMetaType::QString))
+    {
+        return false;
+    }
     const QString strPath = GetPath(strFileName);
     QByteArray content;
     const int nRead = CAtomicFile::Read(strPath, content);
@@ -101,11 +118,12 @@ bool CLocalIniFile::WriteValue(const QString& strGroup, const QString& strKey, c
         return false;
     }
 
-    QList<QByteArray> listLines = SplitLines(content);
+    const QByteArray byteOrderMark = content.startsWith("\xef\xbb\xbf") ? content.left(3) : QByteArray();
+    QList<QByteArray> listLines = SplitLines(content.mid(byteOrderMark.size()));
     const QByteArray lineEnd = content.contains("\r\n") ? "\r\n" : "\n";
     const QByteArray header = '[' + strGroup.toUtf8() + ']';
     const QByteArray key = strKey.toUtf8();
-    const QByteArray newLine = key + '=' + Escape(value.toString()) + lineEnd;
+    const QByteArray newLine = key + '=' + Escape(text.toString()) + lineEnd;
 
     int nInsert = -1; // behind the last line of the group that says something
     bool bInGroup = false;
@@ -145,7 +163,7 @@ bool CLocalIniFile::WriteValue(const QString& strGroup, const QString& strKey, c
         listLines.insert(nInsert, newLine);
     }
 
-    const QByteArray changed = listLines.join();
+    const QByteArray changed = byteOrderMark + listLines.join();
     return changed == content || CAtomicFile::Write(strPath, changed) == CErrorCode::Success;
 }
 

@@ -15,8 +15,9 @@ public:
     /// Sets one key and leaves every other byte of the file as it is: keys, comments, order, line ends. The file is
     /// replaced as a whole (see CAtomicFile), made when it is missing, and not touched when the value stands there
     /// already. Group and key are case-sensitive. QSettings reads the value back as it was given; a bool is written
-    /// as "true" or "false".
-    /// \return false when the file cannot be read or written; it is then as it was
+    /// as "true" or "false". Group and key consist of ASCII letters, digits, '_', '-' and '.'; the value is one that
+    /// QVariant turns into a text.
+    /// \return false when a name or the value is none, or the file cannot be read or written; it is then as it was
     static bool WriteValue(const QString& strGroup, const QString& strKey, const QVariant& value,
                            const QString& strFileName);
 

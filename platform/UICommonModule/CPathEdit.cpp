@@ -2,6 +2,7 @@
 
 #include <QCompleter>
 #include <QDir>
+#include <QEvent>
 #include <QFileDialog>
 #include <QFileSystemModel>
 #include <QStyle>
@@ -27,7 +28,7 @@ CPathEdit::CPathEdit(QWidget* pParent)
     m_pBrowseButton->setToolTip(tr("Browse"));
     m_pBrowseButton->setCursor(Qt::ArrowCursor);
     m_pBrowseButton->setFocusPolicy(Qt::TabFocus);
-    setTextMargins(0, 0, g_nButtonSize + g_nButtonMargin, 0);
+    KeepTextClearOfButton();
     connect(m_pBrowseButton, &QToolButton::clicked, this, &CPathEdit::OnBrowse);
     connect(this, &CPathEdit::textChanged, this, &CPathEdit::CheckLength);
 }
@@ -64,7 +65,7 @@ void CPathEdit::CheckLength()
     const bool bTooLong = m_nMaxBytes > 0 && text().toUtf8().size() > m_nMaxBytes;
     if (bTooLong)
     {
-        showErrorHint(m_pTipParent ? m_pTipParent : window(), true, m_strMessage);
+        showErrorHint(m_pTipParent ? m_pTipParent.data() : window(), true, m_strMessage);
     }
     else if (m_bTooLong)
     {
@@ -77,9 +78,19 @@ void CPathEdit::OnBrowse()
 {
     if (m_eBrowseMode == BrowseFolder)
     {
-        const QString strFolder =
-            QFileDialog::getExistingDirectory(this, tr("Select a folder"), QDir::fromNativeSeparators(text()));
-        if (!strFolder.isEmpty())
+        // On the heap: it goes with this field when that is deleted meanwhile.
+        const QPointer<QFileDialog> pDialog =
+            new QFileDialog(this, tr("Select a folder"), QDir::fromNativeSeparators(text()));
+        pDialog->setFileMode(QFileDialog::Directory);
+        pDialog->setOption(QFileDialog::ShowDirsOnly);
+        const bool bPicked = pDialog->exec() == QDialog::Accepted;
+        if (!pDialog)
+        {
+            return;
+        }
+        const QString strFolder = pDialog->selectedFiles().value(0);
+        delete pDialog;
+        if (bPicked && !strFolder.isEmpty())
         {
             setText(QDir::toNativeSeparators(strFolder));
         }
@@ -110,9 +121,31 @@ void CPathEdit::AddCompleter()
     setCompleter(pCompleter);
 }
 
+void CPathEdit::changeEvent(QEvent* pEvent)
+{
+    KvLineEdit::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::LayoutDirectionChange)
+    {
+        KeepTextClearOfButton();
+        PlaceButton();
+    }
+}
+
 void CPathEdit::resizeEvent(QResizeEvent* pEvent)
 {
     KvLineEdit::resizeEvent(pEvent);
+    PlaceButton();
+}
+
+void CPathEdit::KeepTextClearOfButton()
+{
+    const int nRoom = g_nButtonSize + g_nButtonMargin;
+    const bool bMirrored = layoutDirection() == Qt::RightToLeft;
+    setTextMargins(bMirrored ? nRoom : 0, 0, bMirrored ? 0 : nRoom, 0);
+}
+
+void CPathEdit::PlaceButton()
+{
     const QRect button(width() - g_nButtonSize - g_nButtonMargin, (height() - g_nButtonSize) / 2, g_nButtonSize,
                        g_nButtonSize);
     m_pBrowseButton->setGeometry(QStyle::visualRect(layoutDirection(), rect(), button));

@@ -3,7 +3,9 @@
 #include <KvGui/KvLineEdit.h>
 #include <UICommonModule/UICommonModuleExport.h>
 
-class QFileSystemModel;
+#include <QFileSystemModel>
+#include <QPointer>
+
 class QToolButton;
 
 namespace UICommonMdl
@@ -40,6 +42,7 @@ signals:
     void sgnPathBtnClicked();
 
 protected:
+    void changeEvent(QEvent* pEvent) override;
     void resizeEvent(QResizeEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
 
@@ -47,11 +50,13 @@ private:
     void OnBrowse();
     void CheckLength();
     void AddCompleter();
+    void PlaceButton();
+    void KeepTextClearOfButton();
 
     QToolButton* m_pBrowseButton;
     BrowseMode m_eBrowseMode = BrowseFolder;
-    QFileSystemModel* m_pFolders = nullptr; // the completer's
-    QWidget* m_pTipParent = nullptr;
+    QPointer<QFileSystemModel> m_pFolders; // the completer's
+    QPointer<QWidget> m_pTipParent;
     int m_nMaxBytes = 0;
     QString m_strMessage;
     bool m_bTooLong = false;

@@ -14,6 +14,9 @@
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStyle>
+#include <QStyleOption>
+#include <QVariant>
 
 using UICommonMdl::CAtomicFile;
 using UICommonMdl::CErrorCode;
@@ -28,6 +31,7 @@ namespace
 
 const QLatin1String g_strDark("DustyBlue");
 const QLatin1String g_strWhite("White");
+constexpr char g_szGivenToolTip[] = "toolTipByWidth";
 
 struct SSheet
 {
@@ -48,6 +52,28 @@ QString WithoutMnemonics(QString strText)
     const QString strBoth = QStringLiteral("&&");
     const QChar chMark(0xFFFF); // no character
     return strText.replace(strBoth, chMark).remove(QLatin1Char('&')).replace(chMark, QLatin1Char('&'));
+}
+
+/// The width that a line edit leaves to its text.
+int GetTextRoom(const QLineEdit& edit)
+{
+    constexpr int nPadding = 2; // pixels that a line edit keeps on either side of its text
+    QStyleOptionFrame option;
+    option.initFrom(&edit);
+    option.lineWidth = edit.hasFrame() ? edit.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &edit) : 0;
+    const QRect contents = edit.style()->subElementRect(QStyle::SE_LineEditContents, &option, &edit);
+    const QMargins margins = edit.textMargins();
+    return contents.width() - margins.left() - margins.right() - 2 * nPadding;
+}
+
+/// The width that a combo box leaves to its text.
+int GetTextRoom(const QComboBox& combo)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(&combo);
+    option.editable = combo.isEditable();
+    option.frame = combo.hasFrame();
+    return combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo).width();
 }
 
 } // namespace
@@ -114,13 +140,13 @@ void QCommon::AddToolTipByControlWidth(QWidget* pControl)
     }
     else if (const auto* pEdit = qobject_cast<const QLineEdit*>(pControl))
     {
-        strText = pEdit->text();
-        bTooWide = pEdit->fontMetrics().horizontalAdvance(strText) > pEdit->contentsRect().width();
+        strText = pEdit->echoMode() == QLineEdit::Normal ? pEdit->text() : QString(); // a tip would tell a password
+        bTooWide = pEdit->fontMetrics().horizontalAdvance(strText) > GetTextRoom(*pEdit);
     }
     else if (const auto* pCombo = qobject_cast<const QComboBox*>(pControl))
     {
         strText = pCombo->currentText();
-        bTooWide = pCombo->fontMetrics().horizontalAdvance(strText) > pCombo->contentsRect().width();
+        bTooWide = pCombo->fontMetrics().horizontalAdvance(strText) > GetTextRoom(*pCombo);
     }
     else if (const auto* pBox = qobject_cast<const QGroupBox*>(pControl))
     {
@@ -128,13 +154,17 @@ void QCommon::AddToolTipByControlWidth(QWidget* pControl)
         bTooWide = pBox->fontMetrics().horizontalAdvance(strText) > pBox->contentsRect().width();
     }
 
-    if (bTooWide)
+    // The text may have changed since; the tip that was given then is known by the property.
+    const QString strGiven = pControl->property(g_szGivenToolTip).toString();
+    if (bTooWide && !strText.isEmpty())
     {
         pControl->setToolTip(strText);
+        pControl->setProperty(g_szGivenToolTip, strText);
     }
-    else if (pControl->toolTip() == strText)
+    else if (!pControl->toolTip().isEmpty() && (pControl->toolTip() == strText || pControl->toolTip() == strGiven))
     {
         pControl->setToolTip(QString());
+        pControl->setProperty(g_szGivenToolTip, QVariant());
     }
 }
 

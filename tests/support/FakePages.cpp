@@ -24,7 +24,11 @@ SFakePages& SFakePages::Instance()
 CFakePage::CFakePage(const QString& strName, QWidget* pParent)
     : QWidget(pParent)
     , m_strName(strName)
-{}
+{
+    QSizePolicy policy = sizePolicy();
+    policy.setHeightForWidth(strName == QLatin1String("Video"));
+    setSizePolicy(policy);
+}
 
 void CFakePage::Note(const QString& strCall)
 {

@@ -4,6 +4,40 @@
 
 #include <LocalConfig/interfaces/IBasicSection.h>
 
+#include <functional>
+
+/// A section that notes its calls and keeps one record.
+template <class Interface, class Record>
+class CFakeSection : public Interface
+{
+public:
+    explicit CFakeSection(CJournal& journal)
+        : m_journal(journal)
+    {}
+
+    int SetConfig(const Record& record) override
+    {
+        m_journal.Note(QStringLiteral("SetConfig"));
+        if (m_nResult == 0)
+        {
+            m_record = record;
+        }
+        return m_nResult;
+    }
+
+    void GetConfig(Record& record) override
+    {
+        m_journal.Note(QStringLiteral("GetConfig"));
+        record = m_record;
+    }
+
+    Record m_record;
+    int m_nResult = 0;
+
+private:
+    CJournal& m_journal;
+};
+
 /// A Basic section that notes its calls and keeps one record.
 class CFakeBasicSection : public LocalConfigLogical::IBasicSection
 {
@@ -20,6 +54,10 @@ public:
     int SetConfig(const LocalConfigLogical::BasicConfigInfo& record) override
     {
         m_journal.Note(QStringLiteral("SetConfig"));
+        if (m_onSetConfig)
+        {
+            m_onSetConfig();
+        }
         if (m_nResult == 0)
         {
             m_record = record;
@@ -35,6 +73,7 @@ public:
 
     LocalConfigLogical::BasicConfigInfo m_record;
     int m_nResult = 0;
+    std::function<void()> m_onSetConfig;
 
 private:
     CJournal& m_journal;

@@ -1,0 +1,55 @@
+#include "CSplitWndNumConfig.h"
+#include "ui_CSplitWndNumConfig.h"
+
+#include <LocalConfig/SkinStyle.h>
+
+namespace LocalConfig
+{
+
+namespace
+{
+
+struct SSplitButton
+{
+    QPushButton* Ui::CSplitWndNumConfig::*pButton;
+    int nSplit;
+};
+
+using Form = Ui::CSplitWndNumConfig;
+
+constexpr SSplitButton g_arrButtons[] = {
+    {&Form::btnDiv1, 1},   {&Form::btnDiv4, 4},   {&Form::btnDiv6, 6},   {&Form::btnDiv8, 8},   {&Form::btnDiv9, 9},
+    {&Form::btnDiv13, 13}, {&Form::btnDiv16, 16}, {&Form::btnDiv20, 20}, {&Form::btnDiv25, 25}, {&Form::btnDiv36, 36},
+};
+
+} // namespace
+
+CSplitWndNumConfig::CSplitWndNumConfig(QWidget* pParent)
+    : QWidget(pParent)
+    , m_pUi(std::make_unique<Ui::CSplitWndNumConfig>())
+{
+    m_pUi->setupUi(this);
+    setAttribute(Qt::WA_StyledBackground);
+    for (const SSplitButton& button : g_arrButtons)
+    {
+        connect((*m_pUi).*button.pButton, &QPushButton::clicked, this, &CSplitWndNumConfig::OnNormalClicked);
+    }
+    setObjectName(QStringLiteral("CSplitWndNumConfig"));
+    ApplySkinStyle(this);
+}
+
+CSplitWndNumConfig::~CSplitWndNumConfig() = default;
+
+void CSplitWndNumConfig::OnNormalClicked()
+{
+    for (const SSplitButton& button : g_arrButtons)
+    {
+        if (sender() == (*m_pUi).*button.pButton)
+        {
+            emit sgnSplitChanged(button.nSplit);
+            return;
+        }
+    }
+}
+
+} // namespace LocalConfig

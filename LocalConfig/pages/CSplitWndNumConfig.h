@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui
+{
+class CSplitWndNumConfig;
+}
+
+namespace LocalConfig
+{
+
+/// Popup of ten split pictures. It reports the one that is picked and leaves showing and hiding to its owner.
+class CSplitWndNumConfig : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CSplitWndNumConfig(QWidget* pParent);
+    ~CSplitWndNumConfig() override;
+
+signals:
+    /// \param splitNum  1, 4, 6, 8, 9, 13, 16, 20, 25 or 36
+    void sgnSplitChanged(int splitNum);
+
+private slots:
+    void OnNormalClicked();
+
+private:
+    std::unique_ptr<Ui::CSplitWndNumConfig> m_pUi;
+};
+
+} // namespace LocalConfig

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+
+#include <initializer_list>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QWidget;
+
+namespace LocalConfig
+{
+
+/// What several pages do alike.
+
+/// Appends the translated colon to captions, once, when a page is built.
+void AppendColon(const QString& strColon, std::initializer_list<QLabel*> listCaptions);
+
+/// An entry of a combo box that stands for a number of the record.
+struct SItem
+{
+    const char* pszText;
+    int nData;
+};
+
+/// Selects the item with this text, or none.
+void SelectText(QComboBox* pCombo, const QString& strText);
+
+/// A range of whole numbers, as records and messages name it.
+struct SRange
+{
+    int nMin;
+    int nMax;
+
+    bool Contains(int nNumber) const { return nNumber >= nMin && nNumber <= nMax; }
+
+    /// A template with %1 and %2, filled with the two ends.
+    QString Fill(const QString& strTemplate) const;
+};
+
+/// Puts the focus on a control and shows a text as tool tip at its place.
+void PointAt(QWidget* pControl, const QString& strText);
+
+/// Lets a field take only what a pattern accepts, or the beginning of it.
+void SetPattern(QLineEdit* pEdit, const QString& strPattern);
+
+} // namespace LocalConfig
