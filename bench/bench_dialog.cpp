@@ -8,8 +8,15 @@
 
 #include "ui_CBasicConfig.h"
 #include "ui_CLocalConfig.h"
+#include "ui_CPlaybackConfig.h"
+#include "ui_CSplitWndNumConfig.h"
+#include "ui_CTvWallConfig.h"
+#include "ui_CVideoConfig.h"
 
 #include <LocalConfig/CLocalConfig.h>
+#include <LocalConfig/interfaces/IPlaybackSection.h>
+#include <LocalConfig/interfaces/ITvWallSection.h>
+#include <LocalConfig/interfaces/IVideoSection.h>
 #include <UICommonModule/Pxa.h>
 
 #include <QApplication>
@@ -38,7 +45,14 @@ void BM_DialogInitAndFirstShow(benchmark::State& state)
         QPixmapCache::clear();
         SFakeHost host;
         CFakeBasicSection basic(host.journal);
-        host.localConfig.m_mapSections.insert(LocalConfigLogical::SectionBasic, &basic);
+        CFakeSection<LocalConfigLogical::IVideoSection, LocalConfigLogical::VideoConfigInfo> video(host.journal);
+        CFakeSection<LocalConfigLogical::IPlaybackSection, LocalConfigLogical::PlaybackConfigInfo> playback(
+            host.journal);
+        CFakeSection<LocalConfigLogical::ITvWallSection, LocalConfigLogical::TvWallConfigInfo> wall(host.journal);
+        host.localConfig.m_mapSections = {{LocalConfigLogical::SectionBasic, &basic},
+                                          {LocalConfigLogical::SectionVideo, &video},
+                                          {LocalConfigLogical::SectionPlayback, &playback},
+                                          {LocalConfigLogical::SectionTvWall, &wall}};
         auto pDialog = std::make_unique<LocalConfig::CLocalConfig>(nullptr);
         state.ResumeTiming();
 
@@ -46,7 +60,7 @@ void BM_DialogInitAndFirstShow(benchmark::State& state)
         PaintOnce(*pDialog);
 
         state.PauseTiming();
-        bShown = bShown && pDialog->findChild<QWidget*>("m_pBasic")->isVisible();
+        bShown = bShown && pDialog->findChild<QWidget*>("m_pTvWall")->isVisible();
         pDialog->hide();
         pDialog->UnInitUI();
         pDialog.reset();
@@ -54,8 +68,17 @@ void BM_DialogInitAndFirstShow(benchmark::State& state)
     }
     if (!bShown)
     {
-        state.SkipWithError("the Basic page was not shown");
+        state.SkipWithError("a page was not shown");
     }
+}
+
+template <class Form>
+void BuildBare(QWidget* pBox)
+{
+    auto* pPage = new QWidget(pBox);
+    Form form;
+    form.setupUi(pPage);
+    pBox->layout()->addWidget(pPage);
 }
 
 /// The frame is there before the clock starts, as with the dialog: only what Init and the first show do is compared.
@@ -74,10 +97,14 @@ void BM_BareFormsFirstShow(benchmark::State& state)
         shell.setupUi(pDialog->GetCentralWidget());
         state.ResumeTiming();
 
-        auto* pPage = new QWidget(shell.m_gBBasic);
-        Ui::CBasicConfig basic;
-        basic.setupUi(pPage);
-        shell.horizontalLayout_2->addWidget(pPage);
+        BuildBare<Ui::CBasicConfig>(shell.m_gBBasic);
+        BuildBare<Ui::CVideoConfig>(shell.m_gBVideo);
+        BuildBare<Ui::CPlaybackConfig>(shell.m_gBPlayback);
+        BuildBare<Ui::CTvWallConfig>(shell.m_gBTvwall);
+        auto* pPicker = new QWidget(shell.m_gBVideo);
+        pPicker->hide();
+        Ui::CSplitWndNumConfig picker;
+        picker.setupUi(pPicker);
         PaintOnce(*pDialog);
 
         state.PauseTiming();

@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTcpServer>
@@ -74,6 +75,8 @@ private slots:
     void TheTimeZoneIsShownWhenAskedFor();
 
     void EditSaveRestart();
+    void PlaybackAndWallOutliveARestart();
+    void ARefusedPageKeepsTheDialogOpenAndCancelDropsTheRest();
     void CancelKeepsWhatIsStored();
     void ASecondClientIsToldOnSaving();
     void TheDialogLocksAndUnlocksWithTheConnection();
@@ -220,6 +223,64 @@ void tst_MainWindow::EditSaveRestart()
         QVERIFY(Find<KVGUI::KvCheckBox>(dialog, "autologinChkBox")->isChecked());
         QCOMPARE(Find<QComboBox>(dialog, "screenRatioCmbBox")->currentText(), QString("1280*1024"));
     });
+}
+
+void tst_MainWindow::PlaybackAndWallOutliveARestart()
+{
+    {
+        ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+        UserManager users({}, nullptr);
+        MainWindow window(service, users);
+        window.show();
+        InDialog(window, [](QDialog& dialog) {
+            QTest::keyClick(Find<QComboBox>(dialog, "devStreamCmbBox"), Qt::Key_Down);
+            QTest::keyClick(Find<QComboBox>(dialog, "cmbDefaultStreamType"), Qt::Key_End);
+            auto* pStay = Find<QLineEdit>(dialog, "lineeditStayTime");
+            pStay->selectAll();
+            QTest::keyClicks(pStay, "25");
+            auto* pTile = Find<QAbstractButton>(dialog, "rdBtnTile");
+            QTest::mouseClick(pTile, Qt::LeftButton, {}, QPoint(8, pTile->height() / 2));
+            Click(dialog, "btnOk");
+            QVERIFY(!dialog.isVisible());
+        });
+    }
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    UserManager users({}, nullptr);
+    MainWindow window(service, users);
+    window.show();
+    InDialog(window, [](QDialog& dialog) {
+        QCOMPARE(Find<QComboBox>(dialog, "devStreamCmbBox")->currentText(), QString("Main Stream"));
+        QCOMPARE(Find<QComboBox>(dialog, "cmbDefaultStreamType")->currentText(), QString("Local Signal"));
+        QCOMPARE(Find<QLineEdit>(dialog, "lineeditStayTime")->text(), QString("25"));
+        QVERIFY(Find<QAbstractButton>(dialog, "rdBtnTile")->isChecked());
+    });
+}
+
+void tst_MainWindow::ARefusedPageKeepsTheDialogOpenAndCancelDropsTheRest()
+{
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    UserManager users({}, nullptr);
+    MainWindow window(service, users);
+    window.show();
+    QSignalSpy spy(KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance(),
+                   &KVGUI::KvMessageNotify::SignalTextNotificationAdded);
+    InDialog(window, [](QDialog& dialog) {
+        auto* pLogin = Find<KVGUI::KvCheckBox>(dialog, "autologinChkBox");
+        QTest::mouseClick(pLogin, Qt::LeftButton, {}, QPoint(8, pLogin->height() / 2));
+        auto* pStay = Find<QLineEdit>(dialog, "lineeditStayTime");
+        pStay->selectAll();
+        QTest::keyClicks(pStay, "14");
+        Click(dialog, "btnOk");
+        QVERIFY(dialog.isVisible());
+        QVERIFY(pLogin->isChecked());
+        QCOMPARE(pStay->text(), QString("15"));
+        Click(dialog, "btnCancel");
+    });
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(spy.first().first().toString(), QString("Failed to save configuration, some values are illegal."));
+    QVERIFY(!service.GetStored().basic.autoLogin);
+    QCOMPARE(service.SaveAll(), 1);
+    QVERIFY2(!service.GetStored().basic.autoLogin, "the cancelled value does not come back");
 }
 
 void tst_MainWindow::CancelKeepsWhatIsStored()

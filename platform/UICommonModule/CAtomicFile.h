@@ -15,8 +15,9 @@ public:
     /// Replaces a file, or makes a new one: temporary file in the same folder, flush to the disk, rename over the old
     /// file, flush of the folder. An existing file keeps its permissions; a symbolic link keeps pointing at it.
     /// After a failure the old file is as it was and no temporary file is left; only where the very last step fails,
-    /// the flush of the folder, the new file stands there already. \return CErrorCode::Success, or DiskFull,
-    /// NoPermission, FolderMissing, IoError
+    /// the flush of the folder, the new file stands there already.
+    ///
+    /// \return CErrorCode::Success, or DiskFull, NoPermission, FolderMissing, IoError
     static int Write(const QString& strFile, const QByteArray& content);
 
     /// Reads a regular file; anything else (a folder, a device, a pipe) is not opened.
