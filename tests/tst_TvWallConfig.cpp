@@ -159,22 +159,15 @@ void tst_TvWallConfig::ToolTips()
 
 void tst_TvWallConfig::StayTimePattern()
 {
-    for (int n = 0; n <= 100000; ++n)
-    {
+    CheckEveryNumber(Stay(), [](int n) {
         const auto digit = [n](int nUnit) { return (n / nUnit) % 10; };
         const bool bSixty =
             n >= 60000 && n <= 69999 && digit(1000) <= 5 && digit(100) <= 5 && digit(10) <= 3 && digit(1) <= 5;
-        const bool bAcceptable = (n >= 16 && n <= 19) || (n >= 100 && n <= 59999) || bSixty;
-        const QValidator::State eState = Validate(Stay(), QString::number(n));
-        QVERIFY2((eState == QValidator::Acceptable) == bAcceptable, qPrintable(QString::number(n)));
-        if (n == 15 || (n >= 20 && n <= 99))
-        {
-            QCOMPARE(eState, QValidator::Intermediate);
-        }
-        if (n == 0 || n >= 70000)
-        {
-            QCOMPARE(eState, QValidator::Invalid);
-        }
+        return (n >= 16 && n <= 19) || (n >= 100 && n <= 59999) || bSixty;
+    });
+    for (const char* pszText : {"15", "20", "99"}) // no numbers of their own, but beginnings of others
+    {
+        QCOMPARE(Validate(Stay(), pszText), QValidator::Intermediate);
     }
     QCOMPARE(Validate(Stay(), "60006"), QValidator::Invalid);
     QCOMPARE(Validate(Stay(), "65536"), QValidator::Invalid);
