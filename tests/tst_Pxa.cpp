@@ -346,10 +346,13 @@ void tst_Pxa::ToolTipGoesWhenTheTextFits()
 void tst_Pxa::AnotherToolTipStays()
 {
     QLabel label("Text");
-    label.setToolTip("Something else");
-    label.resize(600, 20);
-    Pxa::QCommon::AddToolTipByControlWidth(&label);
-    QCOMPARE(label.toolTip(), QString("Something else"));
+    for (const char* pszToolTip : {"Something else", "Text"})
+    {
+        label.setToolTip(pszToolTip);
+        label.resize(600, 20);
+        Pxa::QCommon::AddToolTipByControlWidth(&label);
+        QCOMPARE(label.toolTip(), QString(pszToolTip));
+    }
 }
 
 void tst_Pxa::MnemonicsAreLeftOut()

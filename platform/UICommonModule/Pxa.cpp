@@ -154,16 +154,22 @@ void QCommon::AddToolTipByControlWidth(QWidget* pControl)
         bTooWide = pBox->fontMetrics().horizontalAdvance(strText) > pBox->contentsRect().width();
     }
 
-    // The text may have changed since; the tip that was given then is known by the property.
+    // Only a tip that was given here is taken away again, whatever the text has become since; an owner's stays.
     const QString strGiven = pControl->property(g_szGivenToolTip).toString();
     if (bTooWide && !strText.isEmpty())
     {
-        pControl->setToolTip(strText);
-        pControl->setProperty(g_szGivenToolTip, strText);
+        if (pControl->toolTip() != strText)
+        {
+            pControl->setToolTip(strText);
+            pControl->setProperty(g_szGivenToolTip, strText);
+        }
     }
-    else if (!pControl->toolTip().isEmpty() && (pControl->toolTip() == strText || pControl->toolTip() == strGiven))
+    else if (!strGiven.isEmpty())
     {
-        pControl->setToolTip(QString());
+        if (pControl->toolTip() == strGiven)
+        {
+            pControl->setToolTip(QString());
+        }
         pControl->setProperty(g_szGivenToolTip, QVariant());
     }
 }

@@ -29,7 +29,7 @@ class UICOMMONMODULE_EXPORT QCommon
 {
 public:
     /// Gives a control (button, label, edit, combo or group box) its own text as tool tip when the text is wider than
-    /// the control, and takes such a tool tip away when it is not.
+    /// the control, and takes that tool tip away again once it is not.
     static void AddToolTipByControlWidth(QWidget* pControl);
 };
 
