@@ -26,6 +26,7 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -103,7 +104,12 @@ bool Client::NeedsDisplay(CommandLine::Action eAction)
 
 void Client::Complain(const QString& strText)
 {
-    std::fprintf(stderr, "local-config-client: %s\n", qUtf8Printable(strText));
+    // A path may hold line feeds and worse, the complaint stays one line all the same.
+    QString strLine = strText;
+    std::replace_if(
+        strLine.begin(), strLine.end(), [](QChar ch) { return ch.category() == QChar::Other_Control; },
+        QLatin1Char(' '));
+    std::fprintf(stderr, "local-config-client: %s\n", qUtf8Printable(strLine));
 }
 
 bool Client::EnterDataFolder()
@@ -119,20 +125,24 @@ bool Client::EnterDataFolder()
         Complain(Tr(QT_TRANSLATE_NOOP("Client", "The data folder '%1' is no folder.")).arg(strFolder));
         return false;
     }
-    if (m_commandLine.eAction == CommandLine::Dump || m_commandLine.eAction == CommandLine::Export)
+    if (!QFileInfo::exists(strFolder))
     {
-        // Looking makes no folder. The user's own one may be missing, a folder that was named should be there.
-        if (bNamed && !QFileInfo::exists(strFolder))
+        const bool bLooking =
+            m_commandLine.eAction == CommandLine::Dump || m_commandLine.eAction == CommandLine::Export;
+        if (bLooking && bNamed)
         {
+            // The user's own folder may be missing, one that was named should be there.
             Complain(Tr(QT_TRANSLATE_NOOP("Client", "The data folder '%1' does not exist.")).arg(strFolder));
             return false;
         }
-        return true;
-    }
-    if (!QDir().mkpath(strFolder))
-    {
-        Complain(Tr(QT_TRANSLATE_NOOP("Client", "The data folder '%1' cannot be made.")).arg(strFolder));
-        return false;
+        if (bLooking || m_commandLine.eAction == CommandLine::Import)
+        {
+            return true; // looking makes no folder, nor does an import before its file has proved good
+        }
+        if (!MakeDataFolder())
+        {
+            return false;
+        }
     }
     if (!QDir::setCurrent(strFolder))
     {
@@ -140,6 +150,27 @@ bool Client::EnterDataFolder()
         return false;
     }
     return true;
+}
+
+bool Client::MakeDataFolder() const
+{
+    const bool bMade = QDir().mkpath(m_commandLine.strDataFolder);
+    if (!bMade)
+    {
+        Complain(
+            Tr(QT_TRANSLATE_NOOP("Client", "The data folder '%1' cannot be made.")).arg(m_commandLine.strDataFolder));
+    }
+    return bMade;
+}
+
+bool Client::MayWriteFile(const ConfigService& service) const
+{
+    const bool bOwn = service.IsOwnFile(m_commandLine.strFile);
+    if (bOwn)
+    {
+        Complain(Tr(QT_TRANSLATE_NOOP("Client", "'%1' is the client's own file.")).arg(m_commandLine.strFile));
+    }
+    return !bOwn;
 }
 
 // --- Without a display
@@ -167,6 +198,10 @@ int Client::RunWithoutDisplay()
             Complain(Tr(QT_TRANSLATE_NOOP("Client", "Cannot import '%1': %2")).arg(m_commandLine.strFile, strError));
             return g_nExitFailed;
         }
+        if (!MakeDataFolder())
+        {
+            return g_nExitFailed;
+        }
         ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadWrite);
         const int nResult = service.Import(content, &strError);
         if (nResult == CErrorCode::Success)
@@ -190,9 +225,8 @@ int Client::RunWithoutDisplay()
                                        : Fail(QT_TRANSLATE_NOOP("Client", "Cannot write '%1'"),
                                               QStringLiteral("stdout"), CErrorCode::IoError);
     }
-    if (service.IsOwnFile(m_commandLine.strFile))
+    if (!MayWriteFile(service))
     {
-        Complain(Tr(QT_TRANSLATE_NOOP("Client", "'%1' is the client's own file.")).arg(m_commandLine.strFile));
         return g_nExitFailed;
     }
     const int nWritten = CAtomicFile::Write(m_commandLine.strFile, service.Export());
@@ -292,6 +326,10 @@ int Client::OpenWindow()
 int Client::TakeScreenshot()
 {
     ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadOnly);
+    if (!MayWriteFile(service))
+    {
+        return g_nExitFailed;
+    }
     ComplainAbout(service);
     const std::unique_ptr<LoginManager> pLoginManager = MakeLoginManager(m_commandLine);
     UserManager userManager(m_commandLine.setMissingRights + service.GetMissingRights(), pLoginManager.get());

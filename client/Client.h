@@ -7,6 +7,8 @@ class QApplication;
 namespace LocalConfigClient
 {
 
+class ConfigService;
+
 /// The client as a program: carries out a command line that has been understood.
 class Client
 {
@@ -29,6 +31,8 @@ public:
 
 private:
     bool EnterDataFolder();
+    bool MakeDataFolder() const;
+    bool MayWriteFile(const ConfigService& service) const;
     void SettleSkinAndLanguage() const;
     static void InstallTranslators();
     static void ApplyLook(QApplication& application);

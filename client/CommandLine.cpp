@@ -2,6 +2,8 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QHostAddress>
+#include <QUrl>
 
 #include <limits>
 
@@ -78,17 +80,16 @@ bool ParseServer(const QString& strText, QString& strHost, quint16& nPort)
     {
         return false;
     }
+    nPort = static_cast<quint16>(nNumber);
     strHost = strText.left(nColon);
     if (strHost.startsWith(QLatin1Char('[')) && strHost.endsWith(QLatin1Char(']')))
     {
         strHost = strHost.mid(1, strHost.size() - 2);
+        return QHostAddress(strHost).protocol() == QAbstractSocket::IPv6Protocol;
     }
-    else if (strHost.contains(QLatin1Char(':')))
-    {
-        return false; // an IPv6 address needs its brackets
-    }
-    nPort = static_cast<quint16>(nNumber);
-    return !strHost.isEmpty();
+    QUrl url;
+    url.setHost(strHost, QUrl::StrictMode);
+    return !url.host().isEmpty() && !strHost.contains(QLatin1Char(':')); // an IPv6 address needs its brackets
 }
 
 } // namespace

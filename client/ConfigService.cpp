@@ -20,7 +20,9 @@ namespace
 
 constexpr char g_szDocument[] = "settings.json";
 constexpr char g_szLastGood[] = "settings.json.bak";
+constexpr char g_szDamaged[] = "settings.json.damaged-";
 constexpr char g_szLock[] = "settings.lock";
+constexpr char g_szIniFile[] = "Localcfg.ini"; // written by the pages
 
 QString Tr(const char* pszText)
 {
@@ -148,17 +150,23 @@ void ConfigService::Revert()
 
 bool ConfigService::IsOwnFile(const QString& strPath) const
 {
+    // Links are followed, those of the folder even when the file is yet to be made.
     const QFileInfo file(strPath);
-    for (const char* pszName : {g_szDocument, g_szLastGood, g_szLock})
+    const QFileInfo target(file.exists() ? file.canonicalFilePath()
+                                         : QDir(file.dir().canonicalPath()).filePath(file.fileName()));
+    if (target.path() != QDir(m_strFolder).canonicalPath())
     {
-        const QFileInfo own(GetPath(pszName));
-        const bool bSameFile = own.exists() && own.canonicalFilePath() == file.canonicalFilePath();
-        if (bSameFile || own.absoluteFilePath() == file.absoluteFilePath())
+        return false;
+    }
+    const QString strName = target.fileName();
+    for (const char* pszName : {g_szDocument, g_szLastGood, g_szLock, g_szIniFile})
+    {
+        if (strName.compare(QLatin1String(pszName), Qt::CaseInsensitive) == 0)
         {
             return true;
         }
     }
-    return false;
+    return strName.startsWith(QLatin1String(g_szDamaged), Qt::CaseInsensitive);
 }
 
 bool ConfigService::LoadLastGood()
@@ -172,7 +180,7 @@ bool ConfigService::LoadLastGood()
 bool ConfigService::SetAside()
 {
     const QString strStamp = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-hhmmss"));
-    const QString strBase = QStringLiteral("%1.damaged-%2").arg(GetPath(g_szDocument), strStamp);
+    const QString strBase = GetPath(g_szDamaged) + strStamp;
     QString strTarget = strBase;
     for (int n = 2; QFileInfo::exists(strTarget); ++n)
     {

@@ -43,7 +43,7 @@ public:
     /// Whether the records are those of the document, and not only stand in for one that cannot be read.
     bool IsReadable() const { return m_eState == Usable; }
 
-    /// Whether a file is one that this service keeps.
+    /// Whether a file is one that the client keeps in the data folder, and so no place for anything else.
     bool IsOwnFile(const QString& strPath) const;
 
     /// Drops what the sections have taken but nobody has saved.

@@ -99,7 +99,13 @@ private slots:
     void ImportOfADamagedDocumentLosesNothing();
     void ADocumentThatCannotBeReadIsNotExported_data();
     void ADocumentThatCannotBeReadIsNotExported();
+#ifndef Q_OS_WIN // there links need a right of their own
+    void AnOwnFileIsKnownBehindALink();
+#endif
+    void AMissingFolderIsNotMade_data();
     void AMissingFolderIsNotMade();
+    void AnImportMakesTheFolder();
+    void MessagesAreInTheLanguageOfTheIniFile();
     void ADumpThatCannotBePrintedFails();
     void RightsOfTheDocument();
     void AReadOnlyFolderLosesNothing();
@@ -112,7 +118,10 @@ private:
     {
         return Run(listArguments << "--data-dir" << m_pFolder->path(), m_environment);
     }
-    QString Path(const QString& strName) const { return m_pFolder->filePath(strName); }
+    QString Path(const QString& strName) const
+    {
+        return m_pFolder->filePath(strName);
+    }
     void Put(const QString& strPath, const QByteArray& content) const
     {
         QFile file(strPath);
@@ -266,6 +275,12 @@ void tst_Client::BadInput_data()
     QTest::newRow("import of a folder") << QStringList{"--import", "/tmp"} << 1;
     QTest::newRow("import of a device") << QStringList{"--import", "/dev/zero"} << 1;
     QTest::newRow("export over its own document") << QStringList{"--export", "settings.json"} << 1;
+    QTest::newRow("export over its lock") << QStringList{"--export", "settings.lock"} << 1;
+    QTest::newRow("export over what was set aside") << QStringList{"--export", "settings.json.damaged-1"} << 1;
+    QTest::newRow("export over its ini file") << QStringList{"--export", "Localcfg.ini"} << 1;
+    QTest::newRow("screenshot over its own document") << QStringList{"--screenshot", "settings.json"} << 1;
+    QTest::newRow("import of a name with a line feed") << QStringList{"--import", "no\nfile"} << 1;
+    QTest::newRow("export to a name with a line feed") << QStringList{"--export", "no\nfolder/file"} << 1;
     QTest::newRow("export to nowhere") << QStringList{"--export", "/no/such/folder/file"} << 1;
     QTest::newRow("screenshot to nowhere") << QStringList{"--screenshot", "/no/such/folder/file.png"} << 1;
 }
@@ -338,12 +353,62 @@ void tst_Client::ADocumentThatCannotBeReadIsNotExported()
     QCOMPARE(Snapshot(m_pOther->path()).value("out.json"), QByteArray("an older export"));
 }
 
+#ifndef Q_OS_WIN
+
+void tst_Client::AnOwnFileIsKnownBehindALink()
+{
+    Put(Path("settings.json"), Document(ChangedSettings()));
+    QVERIFY(QFile::link(m_pFolder->path(), m_pOther->filePath("folder")));
+    QVERIFY(QFile::link(Path("settings.json"), m_pOther->filePath("file.json")));
+    const QMap<QString, QByteArray> mapBefore = Snapshot(m_pFolder->path());
+    for (const char* pszName : {"folder/settings.json", "folder/settings.json.bak", "file.json"})
+    {
+        const SRun run = Client({"--export", m_pOther->filePath(pszName)});
+        QCOMPARE(run.nExitCode, 1);
+        QCOMPARE(run.listErrors.size(), 1);
+        QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
+    }
+    QCOMPARE(Client({"--export", Path("copy.json")}).nExitCode, 0);
+}
+
+#endif
+
+void tst_Client::AMissingFolderIsNotMade_data()
+{
+    QTest::addColumn<QStringList>("listAction");
+    QTest::newRow("dump") << QStringList{"--dump"};
+    QTest::newRow("export") << QStringList{"--export", "out.json"};
+    QTest::newRow("import of nothing") << QStringList{"--import", "/no/such/file"};
+}
+
 void tst_Client::AMissingFolderIsNotMade()
 {
-    const SRun run = Run({"--dump", "--data-dir", Path("mistyped")}, m_environment);
+    QFETCH(QStringList, listAction);
+    const SRun run = Run(listAction << "--data-dir" << Path("mistyped"), m_environment, m_pOther->path());
     QCOMPARE(run.nExitCode, 1);
     QCOMPARE(run.listErrors.size(), 1);
     QVERIFY(!QFile::exists(Path("mistyped")));
+}
+
+void tst_Client::AnImportMakesTheFolder()
+{
+    Put(m_pOther->filePath("in.json"), Document(ChangedSettings()));
+    const QStringList listFolder{"--data-dir", Path("new/folder")};
+    const SRun run = Run(QStringList{"--import", m_pOther->filePath("in.json")} + listFolder, m_environment);
+    QCOMPARE(run.listErrors, QStringList());
+    QCOMPARE(run.nExitCode, 0);
+    QCOMPARE(Run(QStringList{"--dump"} + listFolder, m_environment).output, Document(ChangedSettings()));
+}
+
+void tst_Client::MessagesAreInTheLanguageOfTheIniFile()
+{
+    const QStringList listBad{"--export", "/no/such/folder/file"};
+    const QStringList listEnglish = Client(listBad).listErrors;
+    Put(Path("Localcfg.ini"), "[Language]\ntype=1\n");
+    const QStringList listChinese = Client(listBad).listErrors;
+    QVERIFY2(listEnglish.value(0).contains("the folder does not exist"), qPrintable(listEnglish.value(0)));
+    QCOMPARE(listChinese.size(), 1);
+    QVERIFY(listChinese != listEnglish);
 }
 
 void tst_Client::ADumpThatCannotBePrintedFails()

@@ -85,8 +85,10 @@ void tst_CommandLine::Servers_data()
                           << "127.0.0.1" << 65535;
     QTest::newRow("IPv6") << "[::1]:9000"
                           << "::1" << 9000;
+    QTest::newRow("name with punctuation") << "cam_srv-1.example:1"
+                                           << "cam_srv-1.example" << 1;
     for (const char* pszBad : {"server", "server:", ":80", "server:0", "server:65536", "server:http", "::1:80", "[]:80",
-                               "server:-1", "server: 80x"})
+                               "server:-1", "server: 80x", "a b:80", "]:80", "[]]:80", "[server]:80", "[::1:80"})
     {
         QTest::newRow(pszBad) << pszBad << QString() << 0;
     }

@@ -48,6 +48,55 @@ QJsonObject FromBytes(const QByteArray& content)
     return QJsonDocument::fromJson(content).object();
 }
 
+/// Stands for a value of any type where an aggregate is initialised.
+struct SAnyValue
+{
+    template <class Value>
+    operator Value&() const;
+};
+
+#ifdef __GNUC__
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wmissing-field-initializers" // leaving fields out is the point
+#endif
+template <class Record, class... Values>
+constexpr auto TakesValues(int) -> decltype(Record{std::declval<Values>()...}, true)
+{
+    return true;
+}
+#ifdef __GNUC__
+#pragma GCC diagnostic pop
+#endif
+template <class Record, class... Values>
+constexpr bool TakesValues(long)
+{
+    return false;
+}
+
+/// How many fields the compiler sees in a record.
+template <class Record, class... Values>
+constexpr int CountFields()
+{
+    if constexpr (TakesValues<Record, Values..., SAnyValue>(0))
+    {
+        return CountFields<Record, Values..., SAnyValue>();
+    }
+    else
+    {
+        return sizeof...(Values);
+    }
+}
+
+/// How many of them are listed.
+template <class Record>
+int CountListed()
+{
+    int nFields = 0;
+    Record record;
+    VisitFields(record, [&nFields](const char* /*pszName*/, const auto& /*field*/) { ++nFields; });
+    return nFields;
+}
+
 QByteArray ChangedDocument()
 {
     SettingsDocument document;
@@ -65,6 +114,7 @@ private slots:
     void DefaultsRoundTrip();
     void EveryFieldRoundTrips();
     void EveryFieldCounts();
+    void EveryFieldIsListed();
     void TheSameSettingsGiveTheSameBytes();
     void NamesOfTheDocument();
     void AMissingKeyStandsForTheDefault();
@@ -111,6 +161,24 @@ void tst_SettingsDocument::EveryFieldCounts()
     {
         QVERIFY2(mapChanged.value(it.key(), *it) != *it, qPrintable(it.key()));
     }
+}
+
+void tst_SettingsDocument::EveryFieldIsListed()
+{
+    using namespace LocalConfigLogical;
+#define COMPARE_FIELDS(Record) QCOMPARE(CountListed<Record>(), CountFields<Record>())
+    COMPARE_FIELDS(Settings);
+    COMPARE_FIELDS(BasicConfigInfo);
+    COMPARE_FIELDS(VideoConfigInfo);
+    COMPARE_FIELDS(PlaybackConfigInfo);
+    COMPARE_FIELDS(SnapshotConfigInfo);
+    COMPARE_FIELDS(RecordConfigInfo);
+    COMPARE_FIELDS(AlarmConfigInfo);
+    COMPARE_FIELDS(AlarmSoundInfo);
+    COMPARE_FIELDS(ShortcutKeyConfigInfo);
+    COMPARE_FIELDS(TvWallConfigInfo);
+    COMPARE_FIELDS(SecurityConfigInfo);
+#undef COMPARE_FIELDS
 }
 
 void tst_SettingsDocument::TheSameSettingsGiveTheSameBytes()
