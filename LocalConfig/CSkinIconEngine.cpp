@@ -26,7 +26,7 @@ QPixmap CSkinIconEngine::pixmap(const QSize& size, QIcon::Mode eMode, QIcon::Sta
     if (!QPixmapCache::find(strKey, &pixmap))
     {
         QImageReader reader(strPath);
-        reader.setScaledSize(reader.size().scaled(size, Qt::KeepAspectRatio));
+        reader.setScaledSize(size); // asking for the file's own size would read it twice
         pixmap = QPixmap::fromImageReader(&reader);
         if (!pixmap.isNull())
         {

@@ -24,8 +24,8 @@ CPlaybackConfig::CPlaybackConfig(QWidget* pParent)
     : QWidget(pParent)
     , m_pUi(std::make_unique<Ui::CPlaybackConfig>())
 {
+    setWindowFlags(Qt::Tool); // before there are children that would be styled anew
     m_pUi->setupUi(this);
-    setWindowFlags(Qt::Tool);
     installEventFilter(this);
     InitControls();
     setWindowFlags({});

@@ -45,8 +45,8 @@ CTvWallConfig::CTvWallConfig(QWidget* pParent)
     : QWidget(pParent)
     , m_pUi(std::make_unique<Ui::CTvWallConfig>())
 {
+    setWindowFlags(Qt::Tool); // before there are children that would be styled anew
     m_pUi->setupUi(this);
-    setWindowFlags(Qt::Tool);
     InitControls();
     setWindowFlags({});
 }
