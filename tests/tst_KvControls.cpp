@@ -9,6 +9,7 @@
 #include <KvGui/KvTableView.h>
 #include <KvGui/KvVerScrollBar.h>
 
+#include <QAbstractItemView>
 #include <QDir>
 #include <QHeaderView>
 #include <QStandardItemModel>
@@ -55,6 +56,8 @@ private slots:
     void StyleSheetsReachEachClass_data();
     void StyleSheetsReachEachClass();
     void TextConstructors();
+    void ComboBoxesBuildNoListBeforeTheyAreShown();
+    void ComboBoxesFollowAStyleThatChangesLater();
     void ScrollBarsHaveTheirDirection();
     void TablesTakeColumnWidthsFromTheHeader();
     void TablesFollowLaterWidths();
@@ -89,6 +92,34 @@ void tst_KvControls::TextConstructors()
     QCOMPARE(KvCheckBox("One").text(), QString("One"));
     QCOMPARE(KvRadioButton("Two").text(), QString("Two"));
     QCOMPARE(KvPushButton("Three").text(), QString("Three"));
+}
+
+void tst_KvControls::ComboBoxesBuildNoListBeforeTheyAreShown()
+{
+    QWidget window;
+    window.setStyleSheet("KVGUI--KvComboBox { font-size: 13px; }");
+    auto* pPage = new QWidget(&window, Qt::Tool);
+    KvComboBox combo(pPage);
+    combo.addItem("text");
+
+    pPage->setWindowFlags({}); // tells the page's children of a style change
+
+    QVERIFY(combo.findChildren<QAbstractItemView*>().isEmpty());
+    QVERIFY(combo.view());
+}
+
+void tst_KvControls::ComboBoxesFollowAStyleThatChangesLater()
+{
+    QWidget window;
+    window.setStyleSheet("KVGUI--KvComboBox { font-size: 13px; }");
+    KvComboBox combo(&window);
+    combo.addItem("a text of some length");
+    window.show();
+    const int nWidth = combo.sizeHint().width();
+
+    window.setStyleSheet("KVGUI--KvComboBox { font-size: 26px; }");
+
+    QVERIFY(combo.sizeHint().width() > nWidth);
 }
 
 void tst_KvControls::ScrollBarsHaveTheirDirection()

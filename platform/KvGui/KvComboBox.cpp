@@ -1,6 +1,6 @@
 #include "KvComboBox.h"
 
-#include <QStyledItemDelegate>
+#include <QEvent>
 
 namespace KVGUI
 {
@@ -8,5 +8,16 @@ namespace KVGUI
 KvComboBox::KvComboBox(QWidget* pParent)
     : QComboBox(pParent)
 {}
+
+void KvComboBox::changeEvent(QEvent* pEvent)
+{
+    // The base would build the list that opens, for a box that has not even been shown and gets its style then.
+    if (pEvent->type() == QEvent::StyleChange && !testAttribute(Qt::WA_WState_Polished))
+    {
+        QWidget::changeEvent(pEvent);
+        return;
+    }
+    QComboBox::changeEvent(pEvent);
+}
 
 } // namespace KVGUI

@@ -14,6 +14,9 @@ class KVGUI_EXPORT KvComboBox : public QComboBox
 
 public:
     explicit KvComboBox(QWidget* pParent = nullptr);
+
+protected:
+    void changeEvent(QEvent* pEvent) override;
 };
 
 } // namespace KVGUI
