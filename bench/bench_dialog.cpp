@@ -7,14 +7,22 @@
 #include "support/FakeSections.h"
 
 #include "ui_CBasicConfig.h"
+#include "ui_CCaptureConfig.h"
 #include "ui_CLocalConfig.h"
 #include "ui_CPlaybackConfig.h"
+#include "ui_CRecordConfig.h"
+#include "ui_CSecurityConfig.h"
+#include "ui_CShortcutKeyConfig.h"
 #include "ui_CSplitWndNumConfig.h"
 #include "ui_CTvWallConfig.h"
 #include "ui_CVideoConfig.h"
 
 #include <LocalConfig/CLocalConfig.h>
 #include <LocalConfig/interfaces/IPlaybackSection.h>
+#include <LocalConfig/interfaces/IRecordSection.h>
+#include <LocalConfig/interfaces/ISecuritySection.h>
+#include <LocalConfig/interfaces/IShortcutKeySection.h>
+#include <LocalConfig/interfaces/ISnapshotSection.h>
 #include <LocalConfig/interfaces/ITvWallSection.h>
 #include <LocalConfig/interfaces/IVideoSection.h>
 #include <UICommonModule/Pxa.h>
@@ -26,8 +34,43 @@
 
 #include <benchmark/benchmark.h>
 
+#include <vector>
+
+using namespace LocalConfigLogical;
+
 namespace
 {
+
+/// One section for each page.
+struct SSections
+{
+    explicit SSections(CJournal& journal)
+        : basic(journal)
+        , video(journal)
+        , playback(journal)
+        , snapshot(journal)
+        , record(journal)
+        , shortcutKey(journal)
+        , tvWall(journal)
+        , security(journal)
+    {}
+
+    QMap<int, IConfigSection*> GetMap()
+    {
+        return {{SectionBasic, &basic},       {SectionVideo, &video},      {SectionPlayback, &playback},
+                {SectionSnapshot, &snapshot}, {SectionRecord, &record},    {SectionShortcutKey, &shortcutKey},
+                {SectionTvWall, &tvWall},     {SectionSecurity, &security}};
+    }
+
+    CFakeBasicSection basic;
+    CFakeSection<IVideoSection, VideoConfigInfo> video;
+    CFakeSection<IPlaybackSection, PlaybackConfigInfo> playback;
+    CFakeSection<ISnapshotSection, SnapshotConfigInfo> snapshot;
+    CFakeSection<IRecordSection, RecordConfigInfo> record;
+    CFakeSection<IShortcutKeySection, ShortcutKeyConfigInfo> shortcutKey;
+    CFakeSection<ITvWallSection, TvWallConfigInfo> tvWall;
+    CFakeSection<ISecuritySection, SecurityConfigInfo> security;
+};
 
 void PaintOnce(QWidget& dialog)
 {
@@ -44,15 +87,8 @@ void BM_DialogInitAndFirstShow(benchmark::State& state)
         state.PauseTiming();
         QPixmapCache::clear();
         SFakeHost host;
-        CFakeBasicSection basic(host.journal);
-        CFakeSection<LocalConfigLogical::IVideoSection, LocalConfigLogical::VideoConfigInfo> video(host.journal);
-        CFakeSection<LocalConfigLogical::IPlaybackSection, LocalConfigLogical::PlaybackConfigInfo> playback(
-            host.journal);
-        CFakeSection<LocalConfigLogical::ITvWallSection, LocalConfigLogical::TvWallConfigInfo> wall(host.journal);
-        host.localConfig.m_mapSections = {{LocalConfigLogical::SectionBasic, &basic},
-                                          {LocalConfigLogical::SectionVideo, &video},
-                                          {LocalConfigLogical::SectionPlayback, &playback},
-                                          {LocalConfigLogical::SectionTvWall, &wall}};
+        SSections sections(host.journal);
+        host.localConfig.m_mapSections = sections.GetMap();
         auto pDialog = std::make_unique<LocalConfig::CLocalConfig>(nullptr);
         state.ResumeTiming();
 
@@ -104,6 +140,7 @@ void BM_BareFormsFirstShow(benchmark::State& state)
 {
     const QString strDialogSheet = ReadSheet("CLocalConfig.qss");
     const QString strPickerSheet = ReadSheet("CSplitWndNumConfig.qss");
+    const QString strKeySheet = ReadSheet("CShortcutKeyConfig.qss");
     for (auto _ : state)
     {
         state.PauseTiming();
@@ -119,7 +156,11 @@ void BM_BareFormsFirstShow(benchmark::State& state)
         BuildBare<Ui::CBasicConfig>(shell.m_gBBasic);
         BuildBarePicker(BuildBare<Ui::CVideoConfig>(shell.m_gBVideo), strPickerSheet);
         BuildBare<Ui::CPlaybackConfig>(shell.m_gBPlayback);
+        BuildBare<Ui::CCaptureConfig>(shell.m_gBCapture);
+        BuildBare<Ui::CRecordConfig>(shell.m_gBRecord);
         BuildBare<Ui::CTvWallConfig>(shell.m_gBTvwall);
+        BuildBare<Ui::CSecurityConfig>(shell.m_gBSecurity);
+        BuildBare<Ui::CShortcutKeyConfig>(shell.m_gShortcutKey)->setStyleSheet(strKeySheet);
         PaintOnce(*pDialog);
 
         state.PauseTiming();
@@ -144,6 +185,17 @@ int main(int argc, char* argv[])
     {
         application.setStyleSheet(strSheet);
     }
+    // By turns and more than once, so that neither of the two meets a fresher heap than the other.
+    std::vector<char*> listArguments(argv, argv + argc);
+    char arrDefaults[][48] = {"--benchmark_enable_random_interleaving", "--benchmark_repetitions=9",
+                              "--benchmark_report_aggregates_only"};
+    for (char* pszDefault : arrDefaults)
+    {
+        listArguments.insert(listArguments.begin() + 1, pszDefault);
+    }
+    argc = int(listArguments.size());
+    listArguments.push_back(nullptr);
+    argv = listArguments.data();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
     {

@@ -1,26 +1,17 @@
+#include "support/Wheel.h"
+
 #include <LocalConfig/widgets/CCombobox.h>
 
 #include <QAbstractItemView>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 #include <QtTest>
 
 using LocalConfig::CCombobox;
 
 namespace
 {
-
-/// Turns the wheel one step down over the middle of a widget.
-void TurnWheel(QWidget* pWidget)
-{
-    const QPointF pos(pWidget->rect().center());
-    QWheelEvent event(pos, pWidget->mapToGlobal(pos.toPoint()), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&event); // events of the program's own do not travel to parents
-    qApp->notify(pWidget, &event);
-}
 
 void Fill(CCombobox& combo)
 {
@@ -64,7 +55,7 @@ void tst_Combobox::TheWheelScrollsTheAreaAround()
     QVERIFY(QTest::qWaitForWindowExposed(&area));
     combo.setFocus();
 
-    TurnWheel(&combo);
+    TurnWheel(&combo, QRectF(combo.rect()).center());
     QVERIFY(area.verticalScrollBar()->value() > 0);
     QCOMPARE(combo.currentIndex(), 1);
     area.takeWidget();
@@ -79,7 +70,7 @@ void tst_Combobox::TheWheelWithoutAScrollAreaChangesNothing()
     combo.show();
     QVERIFY(QTest::qWaitForWindowExposed(&combo));
     combo.setFocus();
-    TurnWheel(&combo);
+    TurnWheel(&combo, QRectF(combo.rect()).center());
     QCOMPARE(combo.currentIndex(), 1);
 }
 
@@ -127,7 +118,7 @@ void tst_Combobox::TheOpenPopupScrolls()
     combo.showPopup();
     QTRY_VERIFY(combo.view()->isVisible());
     QVERIFY(combo.view()->verticalScrollBar()->maximum() > 0);
-    TurnWheel(combo.view()->viewport());
+    TurnWheel(combo.view()->viewport(), QRectF(combo.view()->viewport()->rect()).center());
     QVERIFY(combo.view()->verticalScrollBar()->value() > 0);
     QCOMPARE(combo.currentIndex(), 0);
 }

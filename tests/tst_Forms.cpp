@@ -2,7 +2,11 @@
 // Tab visits them in the order in which they stand.
 
 #include <LocalConfig/pages/CBasicConfig.h>
+#include <LocalConfig/pages/CCaptureConfig.h>
 #include <LocalConfig/pages/CPlaybackConfig.h>
+#include <LocalConfig/pages/CRecordConfig.h>
+#include <LocalConfig/pages/CSecurityConfig.h>
+#include <LocalConfig/pages/CShortcutKeyConfig.h>
 #include <LocalConfig/pages/CTvWallConfig.h>
 #include <LocalConfig/pages/CVideoConfig.h>
 
@@ -46,6 +50,13 @@ const SForm g_arrForms[] = {
       "silentTimeLabel"},
      821},
     {"CPlaybackConfig", &Make<LocalConfig::CPlaybackConfig>, {"label_3"}, 148},
+    {"CCaptureConfig",
+     &Make<LocalConfig::CCaptureConfig>,
+     {"picFormatLabel", "picPathLabel", "picNameFormatLab", "picTmLabel", "picNumLabel"},
+     426},
+    {"CRecordConfig", &Make<LocalConfig::CRecordConfig>, {"recPathLabel", "label", "maxRecSizeLabel"}, 266},
+    {"CSecurityConfig", &Make<LocalConfig::CSecurityConfig>, {}, 64},
+    {"CShortcutKeyConfig", &Make<LocalConfig::CShortcutKeyConfig>, {"label"}, 770},
     {"CTvWallConfig", &Make<LocalConfig::CTvWallConfig>, {"label_2", "label_3", "streamLabel", "label"}, 370},
 };
 
@@ -140,9 +151,13 @@ void tst_Forms::TabVisitsInputsTopToBottom()
     QWidget* pFirst = nullptr;
     for (QWidget* pInput : Inputs(pPage))
     {
-        if (pInput->isVisible() && !qobject_cast<QRadioButton*>(pInput)) // arrow keys move within a group of those
+        const auto* pRadio = qobject_cast<const QRadioButton*>(pInput); // arrow keys move within a group of those
+        if (pInput->isVisible() && !pRadio)
         {
             setExpected.insert(pInput);
+        }
+        if (pInput->isVisible() && (!pRadio || pRadio->isChecked()))
+        {
             const bool bHigher = pFirst && pInput->mapTo(pPage, QPoint()).y() > pFirst->mapTo(pPage, QPoint()).y();
             pFirst = bHigher ? pFirst : pInput;
         }

@@ -89,12 +89,7 @@ void CBasicConfig::LoadConfig(bool bDefault)
     }
     m_pSection->SetAutoRunState(ReadAutoStartCommand(QCoreApplication::applicationName()) ==
                                 GetAutoStartCommand(QCoreApplication::applicationFilePath()));
-    BasicConfigInfo record;
-    if (!bDefault)
-    {
-        m_pSection->GetConfig(record);
-    }
-    Show(record);
+    Show(GetRecord(bDefault));
 }
 
 void CBasicConfig::Show(const BasicConfigInfo& record)
@@ -114,8 +109,7 @@ int CBasicConfig::SaveConfig()
     {
         return -1;
     }
-    BasicConfigInfo record;
-    m_pSection->GetConfig(record);
+    BasicConfigInfo record = GetRecord();
 
     record.skin = m_pUi->cmbSkinSet->currentIndex() != 0 ? g_nSkinWhite : g_nSkinDark;
     WriteSkinName(record.skin);

@@ -16,7 +16,8 @@ namespace LocalConfig
 {
 
 /// General client settings.
-class CBasicConfig : public QWidget, public CSectionPage<LocalConfigLogical::IBasicSection>
+class CBasicConfig : public QWidget,
+                     public CSectionPage<LocalConfigLogical::IBasicSection, LocalConfigLogical::BasicConfigInfo>
 {
     Q_OBJECT
 

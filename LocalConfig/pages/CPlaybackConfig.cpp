@@ -49,11 +49,7 @@ void CPlaybackConfig::LoadConfig(bool bDefault)
     {
         return;
     }
-    PlaybackConfigInfo record;
-    if (!bDefault)
-    {
-        m_pSection->GetConfig(record);
-    }
+    const PlaybackConfigInfo record = GetRecord(bDefault);
     m_pUi->enableLargePicAdjustment->setChecked(record.bLargePicAdjustment);
     const int nIndex = m_pUi->devStreamCmbBox->findData(record.nDevRecordStream);
     if (nIndex >= 0)
@@ -68,8 +64,7 @@ int CPlaybackConfig::SaveConfig()
     {
         return -1;
     }
-    PlaybackConfigInfo record;
-    m_pSection->GetConfig(record);
+    PlaybackConfigInfo record = GetRecord();
     record.bLargePicAdjustment = m_pUi->enableLargePicAdjustment->isChecked();
     record.nDevRecordStream = m_pUi->devStreamCmbBox->currentData().toInt();
     return m_pSection->SetConfig(record);

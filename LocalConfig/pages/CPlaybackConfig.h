@@ -16,7 +16,9 @@ namespace LocalConfig
 {
 
 /// Record playback: which recorded stream is asked for, and picture adjustment.
-class CPlaybackConfig : public QWidget, public CSectionPage<LocalConfigLogical::IPlaybackSection>
+class CPlaybackConfig
+    : public QWidget,
+      public CSectionPage<LocalConfigLogical::IPlaybackSection, LocalConfigLogical::PlaybackConfigInfo>
 {
     Q_OBJECT
 

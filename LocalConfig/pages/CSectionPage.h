@@ -7,7 +7,7 @@ namespace LocalConfig
 {
 
 /// The half of the page contract that does not depend on the page: holding its section object.
-template <class Section>
+template <class Section, class Record>
 class CSectionPage : public IConfigPage
 {
 public:
@@ -30,6 +30,17 @@ public:
     void UnInit() override { m_pSection = nullptr; }
 
 protected:
+    /// The section's current values over the built-in defaults; the defaults alone when asked for or without a section.
+    Record GetRecord(bool bDefault = false) const
+    {
+        Record record;
+        if (m_pSection && !bDefault)
+        {
+            m_pSection->GetConfig(record);
+        }
+        return record;
+    }
+
     Section* m_pSection = nullptr; ///< the host's; null before SetConfigSection and after UnInit
 };
 

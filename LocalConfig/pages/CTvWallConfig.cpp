@@ -65,7 +65,7 @@ void CTvWallConfig::InitControls()
     {
         m_pUi->cmbDefaultStreamType->addItem(tr(item.pszText), item.nData);
     }
-    SetPattern(m_pUi->lineeditStayTime, QString::fromLatin1(g_szStayTimePattern));
+    SetPattern(this, m_pUi->lineeditStayTime, QString::fromLatin1(g_szStayTimePattern));
     m_pUi->lineeditStayTime->installEventFilter(this);
     Pxa::QCommon::AddToolTipByControlWidth(m_pUi->label_5);
     Pxa::QCommon::AddToolTipByControlWidth(m_pUi->chkboxChangeStreamType);
@@ -77,11 +77,7 @@ void CTvWallConfig::LoadConfig(bool bDefault)
     {
         return;
     }
-    TvWallConfigInfo record;
-    if (!bDefault)
-    {
-        m_pSection->GetConfig(record);
-    }
+    const TvWallConfigInfo record = GetRecord(bDefault);
     SelectText(m_pUi->cmbTvWallWndSplitNum, QString::number(record.nSubStreamSplitThreshold));
     m_pUi->chkboxChangeStreamType->setChecked(record.bDblClickMainStream);
     m_pUi->cmbDefaultStreamType->setCurrentIndex(m_pUi->cmbDefaultStreamType->findData(record.nDefaultStreamType));
@@ -152,7 +148,7 @@ bool CTvWallConfig::eventFilter(QObject* pWatched, QEvent* pEvent)
     if (pWatched == pEdit && pEvent->type() == QEvent::FocusIn)
     {
         m_pUi->labelError->clear();
-        pEdit->showErrorHint(nullptr, true, QString());
+        ClearHint(pEdit);
     }
     else if (pWatched == pEdit && pEvent->type() == QEvent::FocusOut && !g_stayTime.Contains(pEdit->text().toInt()))
     {

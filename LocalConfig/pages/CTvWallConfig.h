@@ -16,7 +16,8 @@ namespace LocalConfig
 {
 
 /// Video wall: streams, tour and binding mode.
-class CTvWallConfig : public QWidget, public CSectionPage<LocalConfigLogical::ITvWallSection>
+class CTvWallConfig : public QWidget,
+                      public CSectionPage<LocalConfigLogical::ITvWallSection, LocalConfigLogical::TvWallConfigInfo>
 {
     Q_OBJECT
 

@@ -121,7 +121,7 @@ void CVideoConfig::InitControls()
     }
 
     m_pUi->videoLabel->setText(g_bufferTime.Fill(tr("%1-%2 ms")));
-    SetPattern(m_pUi->videoCushionEdit, QString::fromLatin1(g_szBufferPattern));
+    SetPattern(this, m_pUi->videoCushionEdit, QString::fromLatin1(g_szBufferPattern));
     m_pUi->videoCushionEdit->installEventFilter(this);
     for (std::size_t n = 0; n < m_arrTimeValidators.size(); ++n)
     {
@@ -148,17 +148,6 @@ QString CVideoConfig::GetPresetText(int nNumber) const
     return QStringLiteral("%1%2").arg(nNumber).arg(nNumber == g_arrPresets[0].nShown ? tr("s") : tr("Min"));
 }
 
-/// The section's current values over the defaults; the defaults without a section.
-VideoConfigInfo CVideoConfig::GetStored() const
-{
-    VideoConfigInfo record;
-    if (m_pSection)
-    {
-        m_pSection->GetConfig(record);
-    }
-    return record;
-}
-
 // --- Load
 
 void CVideoConfig::LoadConfig(bool bDefault)
@@ -167,7 +156,7 @@ void CVideoConfig::LoadConfig(bool bDefault)
     {
         return;
     }
-    const VideoConfigInfo stored = GetStored();
+    const VideoConfigInfo stored = GetRecord();
     VideoConfigInfo record;
     record.bGpuDecodeSupported = stored.bGpuDecodeSupported; // a fact about the machine, not a setting
     Show(bDefault ? record : stored);
@@ -231,7 +220,7 @@ int CVideoConfig::SaveConfig()
     {
         return -1;
     }
-    VideoConfigInfo record = GetStored();
+    VideoConfigInfo record = GetRecord();
     record.nDisplayScale = m_pUi->pCmbScale->currentData().toInt();
     const int nPlayMode = m_pUi->playmodeComboBox->currentIndex();
     if (nPlayMode >= 0)
@@ -287,7 +276,7 @@ bool CVideoConfig::SaveInstantTime(VideoConfigInfo& record) const
 
 void CVideoConfig::SetControlsEnabled(bool bEnable)
 {
-    const VideoConfigInfo record = GetStored();
+    const VideoConfigInfo record = GetRecord();
     const std::initializer_list<QWidget*> listControls = {m_pUi->playmodeComboBox, m_pUi->chkboxDblk2ChangeStream,
                                                           m_pUi->silenceChkBox, m_pUi->silenceTimeSpinBox};
     for (QWidget* pControl : listControls)
@@ -356,7 +345,7 @@ bool CVideoConfig::eventFilter(QObject* pWatched, QEvent* pEvent)
     if (pWatched == m_pUi->videoCushionEdit && pEvent->type() == QEvent::FocusOut &&
         m_pUi->videoCushionEdit->text().isEmpty())
     {
-        m_pUi->videoCushionEdit->setText(QString::number(GetStored().nVideoBufferTime));
+        m_pUi->videoCushionEdit->setText(QString::number(GetRecord().nVideoBufferTime));
     }
     else if (pEvent->type() == QEvent::Leave)
     {

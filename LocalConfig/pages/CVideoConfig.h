@@ -21,7 +21,8 @@ namespace LocalConfig
 class CSplitWndNumConfig;
 
 /// Live view: split, scale, play mode, instant playback, decoding, idle closing.
-class CVideoConfig : public QWidget, public CSectionPage<LocalConfigLogical::IVideoSection>
+class CVideoConfig : public QWidget,
+                     public CSectionPage<LocalConfigLogical::IVideoSection, LocalConfigLogical::VideoConfigInfo>
 {
     Q_OBJECT
 
@@ -54,7 +55,6 @@ private:
     void ConnectSlots();
     void Show(const LocalConfigLogical::VideoConfigInfo& record);
     void ShowInstantTime(const LocalConfigLogical::VideoConfigInfo& record);
-    LocalConfigLogical::VideoConfigInfo GetStored() const;
     QString GetPresetText(int nSeconds) const;
     void SaveBufferTime(LocalConfigLogical::VideoConfigInfo& record);
     bool SaveInstantTime(LocalConfigLogical::VideoConfigInfo& record) const;

@@ -1,7 +1,11 @@
 #include "ConfigPages.h"
 
 #include "CBasicConfig.h"
+#include "CCaptureConfig.h"
 #include "CPlaybackConfig.h"
+#include "CRecordConfig.h"
+#include "CSecurityConfig.h"
+#include "CShortcutKeyConfig.h"
 #include "CTvWallConfig.h"
 #include "CVideoConfig.h"
 
@@ -26,10 +30,10 @@ struct SPage
 };
 
 constexpr SPage g_arrPages[] = {
-    {IndexBasic, &Create<CBasicConfig>},
-    {IndexVideo, &Create<CVideoConfig>},
-    {IndexPlayback, &Create<CPlaybackConfig>},
-    {IndexTvWall, &Create<CTvWallConfig>},
+    {IndexBasic, &Create<CBasicConfig>},       {IndexVideo, &Create<CVideoConfig>},
+    {IndexPlayback, &Create<CPlaybackConfig>}, {IndexCapture, &Create<CCaptureConfig>},
+    {IndexRecord, &Create<CRecordConfig>},     {IndexTvWall, &Create<CTvWallConfig>},
+    {IndexSecurity, &Create<CSecurityConfig>}, {IndexShortcutKey, &Create<CShortcutKeyConfig>},
 };
 
 } // namespace

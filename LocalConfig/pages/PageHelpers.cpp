@@ -1,6 +1,10 @@
 #include "PageHelpers.h"
 
+#include <KvGui/KvDir.h>
+#include <KvGui/KvLineEdit.h>
+
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegExpValidator>
@@ -33,9 +37,31 @@ void PointAt(QWidget* pControl, const QString& strText)
     QToolTip::showText(pControl->mapToGlobal(QPoint(0, 0)), strText, pControl);
 }
 
-void SetPattern(QLineEdit* pEdit, const QString& strPattern)
+void SetPattern(QWidget* pPage, QLineEdit* pEdit, const QString& strPattern)
 {
-    pEdit->setValidator(new QRegExpValidator(QRegExp(strPattern), pEdit));
+    pEdit->setValidator(new QRegExpValidator(QRegExp(strPattern), pPage));
+}
+
+void ClearHint(KVGUI::KvLineEdit* pEdit)
+{
+    pEdit->showErrorHint(nullptr, true, QString());
+}
+
+QString GetDefaultFolder(const char* pszName)
+{
+    return QDir::toNativeSeparators(
+        QStringLiteral("%1/%2/").arg(KVGUI::KvDir::GetCurrentPath(), QString::fromLatin1(pszName)));
+}
+
+void ShowFolder(KVGUI::KvLineEdit* pEdit, const std::string& strStored, const QString& strDefault)
+{
+    QString strFolder = strStored.empty() ? strDefault : QString::fromStdString(strStored);
+    if (!strFolder.endsWith(QLatin1Char('/')) && !strFolder.endsWith(QLatin1Char('\\')))
+    {
+        strFolder += QLatin1Char('/');
+    }
+    ClearHint(pEdit);
+    pEdit->setText(QDir::toNativeSeparators(strFolder));
 }
 
 } // namespace LocalConfig

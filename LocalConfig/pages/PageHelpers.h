@@ -3,11 +3,17 @@
 #include <QString>
 
 #include <initializer_list>
+#include <string>
 
 class QComboBox;
 class QLabel;
 class QLineEdit;
 class QWidget;
+
+namespace KVGUI
+{
+class KvLineEdit;
+}
 
 namespace LocalConfig
 {
@@ -42,7 +48,16 @@ struct SRange
 /// Puts the focus on a control and shows a text as tool tip at its place.
 void PointAt(QWidget* pControl, const QString& strText);
 
-/// Lets a field take only what a pattern accepts, or the beginning of it.
-void SetPattern(QLineEdit* pEdit, const QString& strPattern);
+/// Lets a field take only what a pattern accepts, or the beginning of it. The page owns the validator.
+void SetPattern(QWidget* pPage, QLineEdit* pEdit, const QString& strPattern);
+
+/// Takes mark and tip from a field.
+void ClearHint(KVGUI::KvLineEdit* pEdit);
+
+/// The folder of this name in the client's own folder, with a separator at its end.
+QString GetDefaultFolder(const char* pszName);
+
+/// Shows a stored folder, or the default one where none is stored, with a separator at its end.
+void ShowFolder(KVGUI::KvLineEdit* pEdit, const std::string& strStored, const QString& strDefault);
 
 } // namespace LocalConfig

@@ -69,6 +69,41 @@
     </message>
 </context>
 <context>
+    <name>CCaptureConfig</name>
+    <message>
+        <source>Capture Config</source>
+        <translation>抓图配置</translation>
+    </message>
+    <message>
+        <source>Image Format</source>
+        <translation>图片格式</translation>
+    </message>
+    <message>
+        <source>Picture Path</source>
+        <translation>图片路径</translation>
+    </message>
+    <message>
+        <source>Picture Name</source>
+        <translation>图片命名</translation>
+    </message>
+    <message>
+        <source>Snapshot Interval</source>
+        <translation>抓图间隔</translation>
+    </message>
+    <message>
+        <source>(Not less than 1s)</source>
+        <translation>（不小于 1 秒）</translation>
+    </message>
+    <message>
+        <source>Continuous Snapshot Times</source>
+        <translation>连续抓图张数</translation>
+    </message>
+    <message>
+        <source>(2-10)</source>
+        <translation>（2-10）</translation>
+    </message>
+</context>
+<context>
     <name>CLocalConfig</name>
     <message>
         <source>Sections</source>
@@ -148,6 +183,59 @@
     <message>
         <source>Enable high definition adjustment</source>
         <translation>启用高清调节</translation>
+    </message>
+</context>
+<context>
+    <name>CRecordConfig</name>
+    <message>
+        <source>Record Config</source>
+        <translation>录像配置</translation>
+    </message>
+    <message>
+        <source>Record Path</source>
+        <translation>录像路径</translation>
+    </message>
+    <message>
+        <source>Record Name</source>
+        <translation>录像命名</translation>
+    </message>
+    <message>
+        <source>Max Size of Record</source>
+        <translation>录像文件最大值</translation>
+    </message>
+    <message>
+        <source>(100-1500M)</source>
+        <translation>（100-1500M）</translation>
+    </message>
+</context>
+<context>
+    <name>CSecurityConfig</name>
+    <message>
+        <source>CSecurityConfig</source>
+        <translation>安全配置</translation>
+    </message>
+    <message>
+        <source>Audio/Video Transmission Encryption (Takes effect after restart)</source>
+        <translation>音视频传输加密（重启后生效）</translation>
+    </message>
+</context>
+<context>
+    <name>CShortcutKeyConfig</name>
+    <message>
+        <source>List</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>Keyboard Type</source>
+        <translation>键盘类型</translation>
+    </message>
+    <message>
+        <source>PC Keyboard</source>
+        <translation>PC 键盘</translation>
+    </message>
+    <message>
+        <source>USB NKB Joystick</source>
+        <translation>USB 网络键盘摇杆</translation>
     </message>
 </context>
 <context>
@@ -320,6 +408,41 @@
     </message>
 </context>
 <context>
+    <name>LocalConfig::CCaptureConfig</name>
+    <message>
+        <source>Time_ChannelNo</source>
+        <translation>时间_通道号</translation>
+    </message>
+    <message>
+        <source>Time_ChannelName</source>
+        <translation>时间_通道名称</translation>
+    </message>
+    <message>
+        <source>ChannelNo_Time</source>
+        <translation>通道号_时间</translation>
+    </message>
+    <message>
+        <source>ChannelName_Time</source>
+        <translation>通道名称_时间</translation>
+    </message>
+    <message>
+        <source>:</source>
+        <translation>：</translation>
+    </message>
+    <message>
+        <source>The Path length of Picture should not longer than 180</source>
+        <translation>图片路径长度不能超过 180</translation>
+    </message>
+    <message>
+        <source>Continue snapshot time interval must be longer than 1s.</source>
+        <translation>连续抓图间隔不能小于 1 秒。</translation>
+    </message>
+    <message>
+        <source>Continuously snapshot 2-10 pic.</source>
+        <translation>连续抓图 2-10 张。</translation>
+    </message>
+</context>
+<context>
     <name>LocalConfig::CPlaybackConfig</name>
     <message>
         <source>All</source>
@@ -340,6 +463,375 @@
     <message>
         <source>:</source>
         <translation>：</translation>
+    </message>
+</context>
+<context>
+    <name>LocalConfig::CRecordConfig</name>
+    <message>
+        <source>Time_ChannelNo</source>
+        <translation>时间_通道号</translation>
+    </message>
+    <message>
+        <source>Time_ChannelName</source>
+        <translation>时间_通道名称</translation>
+    </message>
+    <message>
+        <source>ChannelNo_Time</source>
+        <translation>通道号_时间</translation>
+    </message>
+    <message>
+        <source>ChannelName_Time</source>
+        <translation>通道名称_时间</translation>
+    </message>
+    <message>
+        <source>:</source>
+        <translation>：</translation>
+    </message>
+    <message>
+        <source>The Path length of Record should not longer than 168</source>
+        <translation>录像路径长度不能超过 168</translation>
+    </message>
+    <message>
+        <source>(%1-%2M)</source>
+        <translation>（%1-%2M）</translation>
+    </message>
+    <message>
+        <source>Max size of a file must be within %1-%2.</source>
+        <translation>文件最大值必须在 %1-%2 之间。</translation>
+    </message>
+</context>
+<context>
+    <name>LocalConfig::CSecurityConfig</name>
+    <message>
+        <source>Prompt</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Audio and video encryption can ensure secure data transmission and prevent others from directly obtaining the audio and video for analysis. Are you sure to disable the function?</source>
+        <translation>音视频加密可保证数据传输安全，防止他人直接获取音视频进行分析。确定要关闭该功能吗？</translation>
+    </message>
+</context>
+<context>
+    <name>LocalConfig::CShortcutKeyConfig</name>
+    <message>
+        <source>:</source>
+        <translation>：</translation>
+    </message>
+    <message>
+        <source>Function</source>
+        <translation>功能</translation>
+    </message>
+    <message>
+        <source>Shortcut Keys</source>
+        <translation>快捷键</translation>
+    </message>
+    <message>
+        <source>Move Up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Lock Client</source>
+        <translation>锁定客户端</translation>
+    </message>
+    <message>
+        <source>Move Down</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Snap Single Window</source>
+        <translation>单窗口抓图</translation>
+    </message>
+    <message>
+        <source>Move Left</source>
+        <translation>左移</translation>
+    </message>
+    <message>
+        <source>One-click Snapshot</source>
+        <translation>一键抓图</translation>
+    </message>
+    <message>
+        <source>Move Right</source>
+        <translation>右移</translation>
+    </message>
+    <message>
+        <source>Local Record</source>
+        <translation>本地录像</translation>
+    </message>
+    <message>
+        <source>Aperture-</source>
+        <translation>光圈-</translation>
+    </message>
+    <message>
+        <source>Preset 1</source>
+        <translation>预置点 1</translation>
+    </message>
+    <message>
+        <source>Aperture+</source>
+        <translation>光圈+</translation>
+    </message>
+    <message>
+        <source>Preset 2</source>
+        <translation>预置点 2</translation>
+    </message>
+    <message>
+        <source>Focus-</source>
+        <translation>聚焦-</translation>
+    </message>
+    <message>
+        <source>Preset 3</source>
+        <translation>预置点 3</translation>
+    </message>
+    <message>
+        <source>Focus+</source>
+        <translation>聚焦+</translation>
+    </message>
+    <message>
+        <source>Preset 4</source>
+        <translation>预置点 4</translation>
+    </message>
+    <message>
+        <source>Zoom-</source>
+        <translation>变倍-</translation>
+    </message>
+    <message>
+        <source>Preset 5</source>
+        <translation>预置点 5</translation>
+    </message>
+    <message>
+        <source>Zoom+</source>
+        <translation>变倍+</translation>
+    </message>
+    <message>
+        <source>Preset 6</source>
+        <translation>预置点 6</translation>
+    </message>
+    <message>
+        <source>Open Single Window</source>
+        <translation>打开单窗口</translation>
+    </message>
+    <message>
+        <source>Preset 7</source>
+        <translation>预置点 7</translation>
+    </message>
+    <message>
+        <source>Close Single Window</source>
+        <translation>关闭单窗口</translation>
+    </message>
+    <message>
+        <source>Preset 8</source>
+        <translation>预置点 8</translation>
+    </message>
+    <message>
+        <source>Open Full Screen</source>
+        <translation>打开全屏</translation>
+    </message>
+    <message>
+        <source>Preset 9</source>
+        <translation>预置点 9</translation>
+    </message>
+    <message>
+        <source>Exit Full Screen</source>
+        <translation>退出全屏</translation>
+    </message>
+    <message>
+        <source>Preset 10</source>
+        <translation>预置点 10</translation>
+    </message>
+    <message>
+        <source>Tours Pause/Continue</source>
+        <translation>轮巡暂停/继续</translation>
+    </message>
+    <message>
+        <source>IRIS- (Oper Mode)</source>
+        <translation>IRIS-（操作模式）</translation>
+    </message>
+    <message>
+        <source>IRIS+ (Oper Mode)</source>
+        <translation>IRIS+（操作模式）</translation>
+    </message>
+    <message>
+        <source>Focus- (Oper Mode)</source>
+        <translation>Focus-（操作模式）</translation>
+    </message>
+    <message>
+        <source>Focus+ (Oper Mode)</source>
+        <translation>Focus+（操作模式）</translation>
+    </message>
+    <message>
+        <source>Zoom- (Oper Mode)</source>
+        <translation>Zoom-（操作模式）</translation>
+    </message>
+    <message>
+        <source>Zoom+ (Oper Mode)</source>
+        <translation>Zoom+（操作模式）</translation>
+    </message>
+    <message>
+        <source>IRIS- (Edit Mode)</source>
+        <translation>IRIS-（编辑模式）</translation>
+    </message>
+    <message>
+        <source>IRIS+ (Edit Mode)</source>
+        <translation>IRIS+（编辑模式）</translation>
+    </message>
+    <message>
+        <source>Focus- (Edit Mode)</source>
+        <translation>Focus-（编辑模式）</translation>
+    </message>
+    <message>
+        <source>Focus+ (Edit Mode)</source>
+        <translation>Focus+（编辑模式）</translation>
+    </message>
+    <message>
+        <source>Choose Output Screen</source>
+        <translation>选择输出屏</translation>
+    </message>
+    <message>
+        <source>NUM+PLAY</source>
+        <translation>NUM+PLAY</translation>
+    </message>
+    <message>
+        <source>Screen Maximization</source>
+        <translation>屏幕最大化</translation>
+    </message>
+    <message>
+        <source>NUM+FN</source>
+        <translation>NUM+FN</translation>
+    </message>
+    <message>
+        <source>Choose Number of Windows</source>
+        <translation>选择窗口数</translation>
+    </message>
+    <message>
+        <source>NUM+MULT</source>
+        <translation>NUM+MULT</translation>
+    </message>
+    <message>
+        <source>Restore Screen</source>
+        <translation>还原屏幕</translation>
+    </message>
+    <message>
+        <source>Choose Window</source>
+        <translation>选择窗口</translation>
+    </message>
+    <message>
+        <source>NUM+ID</source>
+        <translation>NUM+ID</translation>
+    </message>
+    <message>
+        <source>Call Preset</source>
+        <translation>调用预置点</translation>
+    </message>
+    <message>
+        <source>NUM+PRESET</source>
+        <translation>NUM+PRESET</translation>
+    </message>
+    <message>
+        <source>Select input source</source>
+        <translation>选择输入源</translation>
+    </message>
+    <message>
+        <source>NUM+CAM</source>
+        <translation>NUM+CAM</translation>
+    </message>
+    <message>
+        <source>Hori Pan</source>
+        <translation>水平旋转</translation>
+    </message>
+    <message>
+        <source>PAN</source>
+        <translation>PAN</translation>
+    </message>
+    <message>
+        <source>Previous Video Source</source>
+        <translation>上一个视频源</translation>
+    </message>
+    <message>
+        <source>SHIFT</source>
+        <translation>SHIFT</translation>
+    </message>
+    <message>
+        <source>Scan</source>
+        <translation>线扫</translation>
+    </message>
+    <message>
+        <source>SCAN</source>
+        <translation>SCAN</translation>
+    </message>
+    <message>
+        <source>Next Video Source</source>
+        <translation>下一个视频源</translation>
+    </message>
+    <message>
+        <source>ENTER</source>
+        <translation>ENTER</translation>
+    </message>
+    <message>
+        <source>Cruise</source>
+        <translation>点间巡航</translation>
+    </message>
+    <message>
+        <source>NUM+TOUR</source>
+        <translation>NUM+TOUR</translation>
+    </message>
+    <message>
+        <source>Erase One Bit</source>
+        <translation>删除一位</translation>
+    </message>
+    <message>
+        <source>ESC</source>
+        <translation>ESC</translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation>巡迹</translation>
+    </message>
+    <message>
+        <source>NUM+PATTERN</source>
+        <translation>NUM+PATTERN</translation>
+    </message>
+    <message>
+        <source>Switch Mode</source>
+        <translation>切换模式</translation>
+    </message>
+    <message>
+        <source>SETUP</source>
+        <translation>SETUP</translation>
+    </message>
+    <message>
+        <source>PTZ</source>
+        <translation>云台</translation>
+    </message>
+    <message>
+        <source>Rocker Control</source>
+        <translation>摇杆控制</translation>
+    </message>
+    <message>
+        <source>Main/Sub Stream Setup</source>
+        <translation>主辅码流设置</translation>
+    </message>
+    <message>
+        <source>1+SETUP</source>
+        <translation>1+SETUP</translation>
+    </message>
+    <message>
+        <source>Save Task</source>
+        <translation>保存任务</translation>
+    </message>
+    <message>
+        <source>Execute Tour in All Screens</source>
+        <translation>全部屏幕开启轮巡</translation>
+    </message>
+    <message>
+        <source>Stop Tour in All Screens</source>
+        <translation>全部屏幕停止轮巡</translation>
+    </message>
+    <message>
+        <source>PTZ Menu</source>
+        <translation>云台菜单</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>菜单</translation>
     </message>
 </context>
 <context>

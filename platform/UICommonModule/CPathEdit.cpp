@@ -137,6 +137,12 @@ void CPathEdit::resizeEvent(QResizeEvent* pEvent)
     PlaceButton();
 }
 
+void CPathEdit::showEvent(QShowEvent* pEvent)
+{
+    KvLineEdit::showEvent(pEvent);
+    setTabOrder(this, m_pBrowseButton); // a form orders its fields after they are made, and leaves the button behind
+}
+
 void CPathEdit::KeepTextClearOfButton()
 {
     const int nRoom = g_nButtonSize + g_nButtonMargin;
