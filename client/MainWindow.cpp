@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include "ConfigService.h"
+#include "LiveActions.h"
 #include "SplitView.h"
 
 #include <KvGui/KvMessageNotify.h>
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QScreen>
 #include <QShortcut>
+#include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -72,36 +74,20 @@ MainWindow::MainWindow(ConfigService& configService, UserLogical::IUserManager& 
     setObjectName(QStringLiteral("MainWindow"));
     setWindowTitle(tr("Surveillance Client"));
 
-    auto* pCentral = new QWidget(this);
-    auto* pHeader = new QWidget(pCentral);
-    auto* pTitle = new QLabel(windowTitle(), pHeader);
-    m_pTimeZone = new QLabel(pHeader);
-    m_pTimeZone->setObjectName(QStringLiteral("timeZone"));
-    m_pConnection = new QLabel(pHeader);
-    m_pConnection->setObjectName(QStringLiteral("connection"));
-    auto* pSettings = new KVGUI::KvPushButton(tr("Local Config..."), pHeader);
-    pSettings->setObjectName(QStringLiteral("btnSettings"));
-    pSettings->setToolTip(tr("Settings of this workstation (Ctrl+,)"));
-    m_pSplitView = new SplitView(pCentral);
-
-    auto* pHeaderLayout = new QHBoxLayout(pHeader);
-    pHeaderLayout->setContentsMargins(16, 8, 16, 8);
-    pHeaderLayout->setSpacing(16);
-    pHeaderLayout->addWidget(pTitle);
-    pHeaderLayout->addStretch();
-    pHeaderLayout->addWidget(m_pTimeZone);
-    pHeaderLayout->addWidget(m_pConnection);
-    pHeaderLayout->addWidget(pSettings);
-    auto* pLayout = new QVBoxLayout(pCentral);
+    m_pPages = new QStackedWidget(this);
+    auto* pClient = new QWidget(m_pPages);
+    m_pSplitView = new SplitView(pClient);
+    m_pLiveActions = new LiveActions(m_configService, *m_pSplitView, this);
+    m_pHeader = MakeHeader();
+    auto* pLayout = new QVBoxLayout(pClient);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setSpacing(0);
-    pLayout->addWidget(pHeader);
+    pLayout->addWidget(m_pHeader);
     pLayout->addWidget(m_pSplitView, 1);
-    setCentralWidget(pCentral);
-
-    connect(pSettings, &KVGUI::KvPushButton::clicked, this, [this] { OpenSettings(); });
-    connect(new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_Comma), this), &QShortcut::activated, this,
-            [this] { OpenSettings(); });
+    m_pPages->addWidget(pClient);
+    m_pPages->addWidget(MakeLockScreen());
+    setCentralWidget(m_pPages);
+    AddShortcuts();
 
     m_pObserver = std::make_unique<ConnectionObserver>(m_pConnection);
     if (UserLogical::ILoginManager* pLoginManager = m_userManager.GetLoginManager())
@@ -116,6 +102,136 @@ MainWindow::MainWindow(ConfigService& configService, UserLogical::IUserManager& 
         KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(strProblem);
     });
     ApplySettings();
+}
+
+QWidget* MainWindow::MakeHeader()
+{
+    auto* pHeader = new QWidget(m_pSplitView->parentWidget());
+    auto* pTitle = new QLabel(windowTitle(), pHeader);
+    m_pTimeZone = new QLabel(pHeader);
+    m_pTimeZone->setObjectName(QStringLiteral("timeZone"));
+    m_pConnection = new QLabel(pHeader);
+    m_pConnection->setObjectName(QStringLiteral("connection"));
+
+    auto* pLayout = new QHBoxLayout(pHeader);
+    pLayout->setContentsMargins(16, 8, 16, 8);
+    pLayout->setSpacing(8);
+    pLayout->addWidget(pTitle);
+    pLayout->addStretch();
+    pLayout->addWidget(m_pTimeZone);
+    pLayout->addSpacing(8);
+    pLayout->addWidget(m_pConnection);
+    pLayout->addSpacing(8);
+    const auto addButton = [pHeader, pLayout](const char* pszName, const QString& strText, const QString& strToolTip) {
+        auto* pButton = new KVGUI::KvPushButton(strText, pHeader);
+        pButton->setObjectName(QString::fromLatin1(pszName));
+        pButton->setToolTip(strToolTip);
+        pLayout->addWidget(pButton);
+        return pButton;
+    };
+    connect(addButton("btnSnapshot", tr("Snapshot"), tr("Picture of the selected window (P)")),
+            &QAbstractButton::clicked, m_pLiveActions, &LiveActions::SnapWindow);
+    connect(addButton("btnContinuous", tr("Continuous Snapshot"),
+                      tr("Pictures of the selected window, one after the other")),
+            &QAbstractButton::clicked, m_pLiveActions, &LiveActions::SnapContinuously);
+    m_pRecord = addButton("btnRecord", QString(), tr("Recording of the selected window (Ctrl+R)"));
+    connect(m_pRecord, &QAbstractButton::clicked, m_pLiveActions, &LiveActions::ToggleRecording);
+    const auto showRecording = [this] {
+        m_pRecord->setText(m_pLiveActions->IsRecording() ? tr("Stop Recording") : tr("Record"));
+    };
+    connect(m_pLiveActions, &LiveActions::SignalRecordingChanged, this, showRecording);
+    showRecording();
+    connect(addButton("btnSettings", tr("Local Config..."), tr("Settings of this workstation (Ctrl+,)")),
+            &QAbstractButton::clicked, this, [this] { OpenSettings(); });
+    return pHeader;
+}
+
+QWidget* MainWindow::MakeLockScreen()
+{
+    auto* pScreen = new QWidget(m_pPages);
+    auto* pText = new QLabel(tr("The client is locked."), pScreen);
+    m_pUnlock = new KVGUI::KvPushButton(tr("Unlock"), pScreen);
+    m_pUnlock->setObjectName(QStringLiteral("btnUnlock"));
+    m_pUnlock->setAutoDefault(true);
+    connect(m_pUnlock, &QAbstractButton::clicked, this, [this] { SetLocked(false); });
+    auto* pLayout = new QVBoxLayout(pScreen);
+    pLayout->setSpacing(16);
+    pLayout->addStretch();
+    pLayout->addWidget(pText, 0, Qt::AlignCenter);
+    pLayout->addWidget(m_pUnlock, 0, Qt::AlignCenter);
+    pLayout->addStretch();
+    return pScreen;
+}
+
+void MainWindow::AddShortcuts()
+{
+    const auto add = [this](const QKeySequence& keys, std::function<void()> action) {
+        auto* pShortcut = new QShortcut(keys, this);
+        connect(pShortcut, &QShortcut::activated, this, std::move(action));
+        return pShortcut;
+    };
+    m_pSettingsShortcut = add(Qt::CTRL + Qt::Key_Comma, [this] { OpenSettings(); });
+    m_listKeyboard = {
+        add(Qt::Key_P, [this] { m_pLiveActions->SnapWindow(); }),
+        add(Qt::CTRL + Qt::Key_P, [this] { m_pLiveActions->SnapAllWindows(); }),
+        add(Qt::CTRL + Qt::Key_R, [this] { m_pLiveActions->ToggleRecording(); }),
+        add(Qt::Key_Return, [this] { m_pSplitView->ToggleSingleWindow(); }),
+        add(Qt::Key_Enter, [this] { m_pSplitView->ToggleSingleWindow(); }),
+        add(Qt::CTRL + Qt::Key_F, [this] { SetFullScreen(true); }),
+        add(Qt::Key_Escape, [this] { SetFullScreen(false); }),
+        add(Qt::CTRL + Qt::Key_L, [this] { SetLocked(true); }),
+    };
+}
+
+/// The keys work while the PC keyboard is the one in use and the client is not locked.
+void MainWindow::SettleShortcuts()
+{
+    const bool bLocked = m_pPages->currentIndex() != 0;
+    const bool bPcKeyboard = m_configService.GetStored().shortcutKey.pcKeyboard;
+    for (QShortcut* pShortcut : qAsConst(m_listKeyboard))
+    {
+        pShortcut->setEnabled(bPcKeyboard && !bLocked);
+    }
+    m_pSettingsShortcut->setEnabled(!bLocked);
+    if (!bPcKeyboard)
+    {
+        SetFullScreen(false); // which no key would lead out of any more
+    }
+}
+
+void MainWindow::SetFullScreen(bool bFullScreen)
+{
+    if (bFullScreen == isFullScreen())
+    {
+        return;
+    }
+    if (bFullScreen)
+    {
+        m_bMaximized = isMaximized();
+    }
+    m_pHeader->setVisible(!bFullScreen);
+    if (bFullScreen)
+    {
+        showFullScreen();
+    }
+    else if (m_bMaximized)
+    {
+        showMaximized();
+    }
+    else
+    {
+        showNormal();
+    }
+}
+
+void MainWindow::SetLocked(bool bLocked)
+{
+    m_pPages->setCurrentIndex(bLocked ? 1 : 0);
+    if (bLocked)
+    {
+        m_pUnlock->setFocus();
+    }
+    SettleShortcuts();
 }
 
 MainWindow::~MainWindow()
@@ -140,6 +256,7 @@ void MainWindow::ApplySettings()
     }
     m_pSplitView->SetSplit(settings.video.nDefaultSplit);
     m_pSplitView->SetDisplayScale(settings.video.nDisplayScale);
+    SettleShortcuts();
 }
 
 void MainWindow::OpenSettings(int nSection)

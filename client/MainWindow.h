@@ -3,15 +3,24 @@
 #include <LocalConfig/interfaces/IUserManager.h>
 
 #include <QMainWindow>
+#include <QVector>
 
 #include <memory>
 
 class QLabel;
+class QShortcut;
+class QStackedWidget;
+
+namespace KVGUI
+{
+class KvPushButton;
+}
 
 namespace LocalConfigClient
 {
 
 class ConfigService;
+class LiveActions;
 class SplitView;
 
 /// The client's main window: shows what the settings do, and opens the settings dialog.
@@ -31,14 +40,33 @@ public:
     /// Applies what takes effect at once; the rest is applied at the next start.
     void ApplySettings();
 
+    /// Shows the live view alone, on the whole screen, or the window as it was.
+    void SetFullScreen(bool bFullScreen);
+
+    /// Hides everything behind a screen that only unlocking leads away from.
+    void SetLocked(bool bLocked);
+
 private:
     class ConnectionObserver;
+
+    QWidget* MakeHeader();
+    QWidget* MakeLockScreen();
+    void AddShortcuts();
+    void SettleShortcuts();
 
     ConfigService& m_configService;
     UserLogical::IUserManager& m_userManager;
     std::unique_ptr<ConnectionObserver> m_pObserver;
     int m_nClientSize = -1; // the last one that was applied
     SplitView* m_pSplitView;
+    LiveActions* m_pLiveActions;
+    QStackedWidget* m_pPages; // the client and the lock screen
+    QWidget* m_pHeader;
+    KVGUI::KvPushButton* m_pRecord;
+    KVGUI::KvPushButton* m_pUnlock;
+    QVector<QShortcut*> m_listKeyboard; // of the PC keyboard
+    QShortcut* m_pSettingsShortcut;
+    bool m_bMaximized = false; // before full screen
     QLabel* m_pConnection;
     QLabel* m_pTimeZone;
 };

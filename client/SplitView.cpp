@@ -1,5 +1,7 @@
 #include "SplitView.h"
 
+#include <QDateTime>
+#include <QMouseEvent>
 #include <QPainter>
 
 namespace LocalConfigClient
@@ -42,6 +44,7 @@ void SplitView::SetSplit(int nSplit)
     if (!GetPanes(nSplit, rect()).isEmpty())
     {
         m_nSplit = nSplit;
+        m_nSelected = qMin(m_nSelected, nSplit - 1);
         update();
     }
 }
@@ -102,24 +105,100 @@ QVector<QRect> SplitView::GetPanes(int nSplit, const QRect& area)
     return listPanes;
 }
 
+void SplitView::Select(int nPane)
+{
+    if (nPane >= 0 && nPane < m_nSplit)
+    {
+        m_nSelected = nPane;
+        update();
+    }
+}
+
+void SplitView::ToggleSingleWindow()
+{
+    m_bSingleWindow = !m_bSingleWindow;
+    update();
+}
+
+QString SplitView::GetChannelName(int nPane)
+{
+    return tr("Camera %1").arg(nPane + 1, 2, 10, QLatin1Char('0'));
+}
+
+QImage SplitView::GetPicture(int nPane) const
+{
+    QImage picture(g_pictureSize, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    QLinearGradient sky(0, 0, 0, picture.height());
+    sky.setColorAt(0, m_paneColor.lighter(300));
+    sky.setColorAt(1, m_paneColor.lighter(150));
+    painter.fillRect(picture.rect(), sky);
+    painter.setPen(m_textColor);
+    painter.drawText(picture.rect().adjusted(8, 8, -8, -8), Qt::AlignLeft | Qt::AlignTop, GetChannelName(nPane));
+    painter.drawText(picture.rect().adjusted(8, 8, -8, -8), Qt::AlignRight | Qt::AlignBottom,
+                     QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")));
+    return picture;
+}
+
+QMap<int, QRect> SplitView::GetShownPanes() const
+{
+    if (m_bSingleWindow)
+    {
+        return {{m_nSelected, rect()}};
+    }
+    QMap<int, QRect> mapPanes;
+    for (const QRect& pane : GetPanes(m_nSplit, rect()))
+    {
+        mapPanes.insert(mapPanes.size(), pane);
+    }
+    return mapPanes;
+}
+
 void SplitView::paintEvent(QPaintEvent* /*pEvent*/)
 {
     QPainter painter(this);
     painter.fillRect(rect(), m_gapColor);
-    const QVector<QRect> listPanes = GetPanes(m_nSplit, rect());
-    for (int n = 0; n < listPanes.size(); ++n)
+    const QMap<int, QRect> mapPanes = GetShownPanes();
+    for (auto it = mapPanes.begin(); it != mapPanes.end(); ++it)
     {
-        const QRect pane = listPanes[n].adjusted(g_nGap / 2, g_nGap / 2, -g_nGap / 2, -g_nGap / 2);
-        painter.fillRect(pane, m_paneColor);
-        painter.setClipRect(pane);
-        QLinearGradient sky(0, 0, 0, 1);
-        sky.setCoordinateMode(QGradient::ObjectBoundingMode);
-        sky.setColorAt(0, m_paneColor.lighter(300));
-        sky.setColorAt(1, m_paneColor.lighter(150));
-        painter.fillRect(GetPicturePlace(pane, g_pictureSize, m_nDisplayScale), sky);
-        painter.setPen(m_textColor);
-        painter.drawText(pane, Qt::AlignCenter, QString::number(n + 1));
+        PaintPane(painter, it.key(), it.value().adjusted(g_nGap / 2, g_nGap / 2, -g_nGap / 2, -g_nGap / 2));
     }
+}
+
+void SplitView::PaintPane(QPainter& painter, int nPane, const QRect& pane) const
+{
+    painter.setClipRect(pane);
+    painter.fillRect(pane, m_paneColor);
+    QLinearGradient sky(0, 0, 0, 1);
+    sky.setCoordinateMode(QGradient::ObjectBoundingMode);
+    sky.setColorAt(0, m_paneColor.lighter(300));
+    sky.setColorAt(1, m_paneColor.lighter(150));
+    painter.fillRect(GetPicturePlace(pane, g_pictureSize, m_nDisplayScale), sky);
+    painter.setPen(m_textColor);
+    painter.drawText(pane, Qt::AlignCenter, QString::number(nPane + 1));
+    if (nPane == m_nSelected)
+    {
+        painter.setPen(QPen(m_selectedColor, g_nGap));
+        painter.drawRect(QRectF(pane).adjusted(g_nGap / 2., g_nGap / 2., -g_nGap / 2., -g_nGap / 2.));
+    }
+}
+
+void SplitView::mousePressEvent(QMouseEvent* pEvent)
+{
+    const QMap<int, QRect> mapPanes = GetShownPanes();
+    for (auto it = mapPanes.begin(); it != mapPanes.end(); ++it)
+    {
+        if (it.value().contains(pEvent->pos()))
+        {
+            Select(it.key());
+        }
+    }
+}
+
+void SplitView::mouseDoubleClickEvent(QMouseEvent* pEvent)
+{
+    mousePressEvent(pEvent);
+    ToggleSingleWindow();
 }
 
 } // namespace LocalConfigClient

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QImage>
+#include <QMap>
 #include <QVector>
 #include <QWidget>
 
@@ -14,6 +16,7 @@ class SplitView : public QWidget
     Q_PROPERTY(QColor gapColor MEMBER m_gapColor)
     Q_PROPERTY(QColor paneColor MEMBER m_paneColor)
     Q_PROPERTY(QColor textColor MEMBER m_textColor)
+    Q_PROPERTY(QColor selectedColor MEMBER m_selectedColor)
 
 public:
     explicit SplitView(QWidget* pParent);
@@ -26,6 +29,22 @@ public:
     void SetDisplayScale(int nScale);
     int GetDisplayScale() const { return m_nDisplayScale; }
 
+    /// The pane that single-window actions are for, counted from 0.
+    int GetSelected() const { return m_nSelected; }
+
+    /// Any number that is no pane's leaves the selection as it is.
+    void Select(int nPane);
+
+    /// Shows the selected pane alone, or all panes again.
+    void ToggleSingleWindow();
+    bool IsSingleWindow() const { return m_bSingleWindow; }
+
+    /// The picture of a pane's camera, which is a drawing that tells the camera and the time.
+    QImage GetPicture(int nPane) const;
+
+    /// The name of a pane's camera.
+    static QString GetChannelName(int nPane);
+
     /// Where a picture stands in its pane: filling it, or in its middle at its own size and cut off at the pane's
     /// edges.
     static QRect GetPicturePlace(const QRect& pane, const QSize& picture, int nScale);
@@ -35,13 +54,22 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* pEvent) override;
+    void mousePressEvent(QMouseEvent* pEvent) override;
+    void mouseDoubleClickEvent(QMouseEvent* pEvent) override;
 
 private:
+    /// The panes that are seen and where; by pane.
+    QMap<int, QRect> GetShownPanes() const;
+    void PaintPane(QPainter& painter, int nPane, const QRect& pane) const;
+
     int m_nSplit = 4;
     int m_nDisplayScale = 1;
+    int m_nSelected = 0;
+    bool m_bSingleWindow = false;
     QColor m_gapColor = Qt::darkGray;
     QColor m_paneColor = Qt::black;
     QColor m_textColor = Qt::lightGray;
+    QColor m_selectedColor = Qt::white;
 };
 
 } // namespace LocalConfigClient

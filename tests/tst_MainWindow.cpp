@@ -83,7 +83,35 @@ private slots:
     void TheDialogOpensLockedWhileDisconnected();
     void WithoutTheWallRight();
 
+    void TheSelectedPaneIsTheOneClicked();
+    void EnterAndDoubleClickShowOneWindow();
+    void AKeySnapsTheSelectedWindow();
+    void AKeySnapsEveryWindow();
+    void ContinuousSnapshotsHonourCountAndInterval();
+    void AKeyRecordsTheSelectedWindow();
+    void SnapshotsGoToTheClientsFolderByDefault();
+    void AFolderThatCannotBeWrittenIsReported_data();
+    void AFolderThatCannotBeWrittenIsReported();
+    void TheNetworkKeyboardSwitchesTheKeysOff();
+    void SavingTheKeyboardTakesEffectAtOnce();
+    void KeysLeadIntoAndOutOfFullScreen();
+    void ALockedClientHearsNoKeys();
+
 private:
+    /// The settings that the next client finds.
+    void Store(const Settings& settings) const
+    {
+        SettingsDocument document;
+        document.SetSettings(settings);
+        QFile file("settings.json");
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(document.Serialize());
+    }
+    QStringList Files(const QString& strFolder) const
+    {
+        return QDir(m_pFolder->filePath(strFolder)).entryList(QDir::Files, QDir::Name);
+    }
+
     QScopedPointer<QTemporaryDir> m_pFolder;
 };
 
@@ -186,14 +214,9 @@ void tst_MainWindow::TheTimeZoneIsShownWhenAskedFor_data()
 void tst_MainWindow::TheTimeZoneIsShownWhenAskedFor()
 {
     QFETCH(bool, bShow);
-    SettingsDocument document;
     Settings settings;
     settings.basic.showTimeZone = bShow;
-    document.SetSettings(settings);
-    QFile file("settings.json");
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(document.Serialize());
-    file.close();
+    Store(settings);
     ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
     UserManager users({}, nullptr);
     const MainWindow window(service, users);
@@ -369,6 +392,220 @@ void tst_MainWindow::WithoutTheWallRight()
         QVERIFY(!Find<QWidget>(dialog, "m_gBTvwall")->isVisible());
         QVERIFY(!Find<QWidget>(dialog, "m_pTvWall"));
     });
+}
+
+/// A client with a window that is shown and active.
+#define CLIENT                                                                                                         \
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);                                                \
+    UserManager users({}, nullptr);                                                                                    \
+    MainWindow window(service, users);                                                                                 \
+    window.show();                                                                                                     \
+    QApplication::setActiveWindow(&window);                                                                            \
+    QVERIFY(QTest::qWaitForWindowActive(&window))
+
+void tst_MainWindow::TheSelectedPaneIsTheOneClicked()
+{
+    CLIENT;
+    auto* pView = window.findChild<SplitView*>();
+    QCOMPARE(pView->GetSelected(), 0);
+    QTest::mouseClick(pView, Qt::LeftButton, {}, SplitView::GetPanes(4, pView->rect())[2].center());
+    QCOMPARE(pView->GetSelected(), 2);
+    pView->SetSplit(1);
+    QCOMPARE(pView->GetSelected(), 0);
+    pView->Select(1);
+    QCOMPARE(pView->GetSelected(), 0);
+}
+
+void tst_MainWindow::EnterAndDoubleClickShowOneWindow()
+{
+    CLIENT;
+    auto* pView = window.findChild<SplitView*>();
+    QTest::keyClick(&window, Qt::Key_Return);
+    QVERIFY(pView->IsSingleWindow());
+    QTest::keyClick(&window, Qt::Key_Enter);
+    QVERIFY(!pView->IsSingleWindow());
+    QTest::mouseDClick(pView, Qt::LeftButton, {}, SplitView::GetPanes(4, pView->rect())[3].center());
+    QVERIFY(pView->IsSingleWindow());
+    QCOMPARE(pView->GetSelected(), 3);
+}
+
+void tst_MainWindow::AKeySnapsTheSelectedWindow()
+{
+    Settings settings;
+    settings.snapshot.picturePath = m_pFolder->filePath("snaps/").toStdString();
+    settings.snapshot.imageFormat = 0;
+    settings.snapshot.nameFormat = 2;
+    Store(settings);
+    CLIENT;
+    QSignalSpy spy(KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance(),
+                   &KVGUI::KvMessageNotify::SignalTextNotificationAdded);
+    window.findChild<SplitView*>()->Select(2);
+    QTest::keyClick(&window, Qt::Key_P);
+    QTRY_COMPARE(spy.size(), 1);
+    QCOMPARE(Files("snaps").size(), 1);
+    QVERIFY(QRegularExpression("^03_\\d{8}-\\d{6}-\\d{3}\\.bmp$").match(Files("snaps").first()).hasMatch());
+    QCOMPARE(QImage(m_pFolder->filePath("snaps/" + Files("snaps").first())).size(), QSize(352, 288));
+    QVERIFY(spy.first().first().toString().contains("snaps"));
+}
+
+void tst_MainWindow::AKeySnapsEveryWindow()
+{
+    Settings settings;
+    settings.snapshot.picturePath = m_pFolder->filePath("snaps/").toStdString();
+    settings.video.nDefaultSplit = 9;
+    Store(settings);
+    CLIENT;
+    QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+    QTRY_COMPARE(Files("snaps").size(), 9);
+    QVERIFY(Files("snaps").first().startsWith("Camera 01_"));
+    QVERIFY(Files("snaps").last().startsWith("Camera 09_"));
+    QVERIFY(Files("snaps").last().endsWith(".jpg"));
+}
+
+void tst_MainWindow::ContinuousSnapshotsHonourCountAndInterval()
+{
+    Settings settings;
+    settings.snapshot.picturePath = m_pFolder->filePath("snaps/").toStdString();
+    settings.snapshot.continuousCount = 3;
+    settings.snapshot.interval = 1;
+    settings.snapshot.nameFormat = 0;
+    Store(settings);
+    CLIENT;
+    QElapsedTimer clock;
+    clock.start();
+    QTest::mouseClick(window.findChild<QAbstractButton*>("btnContinuous"), Qt::LeftButton);
+    window.findChild<SplitView*>()->Select(3); // the window that it began with stays the one
+    QTRY_COMPARE(Files("snaps").size(), 3);
+    QVERIFY2(clock.elapsed() >= 1900, qPrintable(QString::number(clock.elapsed())));
+    QTest::qWait(1300);
+    QCOMPARE(Files("snaps").size(), 3);
+    for (const QString& strFile : Files("snaps"))
+    {
+        QVERIFY(strFile.endsWith("_01.jpg"));
+    }
+}
+
+void tst_MainWindow::AKeyRecordsTheSelectedWindow()
+{
+    Settings settings;
+    settings.record.recordPath = m_pFolder->filePath("recs/").toStdString();
+    settings.record.nameFormat = 1;
+    Store(settings);
+    CLIENT;
+    const auto* pButton = window.findChild<QAbstractButton*>("btnRecord");
+    QCOMPARE(pButton->text(), QString("Record"));
+    QTest::keyClick(&window, Qt::Key_R, Qt::ControlModifier);
+    QCOMPARE(pButton->text(), QString("Stop Recording"));
+    QTest::qWait(500);
+    QTest::keyClick(&window, Qt::Key_R, Qt::ControlModifier);
+    QCOMPARE(pButton->text(), QString("Record"));
+    QTRY_COMPARE(Files("recs").size(), 1);
+    QVERIFY(Files("recs").first().endsWith("_Camera 01.mjpeg"));
+    QVERIFY(QFileInfo(m_pFolder->filePath("recs/" + Files("recs").first())).size() > 1000);
+}
+
+void tst_MainWindow::SnapshotsGoToTheClientsFolderByDefault()
+{
+    CLIENT;
+    QTest::mouseClick(window.findChild<QAbstractButton*>("btnSnapshot"), Qt::LeftButton);
+    QTRY_COMPARE(Files("Picture").size(), 1);
+}
+
+void tst_MainWindow::AFolderThatCannotBeWrittenIsReported_data()
+{
+    QTest::addColumn<int>("nKey");
+    QTest::addColumn<QString>("strFolder");
+    QTest::newRow("snapshot") << int(Qt::CTRL + Qt::Key_P) << "snaps";
+    QTest::newRow("recording") << int(Qt::CTRL + Qt::Key_R) << "recs";
+}
+
+void tst_MainWindow::AFolderThatCannotBeWrittenIsReported()
+{
+    QFETCH(int, nKey);
+    QFETCH(QString, strFolder);
+    QFile file(strFolder); // a file where the folder should be made
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    Settings settings;
+    settings.snapshot.picturePath = m_pFolder->filePath("snaps/").toStdString();
+    settings.record.recordPath = m_pFolder->filePath("recs/").toStdString();
+    Store(settings);
+    CLIENT;
+    QSignalSpy spy(KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance(),
+                   &KVGUI::KvMessageNotify::SignalTextNotificationAdded);
+    QTest::keySequence(&window, QKeySequence(nKey));
+    QTRY_COMPARE(spy.size(), 1);
+    const QString strText = spy.first().first().toString();
+    QVERIFY2(strText.startsWith("Cannot write to " + QDir::toNativeSeparators(m_pFolder->filePath(strFolder))),
+             qPrintable(strText));
+    QVERIFY2(strText.contains(": "), qPrintable(strText));
+    QCOMPARE(window.findChild<QAbstractButton*>("btnRecord")->text(), QString("Record"));
+    QTest::qWait(300);
+    QCOMPARE(spy.size(), 1);
+}
+
+void tst_MainWindow::TheNetworkKeyboardSwitchesTheKeysOff()
+{
+    Settings settings;
+    settings.shortcutKey.pcKeyboard = false;
+    Store(settings);
+    CLIENT;
+    QTest::keyClick(&window, Qt::Key_P);
+    QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClick(&window, Qt::Key_L, Qt::ControlModifier);
+    QVERIFY(!window.isFullScreen());
+    QVERIFY(window.findChild<SplitView*>()->isVisible());
+    QTest::qWait(200);
+    QVERIFY(!QFileInfo::exists("Picture"));
+}
+
+void tst_MainWindow::SavingTheKeyboardTakesEffectAtOnce()
+{
+    CLIENT;
+    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    QVERIFY(window.isFullScreen());
+    window.SetFullScreen(false);
+    InDialog(window, [](QDialog& dialog) {
+        auto* pNetwork = Find<QAbstractButton>(dialog, "nkbRadioBtn");
+        QTest::mouseClick(pNetwork, Qt::LeftButton, {}, QPoint(8, pNetwork->height() / 2));
+        Click(dialog, "btnOk");
+    });
+    QApplication::setActiveWindow(&window);
+    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    QVERIFY(!window.isFullScreen());
+}
+
+void tst_MainWindow::KeysLeadIntoAndOutOfFullScreen()
+{
+    CLIENT;
+    const auto* pButton = window.findChild<QAbstractButton*>("btnSettings");
+    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    QVERIFY(window.isFullScreen());
+    QVERIFY(!pButton->isVisible());
+    QTest::keyClick(&window, Qt::Key_Escape);
+    QVERIFY(!window.isFullScreen());
+    QVERIFY(pButton->isVisible());
+}
+
+void tst_MainWindow::ALockedClientHearsNoKeys()
+{
+    CLIENT;
+    QTest::keyClick(&window, Qt::Key_L, Qt::ControlModifier);
+    auto* pUnlock = window.findChild<QAbstractButton*>("btnUnlock");
+    QVERIFY(pUnlock->isVisible());
+    QVERIFY(pUnlock->hasFocus());
+    QVERIFY(!window.findChild<SplitView*>()->isVisible());
+    QTest::keyClick(&window, Qt::Key_P);
+    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClick(&window, Qt::Key_Comma, Qt::ControlModifier);
+    QVERIFY(!window.isFullScreen());
+    QVERIFY(!QApplication::activeModalWidget());
+    QTest::qWait(200);
+    QVERIFY(!QFileInfo::exists("Picture"));
+    QTest::keyClick(pUnlock, Qt::Key_Return);
+    QVERIFY(window.findChild<SplitView*>()->isVisible());
+    QTest::keyClick(&window, Qt::Key_P);
+    QTRY_COMPARE(Files("Picture").size(), 1);
 }
 
 QTEST_MAIN(tst_MainWindow)

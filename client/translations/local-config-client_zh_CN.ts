@@ -191,6 +191,25 @@
     </message>
 </context>
 <context>
+    <name>LocalConfigClient::LiveActions</name>
+    <message>
+        <source>Picture saved in %1</source>
+        <translation>图片已保存到 %1</translation>
+    </message>
+    <message>
+        <source>%1 pictures saved in %2</source>
+        <translation>%1 张图片已保存到 %2</translation>
+    </message>
+    <message>
+        <source>Recording saved in %1</source>
+        <translation>录像已保存到 %1</translation>
+    </message>
+    <message>
+        <source>Cannot write to %1</source>
+        <translation>无法写入 %1</translation>
+    </message>
+</context>
+<context>
     <name>LocalConfigClient::MainWindow</name>
     <message>
         <source>Connected</source>
@@ -212,12 +231,52 @@
         <source>Settings of this workstation (Ctrl+,)</source>
         <translation>本工作站的设置 (Ctrl+,)</translation>
     </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>抓图</translation>
+    </message>
+    <message>
+        <source>Picture of the selected window (P)</source>
+        <translation>对选中窗口抓图 (P)</translation>
+    </message>
+    <message>
+        <source>Continuous Snapshot</source>
+        <translation>连续抓图</translation>
+    </message>
+    <message>
+        <source>Pictures of the selected window, one after the other</source>
+        <translation>对选中窗口连续抓图</translation>
+    </message>
+    <message>
+        <source>Recording of the selected window (Ctrl+R)</source>
+        <translation>对选中窗口录像 (Ctrl+R)</translation>
+    </message>
+    <message>
+        <source>Stop Recording</source>
+        <translation>停止录像</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>录像</translation>
+    </message>
+    <message>
+        <source>The client is locked.</source>
+        <translation>客户端已锁定。</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation>解锁</translation>
+    </message>
 </context>
 <context>
     <name>LocalConfigClient::SplitView</name>
     <message>
         <source>Live view</source>
         <translation>实时预览</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>摄像机 %1</translation>
     </message>
 </context>
 <context>

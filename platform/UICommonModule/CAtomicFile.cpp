@@ -29,17 +29,11 @@ int CAtomicFile::Write(const QString& strFile, const QByteArray& content)
     {
         return GetSystemError();
     }
-    qint64 nWritten = 0;
-    while (nWritten < content.size())
+    const int nWritten = WriteAll(file, content);
+    if (nWritten != CErrorCode::Success)
     {
-        const qint64 nStep = file.write(content.constData() + nWritten, content.size() - nWritten);
-        if (nStep <= 0)
-        {
-            const int nError = GetSystemError();
-            file.cancelWriting();
-            return nError;
-        }
-        nWritten += nStep;
+        file.cancelWriting();
+        return nWritten;
     }
     if (!FlushFile(file.handle()))
     {
