@@ -1,0 +1,171 @@
+#include "QCheckableComboBox.h"
+
+#include <KvGui/KvCheckBox.h>
+#include <KvGui/KvListWidget.h>
+
+namespace LocalConfig
+{
+
+namespace
+{
+
+constexpr int g_nMinItems = 2;
+
+} // namespace
+
+QCheckableComboBox::QCheckableComboBox(QWidget* pParent)
+    : QSkinCombox(pParent)
+{
+    auto* pList = new KVGUI::KvListWidget(this);
+    setModel(pList->model());
+    setView(pList);
+    insertItem(0, tr("None"));
+}
+
+void QCheckableComboBox::SetItems(const QMap<int, QString>& mapItems)
+{
+    m_mapItems = mapItems;
+    m_listChecked.clear();
+    clear();
+    insertItem(0, tr("None"));
+}
+
+void QCheckableComboBox::SetCheckedList(const QList<int>& listChecked)
+{
+    if (listChecked != m_listChecked)
+    {
+        m_listChecked = listChecked;
+    }
+    ShowText();
+}
+
+bool QCheckableComboBox::CanOpen() const
+{
+    return m_mapItems.size() >= g_nMinItems;
+}
+
+void QCheckableComboBox::showPopup()
+{
+    if (CanOpen())
+    {
+        BuildList();
+        QSkinCombox::showPopup();
+    }
+}
+
+void QCheckableComboBox::hidePopup()
+{
+    if (CanOpen())
+    {
+        ShowText();
+        QSkinCombox::hidePopup();
+    }
+}
+
+KVGUI::KvListWidget* QCheckableComboBox::GetList() const
+{
+    return static_cast<KVGUI::KvListWidget*>(view());
+}
+
+KVGUI::KvCheckBox* QCheckableComboBox::GetCheckBox(int nRow) const
+{
+    return qobject_cast<KVGUI::KvCheckBox*>(GetList()->itemWidget(GetList()->item(nRow)));
+}
+
+int QCheckableComboBox::GetKey(int nRow) const
+{
+    return GetList()->item(nRow)->data(Qt::UserRole).toInt();
+}
+
+void QCheckableComboBox::BuildList()
+{
+    clear();
+    for (auto it = m_mapItems.cbegin(); it != m_mapItems.cend(); ++it)
+    {
+        auto* pCheckBox = new KVGUI::KvCheckBox(it.value(), this);
+        if (it.key() == m_nAllKey)
+        {
+            m_pAllCheckBox = pCheckBox;
+        }
+        pCheckBox->setChecked(m_listChecked.contains(it.key()));
+        auto* pItem = new QListWidgetItem(GetList());
+        pItem->setFlags(Qt::ItemIsEnabled); // not selectable, so that clicks are the check box's
+        pItem->setData(Qt::UserRole, it.key());
+        GetList()->setItemWidget(pItem, pCheckBox);
+        connect(pCheckBox, &QCheckBox::clicked, this, &QCheckableComboBox::OnChecked);
+    }
+}
+
+void QCheckableComboBox::OnChecked(bool bChecked)
+{
+    int nRow = 0;
+    while (nRow < GetList()->count() && GetCheckBox(nRow) != sender())
+    {
+        ++nRow;
+    }
+    if (nRow == GetList()->count())
+    {
+        return;
+    }
+    const int nKey = GetKey(nRow);
+    emit sgnItemChanged(nKey, bChecked);
+
+    if (nKey == m_nAllKey)
+    {
+        m_listChecked = bChecked ? m_mapItems.keys() : QList<int>();
+    }
+    else if (bChecked)
+    {
+        m_listChecked.append(nKey);
+    }
+    else
+    {
+        m_listChecked.removeAll(nKey);
+        m_listChecked.removeAll(m_nAllKey);
+    }
+    for (int n = 0; n < GetList()->count(); ++n)
+    {
+        if (KVGUI::KvCheckBox* pCheckBox = GetCheckBox(n))
+        {
+            pCheckBox->setChecked(m_listChecked.contains(GetKey(n)));
+        }
+    }
+}
+
+void QCheckableComboBox::OnBeginOper()
+{
+    BuildList();
+}
+
+void QCheckableComboBox::OnFinishOper()
+{
+    ShowText();
+}
+
+void QCheckableComboBox::OnListViewHide()
+{
+    ShowText();
+}
+
+void QCheckableComboBox::ShowText()
+{
+    const QString strText = GetText();
+    clear();
+    insertItem(0, strText);
+}
+
+QString QCheckableComboBox::GetText() const
+{
+    if (m_listChecked.isEmpty())
+    {
+        return tr("None");
+    }
+    if (m_listChecked.size() < m_mapItems.size())
+    {
+        const QString strFirst = m_mapItems.value(m_listChecked.first());
+        return m_listChecked.size() > 1 ? tr("%1 ...").arg(strFirst) : strFirst;
+    }
+    return m_mapItems.contains(m_nAllKey) ? m_mapItems.value(m_nAllKey) : tr("All");
+}
+
+} // namespace LocalConfig
