@@ -920,4 +920,19 @@
         <translation>视频缓冲时间必须在 %1-%2 毫秒之间。</translation>
     </message>
 </context>
+<context>
+    <name>LocalConfig::QCheckableComboBox</name>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>%1 ...</source>
+        <translation>%1 ...</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+</context>
 </TS>

@@ -61,6 +61,24 @@
     </message>
 </context>
 <context>
+    <name>UICommonMdl::CAlarmType</name>
+    <message>
+        <source>No alarm types are known, for &apos;%1&apos; cannot be used</source>
+        <translation>没有可用的报警类型，因为无法使用“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>UICommonMdl::CAlarmTypeMenu</name>
+    <message>
+        <source>Alarm categories</source>
+        <translation>报警分类</translation>
+    </message>
+    <message>
+        <source>Alarm types</source>
+        <translation>报警类型</translation>
+    </message>
+</context>
+<context>
     <name>UICommonMdl::CPathEdit</name>
     <message>
         <source>Browse</source>

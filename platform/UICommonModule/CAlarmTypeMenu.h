@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QFrame>
+#include <QMap>
+
+class QListView;
+
+namespace UICommonMdl
+{
+
+class CMenuModel;
+
+/// The menu of CAlarmTypeCombox: two lists beside each other, which scroll and take any number of items.
+class CAlarmTypeMenu : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// \param pOwner  the box that opens the menu, and its parent
+    explicit CAlarmTypeMenu(QWidget* pOwner);
+
+    void SetItems(const QMap<int, QString>& mapMain, const QMap<int, QMap<int, QString>>& mapSub);
+
+    /// Opens the menu below its owner, or above where there is more room, with an item current. A sub item that there
+    /// is not leaves the main items in charge.
+    void Open(int nMainItem, int nSubItem);
+
+    /// Looks for typed text in the list that is in charge.
+    void Search(const QString& strText);
+
+signals:
+    void SignalChosen(int nMainItem, int nSubItem);
+
+protected:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+    void mousePressEvent(QMouseEvent* pEvent) override;
+
+private:
+    QListView* MakeList(const char* pszName, const QString& strAccessibleName, CMenuModel* pModel);
+    void OnMainItemChanged(const QModelIndex& index);
+    void EnterTypes();
+    void Choose(const QModelIndex& index);
+    bool OnKey(const QObject* pList, int nKey);
+    void Place();
+
+    QMap<int, QMap<int, QString>> m_mapSub;
+    CMenuModel* m_pMainModel;
+    CMenuModel* m_pSubModel;
+    QListView* m_pMainList;
+    QListView* m_pSubList;
+};
+
+} // namespace UICommonMdl

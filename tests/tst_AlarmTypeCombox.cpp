@@ -1,0 +1,354 @@
+#include "support/Wheel.h"
+
+#include <UICommonModule/CAlarmTypeCombox.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QListView>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QtTest>
+
+using UICommonMdl::CAlarmTypeCombox;
+
+namespace
+{
+
+const QMap<int, QString> g_mapMain = {{2, "Device"}, {3, "Video"}, {9, "Vehicle"}};
+const QMap<int, QMap<int, QString>> g_mapSub = {
+    {2, {{0, "Offline"}, {1, "Online"}}}, {3, {{2, "Loss"}, {3, "Motion"}, {4, "Tampering"}}}, {9, {{7, "Plate"}}}};
+
+} // namespace
+
+class tst_AlarmTypeCombox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void TheClosedBoxShowsItsCurrentItem();
+    void ChoosingMarksAndEmits();
+    void AnUnknownItemCannotBeChosen_data();
+    void AnUnknownItemCannotBeChosen();
+    void ClearingIsSilent();
+    void AChosenItemIsShown();
+    void ANewMenuKeepsTheItemsOfTheBox();
+    void ANewMenuKeepsAChoiceThatItHas();
+    void ANewMenuDropsAChoiceThatItLacks();
+
+    void OpeningShowsBothLevels();
+    void OpeningShowsTheChoice();
+    void AnEmptyMenuDoesNotOpen();
+    void TheMousePicks();
+    void HoveringShowsACategory();
+    void KeysPick();
+    void LeftLeadsBackAndEscapeCloses();
+    void TypingSearches();
+    void TypingOnTheClosedBoxOpensTheMenu();
+    void ArrowsOnTheClosedBoxOpenTheMenu_data();
+    void ArrowsOnTheClosedBoxOpenTheMenu();
+    void PressingTheBoxAgainClosesTheMenu();
+    void TheWheelChangesNothing();
+    void LongMenusScroll();
+    void TenThousandTypesOpenQuickly();
+
+private:
+    QWidget* Menu() const { return m_pCombo->findChild<QWidget*>("alarmTypeMenu"); }
+    QListView* Main() const { return Menu()->findChild<QListView*>("mainItems"); }
+    QListView* Sub() const { return Menu()->findChild<QListView*>("subItems"); }
+    static QStringList Texts(const QListView* pList)
+    {
+        QStringList listTexts;
+        for (int n = 0; n < pList->model()->rowCount(); ++n)
+        {
+            listTexts += pList->model()->index(n, 0).data().toString();
+        }
+        return listTexts;
+    }
+    static QString Current(const QListView* pList) { return pList->currentIndex().data().toString(); }
+    static void Click(QListView* pList, int nRow)
+    {
+        const QRect row = pList->visualRect(pList->model()->index(nRow, 0));
+        QTest::mouseClick(pList->viewport(), Qt::LeftButton, {}, row.center());
+    }
+    bool IsOpen() const { return Menu() && Menu()->isVisible(); }
+
+    QScopedPointer<QWidget> m_pWindow;
+    CAlarmTypeCombox* m_pCombo = nullptr;
+    QScopedPointer<QSignalSpy> m_pSpy;
+};
+
+void tst_AlarmTypeCombox::init()
+{
+    m_pWindow.reset(new QWidget);
+    m_pWindow->resize(700, 500);
+    m_pCombo = new CAlarmTypeCombox(m_pWindow.data());
+    m_pCombo->setGeometry(10, 10, 240, 32);
+    m_pCombo->addItems({"first of the record", "second"});
+    m_pCombo->InitMenu(g_mapMain, g_mapSub);
+    m_pSpy.reset(new QSignalSpy(m_pCombo, &CAlarmTypeCombox::SignalItemChange));
+    m_pWindow->show();
+    QApplication::setActiveWindow(m_pWindow.data());
+    QVERIFY(QTest::qWaitForWindowActive(m_pWindow.data()));
+    m_pCombo->setFocus();
+}
+
+void tst_AlarmTypeCombox::TheClosedBoxShowsItsCurrentItem()
+{
+    QCOMPARE(m_pCombo->currentText(), QString("first of the record"));
+    QCOMPARE(m_pCombo->GetCurrentChosenItem(), QList<int>());
+    QVERIFY(!IsOpen());
+}
+
+void tst_AlarmTypeCombox::ChoosingMarksAndEmits()
+{
+    QVERIFY(m_pCombo->ChooseItem(3, 4));
+    QCOMPARE(m_pCombo->GetCurrentChosenItem(), QList<int>{4});
+    QCOMPARE(m_pSpy->size(), 1);
+    QCOMPARE(m_pSpy->first(), (QVariantList{3, 4}));
+    QCOMPARE(m_pCombo->currentIndex(), 0);
+    QCOMPARE(m_pCombo->accessibleDescription(), QString("Tampering"));
+}
+
+void tst_AlarmTypeCombox::AnUnknownItemCannotBeChosen_data()
+{
+    QTest::addColumn<int>("nMain");
+    QTest::addColumn<int>("nSub");
+    QTest::newRow("unknown category") << 5 << 2;
+    QTest::newRow("unknown type") << 3 << 99;
+    QTest::newRow("type of another category") << 3 << 0;
+    QTest::newRow("nothing") << -1 << -1;
+}
+
+void tst_AlarmTypeCombox::AnUnknownItemCannotBeChosen()
+{
+    QFETCH(int, nMain);
+    QFETCH(int, nSub);
+    QVERIFY(m_pCombo->ChooseItem(9, 7));
+    QVERIFY(!m_pCombo->ChooseItem(nMain, nSub));
+    QCOMPARE(m_pCombo->GetCurrentChosenItem(), QList<int>{7});
+    QCOMPARE(m_pSpy->size(), 1);
+}
+
+void tst_AlarmTypeCombox::ClearingIsSilent()
+{
+    QVERIFY(m_pCombo->ChooseItem(3, 4));
+    m_pCombo->ClearChosenItem();
+    QCOMPARE(m_pCombo->GetCurrentChosenItem(), QList<int>());
+    QCOMPARE(m_pSpy->size(), 1);
+    QCOMPARE(m_pCombo->accessibleDescription(), QString());
+}
+
+void tst_AlarmTypeCombox::AChosenItemIsShown()
+{
+    const QImage before = m_pCombo->grab().toImage();
+    m_pCombo->ChooseItem(3, 4);
+    const QImage chosen = m_pCombo->grab().toImage();
+    QVERIFY(chosen != before);
+    CAlarmTypeCombox plain(m_pWindow.data());
+    plain.setGeometry(10, 60, 240, 32);
+    plain.addItem("Tampering");
+    plain.show();
+    m_pWindow->setFocus();
+    QCOMPARE(m_pCombo->grab().toImage(), plain.grab().toImage());
+    m_pCombo->ClearChosenItem();
+    m_pCombo->setFocus();
+    QCOMPARE(m_pCombo->grab().toImage(), before);
+}
+
+void tst_AlarmTypeCombox::ANewMenuKeepsTheItemsOfTheBox()
+{
+    m_pCombo->setCurrentIndex(1);
+    m_pCombo->InitMenu({{1, "Other"}}, {{1, {{0, "One"}}}});
+    QCOMPARE(m_pCombo->count(), 2);
+    QCOMPARE(m_pCombo->currentText(), QString("second"));
+    m_pCombo->showPopup();
+    QCOMPARE(Texts(Main()), QStringList{"Other"});
+}
+
+void tst_AlarmTypeCombox::ANewMenuKeepsAChoiceThatItHas()
+{
+    m_pCombo->ChooseItem(3, 4);
+    m_pCombo->InitMenu(g_mapMain, g_mapSub);
+    QCOMPARE(m_pCombo->GetCurrentChosenItem(), QList<int>{4});
+    QCOMPARE(m_pSpy->size(), 1);
+}
+
+void tst_AlarmTypeCombox::ANewMenuDropsAChoiceThatItLacks()
+{
+    m_pCombo->ChooseItem(3, 4);
+    m_pCombo->InitMenu({{3, "Video"}}, {{3, {{2, "Loss"}}}});
+    QCOMPARE(m_pCombo->GetCurrentChosenItem(), QList<int>());
+}
+
+void tst_AlarmTypeCombox::OpeningShowsBothLevels()
+{
+    QTest::mousePress(m_pCombo, Qt::LeftButton);
+    QVERIFY(IsOpen());
+    QCOMPARE(Texts(Main()), (QStringList{"Device", "Video", "Vehicle"}));
+    QCOMPARE(Current(Main()), QString("Device"));
+    QCOMPARE(Texts(Sub()), (QStringList{"Offline", "Online"}));
+    QVERIFY(!Sub()->currentIndex().isValid());
+    QVERIFY(Menu()->geometry().top() > m_pCombo->mapToGlobal(QPoint()).y());
+}
+
+void tst_AlarmTypeCombox::OpeningShowsTheChoice()
+{
+    m_pCombo->ChooseItem(3, 3);
+    m_pCombo->showPopup();
+    QCOMPARE(Current(Main()), QString("Video"));
+    QCOMPARE(Current(Sub()), QString("Motion"));
+    QVERIFY(Sub()->hasFocus());
+}
+
+void tst_AlarmTypeCombox::AnEmptyMenuDoesNotOpen()
+{
+    m_pCombo->InitMenu({}, {});
+    m_pCombo->showPopup();
+    QVERIFY(!IsOpen());
+    QTest::keyClicks(m_pCombo, "x");
+    QVERIFY(!IsOpen());
+}
+
+void tst_AlarmTypeCombox::TheMousePicks()
+{
+    m_pCombo->showPopup();
+    Click(Main(), 1);
+    QVERIFY(IsOpen());
+    QCOMPARE(m_pSpy->size(), 0);
+    Click(Sub(), 2);
+    QVERIFY(!IsOpen());
+    QCOMPARE(m_pSpy->size(), 1);
+    QCOMPARE(m_pSpy->first(), (QVariantList{3, 4}));
+    QCOMPARE(m_pCombo->GetCurrentChosenItem(), QList<int>{4});
+}
+
+void tst_AlarmTypeCombox::HoveringShowsACategory()
+{
+    m_pCombo->showPopup();
+    QTest::mouseMove(Main()->viewport(), Main()->visualRect(Main()->model()->index(0, 0)).center());
+    QTest::mouseMove(Main()->viewport(), Main()->visualRect(Main()->model()->index(2, 0)).center());
+    QTRY_COMPARE(Texts(Sub()), QStringList{"Plate"});
+    QCOMPARE(m_pSpy->size(), 0);
+}
+
+void tst_AlarmTypeCombox::KeysPick()
+{
+    QTest::keyClick(m_pCombo, Qt::Key_Down);
+    QVERIFY(IsOpen());
+    QTest::keyClick(Main(), Qt::Key_Down);
+    QCOMPARE(Texts(Sub()), (QStringList{"Loss", "Motion", "Tampering"}));
+    QTest::keyClick(Main(), Qt::Key_Right);
+    QVERIFY(Sub()->hasFocus());
+    QCOMPARE(Current(Sub()), QString("Loss"));
+    QTest::keyClick(Sub(), Qt::Key_Down);
+    QTest::keyClick(Sub(), Qt::Key_Return);
+    QVERIFY(!IsOpen());
+    QCOMPARE(m_pSpy->size(), 1);
+    QCOMPARE(m_pSpy->first(), (QVariantList{3, 3}));
+}
+
+void tst_AlarmTypeCombox::LeftLeadsBackAndEscapeCloses()
+{
+    m_pCombo->showPopup();
+    QTest::keyClick(Main(), Qt::Key_Return);
+    QVERIFY(Sub()->hasFocus());
+    QTest::keyClick(Sub(), Qt::Key_Left);
+    QVERIFY(Main()->hasFocus());
+    QTest::keyClick(Main(), Qt::Key_Escape);
+    QVERIFY(!IsOpen());
+    QCOMPARE(m_pSpy->size(), 0);
+}
+
+void tst_AlarmTypeCombox::TypingSearches()
+{
+    m_pCombo->showPopup();
+    QTest::keyClicks(Main(), "veh");
+    QCOMPARE(Current(Main()), QString("Vehicle"));
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    QTest::keyClicks(Main(), "vid");
+    QCOMPARE(Current(Main()), QString("Video"));
+    QTest::keyClick(Main(), Qt::Key_Right);
+    QTest::qWait(QApplication::keyboardInputInterval() + 50);
+    QTest::keyClicks(Sub(), "t");
+    QCOMPARE(Current(Sub()), QString("Tampering"));
+}
+
+void tst_AlarmTypeCombox::TypingOnTheClosedBoxOpensTheMenu()
+{
+    QTest::keyClicks(m_pCombo, "v");
+    QVERIFY(IsOpen());
+    QCOMPARE(Current(Main()), QString("Video"));
+    QCOMPARE(m_pCombo->currentIndex(), 0);
+}
+
+void tst_AlarmTypeCombox::ArrowsOnTheClosedBoxOpenTheMenu_data()
+{
+    QTest::addColumn<int>("nKey");
+    for (int nKey : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End, Qt::Key_PageDown, Qt::Key_Space, Qt::Key_F4})
+    {
+        QTest::newRow(qPrintable(QKeySequence(nKey).toString())) << nKey;
+    }
+}
+
+void tst_AlarmTypeCombox::ArrowsOnTheClosedBoxOpenTheMenu()
+{
+    QFETCH(int, nKey);
+    QTest::keyClick(m_pCombo, Qt::Key(nKey));
+    QVERIFY(IsOpen());
+    QCOMPARE(m_pCombo->currentIndex(), 0);
+}
+
+void tst_AlarmTypeCombox::PressingTheBoxAgainClosesTheMenu()
+{
+    m_pCombo->showPopup();
+    const QPoint onBox = Menu()->mapFromGlobal(m_pCombo->mapToGlobal(m_pCombo->rect().center()));
+    QTest::mousePress(Menu(), Qt::LeftButton, {}, onBox);
+    QVERIFY(!IsOpen());
+    QVERIFY(Menu()->testAttribute(Qt::WA_NoMouseReplay));
+}
+
+void tst_AlarmTypeCombox::TheWheelChangesNothing()
+{
+    TurnWheel(m_pCombo, QRectF(m_pCombo->rect()).center());
+    QCOMPARE(m_pCombo->currentIndex(), 0);
+    QCOMPARE(m_pSpy->size(), 0);
+}
+
+void tst_AlarmTypeCombox::LongMenusScroll()
+{
+    QMap<int, QString> mapLong;
+    for (int n = 0; n < 200; ++n)
+    {
+        mapLong.insert(n, QString("Type %1").arg(n));
+    }
+    m_pCombo->InitMenu({{1, "All"}}, {{1, mapLong}});
+    m_pCombo->ChooseItem(1, 150);
+    m_pCombo->showPopup();
+    QVERIFY(Menu()->height() < 500);
+    QTRY_VERIFY(Sub()->verticalScrollBar()->maximum() > 0);
+    QVERIFY(Sub()->viewport()->rect().contains(Sub()->visualRect(Sub()->currentIndex())));
+    QTest::keyClick(Sub(), Qt::Key_End);
+    QCOMPARE(Current(Sub()), QString("Type 199"));
+    QVERIFY(Sub()->viewport()->rect().intersects(Sub()->visualRect(Sub()->currentIndex())));
+}
+
+void tst_AlarmTypeCombox::TenThousandTypesOpenQuickly()
+{
+    QMap<int, QString> mapLong;
+    for (int n = 0; n < 10000; ++n)
+    {
+        mapLong.insert(n, QString("Type %1").arg(n));
+    }
+    QElapsedTimer clock;
+    clock.start();
+    m_pCombo->InitMenu({{1, "All"}}, {{1, mapLong}});
+    m_pCombo->showPopup();
+    QCoreApplication::processEvents();
+    QVERIFY2(clock.elapsed() < 1000, qPrintable(QString::number(clock.elapsed())));
+}
+
+QTEST_MAIN(tst_AlarmTypeCombox)
+
+#include "tst_AlarmTypeCombox.moc"
