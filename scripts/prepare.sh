@@ -42,5 +42,5 @@ quietly() {
     return 1
 }
 
-BUILD_PACKAGES="g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5 libpugixml-dev fonts-inter"
-TEST_PACKAGES="util-linux binutils"
+BUILD_PACKAGES="g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5 qtmultimedia5-dev libqt5multimedia5-plugins libpugixml-dev fonts-inter"
+TEST_PACKAGES="util-linux binutils pulseaudio pulseaudio-utils"

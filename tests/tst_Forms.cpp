@@ -1,6 +1,7 @@
 // What a keyboard or screen reader user needs of every form: captions lead to their controls, controls have names, and
 // Tab visits them in the order in which they stand.
 
+#include <LocalConfig/pages/CAlarmConfig.h>
 #include <LocalConfig/pages/CBasicConfig.h>
 #include <LocalConfig/pages/CCaptureConfig.h>
 #include <LocalConfig/pages/CPlaybackConfig.h>
@@ -50,6 +51,10 @@ const SForm g_arrForms[] = {
       "silentTimeLabel"},
      821},
     {"CPlaybackConfig", &Make<LocalConfig::CPlaybackConfig>, {"label_3"}, 148},
+    {"CAlarmConfig",
+     &Make<LocalConfig::CAlarmConfig>,
+     {"labAlarmTypeForSound", "labSoundPath", "labAlarmTypeForFlash", "label"},
+     502},
     {"CCaptureConfig",
      &Make<LocalConfig::CCaptureConfig>,
      {"picFormatLabel", "picPathLabel", "picNameFormatLab", "picTmLabel", "picNumLabel"},
@@ -192,7 +197,7 @@ void tst_Forms::NothingIsClipped()
     QVERIFY(QTest::qWaitForWindowExposed(&parent));
     for (QWidget* pWidget : pPage->findChildren<QWidget*>())
     {
-        if ((IsInput(pWidget) || qobject_cast<QLabel*>(pWidget)) && !pWidget->isHidden() &&
+        if ((IsInput(pWidget) || qobject_cast<QLabel*>(pWidget)) && pWidget->isVisible() &&
             !pWidget->objectName().startsWith("qt_"))
         {
             const QRect geometry(pWidget->mapTo(pPage, QPoint()), pWidget->size());

@@ -1,5 +1,6 @@
 #include "ConfigPages.h"
 
+#include "CAlarmConfig.h"
 #include "CBasicConfig.h"
 #include "CCaptureConfig.h"
 #include "CPlaybackConfig.h"
@@ -30,10 +31,15 @@ struct SPage
 };
 
 constexpr SPage g_arrPages[] = {
-    {IndexBasic, &Create<CBasicConfig>},       {IndexVideo, &Create<CVideoConfig>},
-    {IndexPlayback, &Create<CPlaybackConfig>}, {IndexCapture, &Create<CCaptureConfig>},
-    {IndexRecord, &Create<CRecordConfig>},     {IndexTvWall, &Create<CTvWallConfig>},
-    {IndexSecurity, &Create<CSecurityConfig>}, {IndexShortcutKey, &Create<CShortcutKeyConfig>},
+    {IndexBasic, &Create<CBasicConfig>},
+    {IndexVideo, &Create<CVideoConfig>},
+    {IndexPlayback, &Create<CPlaybackConfig>},
+    {IndexCapture, &Create<CCaptureConfig>},
+    {IndexRecord, &Create<CRecordConfig>},
+    {IndexAlarm, &Create<CAlarmConfig>},
+    {IndexTvWall, &Create<CTvWallConfig>},
+    {IndexSecurity, &Create<CSecurityConfig>},
+    {IndexShortcutKey, &Create<CShortcutKeyConfig>},
 };
 
 } // namespace

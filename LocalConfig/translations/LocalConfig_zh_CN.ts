@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>CAlarmConfig</name>
+    <message>
+        <source>Alarm Config</source>
+        <translation>报警配置</translation>
+    </message>
+    <message>
+        <source>Play alarm sound</source>
+        <translation>播放报警声音</translation>
+    </message>
+    <message>
+        <source>Alarm Type</source>
+        <translation>报警类型</translation>
+    </message>
+    <message>
+        <source>Alarm Type of the Sound</source>
+        <translation>声音的报警类型</translation>
+    </message>
+    <message>
+        <source>Sound Path</source>
+        <translation>声音路径</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>循环</translation>
+    </message>
+    <message>
+        <source>Map flashes when alarm occurs</source>
+        <translation>报警时地图闪烁</translation>
+    </message>
+    <message>
+        <source>Alarm Types that Flash</source>
+        <translation>闪烁的报警类型</translation>
+    </message>
+    <message>
+        <source>Display alarm-linked video when alarm occurs</source>
+        <translation>报警时显示联动视频</translation>
+    </message>
+    <message>
+        <source>Open Video Type</source>
+        <translation>打开视频方式</translation>
+    </message>
+    <message>
+        <source>As Pop Up</source>
+        <translation>弹窗</translation>
+    </message>
+    <message>
+        <source>In Live View</source>
+        <translation>在预览中</translation>
+    </message>
+</context>
+<context>
     <name>CBasicConfig</name>
     <message>
         <source>Basic Config</source>
@@ -405,6 +460,25 @@
     <message>
         <source>(1-30 min)</source>
         <translation>（1-30 分钟）</translation>
+    </message>
+</context>
+<context>
+    <name>LocalConfig::CAlarmConfig</name>
+    <message>
+        <source>:</source>
+        <translation>：</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Select a wav file</source>
+        <translation>选择 wav 文件</translation>
+    </message>
+    <message>
+        <source>WAVE Files (*.wav)</source>
+        <translation>WAVE 文件 (*.wav)</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "KvComboBox.h"
 
+#include <QAbstractItemView>
 #include <QEvent>
 
 namespace KVGUI
@@ -12,7 +13,8 @@ KvComboBox::KvComboBox(QWidget* pParent)
 void KvComboBox::changeEvent(QEvent* pEvent)
 {
     // The base would build the list that opens, for a box that has not even been shown and gets its style then.
-    if (pEvent->type() == QEvent::StyleChange && !testAttribute(Qt::WA_WState_Polished))
+    if (pEvent->type() == QEvent::StyleChange && !testAttribute(Qt::WA_WState_Polished) &&
+        !findChild<QAbstractItemView*>())
     {
         QWidget::changeEvent(pEvent);
         return;

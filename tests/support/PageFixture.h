@@ -9,7 +9,7 @@
 #include <QtTest>
 
 /// A page in a window that is shown and active, with a section that notes its calls.
-template <class Page, class Interface, class Record>
+template <class Page, class Interface, class Record, class Section = CFakeSection<Interface, Record>>
 struct SPageFixture
 {
     SPageFixture()
@@ -38,7 +38,7 @@ struct SPageFixture
     }
 
     CJournal journal;
-    CFakeSection<Interface, Record> section;
+    Section section;
     QWidget window;
     Page page;
 };
