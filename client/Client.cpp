@@ -1,5 +1,6 @@
 #include "Client.h"
 
+#include "AlarmSounds.h"
 #include "AutoStart.h"
 #include "ConfigService.h"
 #include "LoginManager.h"
@@ -9,6 +10,7 @@
 #include <KvGui/KvMessageNotify.h>
 #include <KvGui/KvToolListView.h>
 #include <LocalConfig/CLocalConfig.h>
+#include <UICommonModule/CAlarmType.h>
 #include <UICommonModule/CAtomicFile.h>
 #include <UICommonModule/CErrorCode.h>
 #include <UICommonModule/CGlobalInfo.h>
@@ -30,6 +32,7 @@
 #include <cstdio>
 #include <memory>
 
+using UICommonMdl::CAlarmType;
 using UICommonMdl::CAtomicFile;
 using UICommonMdl::CErrorCode;
 using UICommonMdl::CGlobalInfo;
@@ -306,6 +309,11 @@ int Client::Run(QApplication& application)
 int Client::OpenWindow()
 {
     ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadWrite, &WriteAutoStart);
+    service.SeedAlarms(*CAlarmType::Instance());
+    if (!ProvideSounds())
+    {
+        Complain(Tr(QT_TRANSLATE_NOOP("Client", "Not all alarm sounds could be put into the data folder.")));
+    }
     const std::unique_ptr<LoginManager> pLoginManager = MakeLoginManager(m_commandLine);
     UserManager userManager(m_commandLine.setMissingRights + service.GetMissingRights(), pLoginManager.get());
     MainWindow window(service, userManager);
@@ -331,6 +339,7 @@ int Client::TakeScreenshot()
         return g_nExitFailed;
     }
     ComplainAbout(service);
+    service.SeedAlarms(*CAlarmType::Instance());
     const std::unique_ptr<LoginManager> pLoginManager = MakeLoginManager(m_commandLine);
     UserManager userManager(m_commandLine.setMissingRights + service.GetMissingRights(), pLoginManager.get());
     if (QGuiApplication::platformName() == QLatin1String("offscreen"))

@@ -1,5 +1,7 @@
 #include "ConfigService.h"
 
+#include "AlarmSounds.h"
+
 #include <UICommonModule/CAtomicFile.h>
 #include <UICommonModule/CErrorCode.h>
 
@@ -146,6 +148,12 @@ void ConfigService::Revert()
 {
     m_working = m_stored;
     m_alarm.Accept(m_stored.alarm);
+}
+
+void ConfigService::SeedAlarms(const UICommonMdl::CAlarmType& catalogue)
+{
+    LocalConfigClient::SeedAlarms(catalogue, m_stored.alarm);
+    Revert();
 }
 
 bool ConfigService::IsOwnFile(const QString& strPath) const

@@ -10,6 +10,11 @@
 
 #include <functional>
 
+namespace UICommonMdl
+{
+class CAlarmType;
+}
+
 namespace LocalConfigClient
 {
 
@@ -48,6 +53,10 @@ public:
 
     /// Drops what the sections have taken but nobody has saved.
     void Revert();
+
+    /// Adds entries for the alarm categories and types of a catalogue that the records do not know yet. They are
+    /// written with the next save.
+    void SeedAlarms(const UICommonMdl::CAlarmType& catalogue);
 
     /// The rights that the document takes from the user.
     QSet<int> GetMissingRights() const { return m_document.GetMissingRights(); }
@@ -112,7 +121,8 @@ private:
     RecordSection<LocalConfigLogical::ISnapshotSection, LocalConfigLogical::SnapshotConfigInfo> m_snapshot{
         m_working.snapshot};
     RecordSection<LocalConfigLogical::IRecordSection, LocalConfigLogical::RecordConfigInfo> m_record{m_working.record};
-    AlarmSection m_alarm{m_working.alarm};
+    AlarmSection m_alarm{m_working.alarm,
+                         [this](const LocalConfigLogical::AlarmConfigInfo& record) { m_stored.alarm = record; }};
     RecordSection<LocalConfigLogical::IShortcutKeySection, LocalConfigLogical::ShortcutKeyConfigInfo> m_shortcutKey{
         m_working.shortcutKey};
     RecordSection<LocalConfigLogical::ITvWallSection, LocalConfigLogical::TvWallConfigInfo> m_tvWall{m_working.tvWall};

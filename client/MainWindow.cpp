@@ -1,15 +1,20 @@
 #include "MainWindow.h"
 
+#include "AlarmCenter.h"
 #include "ConfigService.h"
 #include "LiveActions.h"
+#include "MapView.h"
 #include "SplitView.h"
 
 #include <KvGui/KvMessageNotify.h>
 #include <KvGui/KvPushButton.h>
 #include <KvGui/KvToolListView.h>
 #include <LocalConfig/CLocalConfig.h>
+#include <UICommonModule/CAlarmType.h>
+#include <UICommonModule/CAlarmTypeCombox.h>
 
 #include <QDateTime>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScreen>
@@ -17,6 +22,8 @@
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+
+using UICommonMdl::CAlarmType;
 
 namespace LocalConfigClient
 {
@@ -27,6 +34,7 @@ namespace
 // By basic.clientSize.
 constexpr QSize g_arrClientSizes[] = {{1280, 800}, {1280, 1024}, {1440, 900}, {1680, 1050}};
 
+constexpr int g_nPanelWidth = 312;
 constexpr int g_nLayoutTime = 120; // milliseconds until the dialog has computed its final layout
 
 /// "UTC+01:00"
@@ -79,11 +87,15 @@ MainWindow::MainWindow(ConfigService& configService, UserLogical::IUserManager& 
     m_pSplitView = new SplitView(pClient);
     m_pLiveActions = new LiveActions(m_configService, *m_pSplitView, this);
     m_pHeader = MakeHeader();
-    auto* pLayout = new QVBoxLayout(pClient);
+    m_pAlarmPanel = MakeAlarmPanel();
+    auto* pLayout = new QGridLayout(pClient);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setSpacing(0);
-    pLayout->addWidget(m_pHeader);
-    pLayout->addWidget(m_pSplitView, 1);
+    pLayout->addWidget(m_pHeader, 0, 0, 1, 2);
+    pLayout->addWidget(m_pSplitView, 1, 0);
+    pLayout->addWidget(m_pAlarmPanel, 1, 1);
+    pLayout->setColumnStretch(0, 1);
+    pLayout->setRowStretch(1, 1);
     m_pPages->addWidget(pClient);
     m_pPages->addWidget(MakeLockScreen());
     setCentralWidget(m_pPages);
@@ -144,6 +156,64 @@ QWidget* MainWindow::MakeHeader()
     connect(addButton("btnSettings", tr("Local Config..."), tr("Settings of this workstation (Ctrl+,)")),
             &QAbstractButton::clicked, this, [this] { OpenSettings(); });
     return pHeader;
+}
+
+QWidget* MainWindow::MakeAlarmPanel()
+{
+    auto* pPanel = new QWidget(m_pSplitView->parentWidget());
+    m_pMapView = new MapView(pPanel);
+    m_pAlarmCenter = new AlarmCenter(m_configService, *m_pMapView, *m_pSplitView, this);
+    connect(m_pAlarmCenter, &AlarmCenter::SignalChanged, this, &MainWindow::ShowAlarm);
+
+    QMap<int, QString> mapMain;
+    QMap<int, QMap<int, QString>> mapSub;
+    CAlarmType::Instance()->GetAlarmCategory(mapMain, mapSub);
+    m_pMapView->SetCategories(mapMain);
+    auto* pCaption = new QLabel(tr("Alarm Type:"), pPanel);
+    m_pAlarmType = new UICommonMdl::CAlarmTypeCombox(pPanel);
+    m_pAlarmType->setObjectName(QStringLiteral("alarmType"));
+    m_pAlarmType->setAccessibleName(tr("Alarm Type"));
+    pCaption->setBuddy(m_pAlarmType);
+    m_pAlarmType->InitMenu(mapMain, mapSub);
+    if (!mapMain.isEmpty())
+    {
+        m_pAlarmType->ChooseItem(mapMain.firstKey(), mapSub.first().firstKey());
+    }
+    auto* pRaise = new KVGUI::KvPushButton(tr("Test Alarm"), pPanel);
+    pRaise->setObjectName(QStringLiteral("btnTestAlarm"));
+    pRaise->setEnabled(!mapMain.isEmpty());
+    connect(pRaise, &QAbstractButton::clicked, this, [this] {
+        m_pAlarmCenter->Raise(
+            CAlarmType::Instance()->GetAlarmTypeIdByIndex(m_pAlarmType->GetCurrentChosenItem().value(0, -1)));
+    });
+    m_pAlarm = new QLabel(pPanel);
+    m_pAlarm->setObjectName(QStringLiteral("alarm"));
+    m_pAlarm->setWordWrap(true);
+    m_pAcknowledge = new KVGUI::KvPushButton(tr("Acknowledge"), pPanel);
+    m_pAcknowledge->setObjectName(QStringLiteral("btnAcknowledge"));
+    connect(m_pAcknowledge, &QAbstractButton::clicked, m_pAlarmCenter, &AlarmCenter::Acknowledge);
+
+    auto* pLayout = new QVBoxLayout(pPanel);
+    pLayout->setContentsMargins(16, 8, 16, 16);
+    pLayout->setSpacing(8);
+    pLayout->addWidget(m_pMapView);
+    pLayout->addSpacing(8);
+    pLayout->addWidget(pCaption);
+    pLayout->addWidget(m_pAlarmType);
+    pLayout->addWidget(pRaise);
+    pLayout->addStretch();
+    pLayout->addWidget(m_pAlarm);
+    pLayout->addWidget(m_pAcknowledge);
+    pPanel->setFixedWidth(g_nPanelWidth);
+    ShowAlarm();
+    return pPanel;
+}
+
+void MainWindow::ShowAlarm()
+{
+    const bool bActive = m_pAlarmCenter->IsActive();
+    m_pAlarm->setText(bActive ? tr("Alarm: %1").arg(m_pAlarmCenter->GetAlarmName()) : QString());
+    m_pAcknowledge->setEnabled(bActive);
 }
 
 QWidget* MainWindow::MakeLockScreen()
@@ -210,6 +280,7 @@ void MainWindow::SetFullScreen(bool bFullScreen)
         m_bMaximized = isMaximized();
     }
     m_pHeader->setVisible(!bFullScreen);
+    m_pAlarmPanel->setVisible(!bFullScreen);
     if (bFullScreen)
     {
         showFullScreen();

@@ -16,11 +16,18 @@ namespace KVGUI
 class KvPushButton;
 }
 
+namespace UICommonMdl
+{
+class CAlarmTypeCombox;
+}
+
 namespace LocalConfigClient
 {
 
+class AlarmCenter;
 class ConfigService;
 class LiveActions;
+class MapView;
 class SplitView;
 
 /// The client's main window: shows what the settings do, and opens the settings dialog.
@@ -50,6 +57,8 @@ private:
     class ConnectionObserver;
 
     QWidget* MakeHeader();
+    QWidget* MakeAlarmPanel();
+    void ShowAlarm();
     QWidget* MakeLockScreen();
     void AddShortcuts();
     void SettleShortcuts();
@@ -62,6 +71,12 @@ private:
     LiveActions* m_pLiveActions;
     QStackedWidget* m_pPages; // the client and the lock screen
     QWidget* m_pHeader;
+    QWidget* m_pAlarmPanel;
+    MapView* m_pMapView;
+    AlarmCenter* m_pAlarmCenter;
+    UICommonMdl::CAlarmTypeCombox* m_pAlarmType;
+    QLabel* m_pAlarm;
+    KVGUI::KvPushButton* m_pAcknowledge;
     KVGUI::KvPushButton* m_pRecord;
     KVGUI::KvPushButton* m_pUnlock;
     QVector<QShortcut*> m_listKeyboard; // of the PC keyboard

@@ -59,8 +59,12 @@ private:
 class AlarmSection final : public LocalConfigLogical::IAlarmSection
 {
 public:
-    explicit AlarmSection(LocalConfigLogical::AlarmConfigInfo& working)
+    using StoreHandler = std::function<void(const LocalConfigLogical::AlarmConfigInfo&)>;
+
+    /// \param storeHandler  called with a record that is to persist although nobody is saving
+    AlarmSection(LocalConfigLogical::AlarmConfigInfo& working, StoreHandler storeHandler)
         : m_working(working)
+        , m_storeHandler(std::move(storeHandler))
     {}
 
     /// What ResetConfig goes back to.
@@ -72,6 +76,11 @@ public:
         if (bPersist)
         {
             Accept(record);
+            if (!m_bSaving)
+            {
+                m_storeHandler(record);
+            }
+            m_bSaving = false;
         }
         return 0;
     }
@@ -100,11 +109,14 @@ public:
         m_working = defaults;
     }
 
-    void PrepareSave() override {} // the working record is all that a save needs
+    /// The record that comes next belongs to a save of all sections, which may still fail.
+    void PrepareSave() override { m_bSaving = true; }
 
 private:
     LocalConfigLogical::AlarmConfigInfo& m_working;
+    StoreHandler m_storeHandler;
     LocalConfigLogical::AlarmConfigInfo m_accepted;
+    bool m_bSaving = false;
 };
 
 } // namespace LocalConfigClient

@@ -2,6 +2,7 @@
 
 #include "support/ChangedSettings.h"
 
+#include <UICommonModule/CAlarmType.h>
 #include <UICommonModule/CErrorCode.h>
 #include <client/ConfigService.h>
 
@@ -122,6 +123,8 @@ private slots:
     void SavedHandlerHearsOnlySuccess();
 
     void RevertDropsWhatNobodySaved();
+    void AlarmsThatAreToPersistOutsideASaveAreStored();
+    void SeedsKeepWhatIsStored();
     void ALockThatCameLateDoesNotOverwrite();
 
     void ImportReplacesEverything();
@@ -680,6 +683,7 @@ void tst_ConfigService::RevertDropsWhatNobodySaved()
     auto* pAlarm = static_cast<IAlarmSection*>(service.GetSection(SectionAlarm));
     AlarmConfigInfo record;
     record.loopSound = true;
+    pAlarm->PrepareSave();
     pAlarm->SetConfig(record, true);
     SetClientSize(service, 0);
     QVERIFY2(!service.GetStored().alarm.loopSound, "nothing is stored before a save");
@@ -688,6 +692,51 @@ void tst_ConfigService::RevertDropsWhatNobodySaved()
     pAlarm->ResetConfig(false);
     pAlarm->GetConfig(record);
     QVERIFY(!record.loopSound);
+}
+
+void tst_ConfigService::AlarmsThatAreToPersistOutsideASaveAreStored()
+{
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    auto* pAlarm = static_cast<IAlarmSection*>(service.GetSection(SectionAlarm));
+    AlarmConfigInfo record;
+    record.alarmSound = false;
+    pAlarm->SetConfig(record, true);
+    QVERIFY(!service.GetStored().alarm.alarmSound);
+    service.Revert();
+    pAlarm->GetConfig(record);
+    QVERIFY(!record.alarmSound);
+    record.loopSound = true;
+    pAlarm->SetConfig(record, false);
+    QVERIFY2(!service.GetStored().alarm.loopSound, "the working record alone");
+}
+
+void tst_ConfigService::SeedsKeepWhatIsStored()
+{
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    auto* pAlarm = static_cast<IAlarmSection*>(service.GetSection(SectionAlarm));
+    AlarmConfigInfo record;
+    record.flashCategories = {{3, false}, {999, true}};
+    record.alarmSounds[200000].customSound = "/own/face.wav";
+    pAlarm->PrepareSave();
+    pAlarm->SetConfig(record, true);
+    QCOMPARE(service.SaveAll(), 1);
+
+    const auto* pCatalogue = UICommonMdl::CAlarmType::Instance();
+    service.SeedAlarms(*pCatalogue);
+    pAlarm->GetConfig(record);
+    QVERIFY(!record.flashCategories.at(3) && record.flashCategories.at(999) && record.flashCategories.at(2));
+    QVERIFY(!record.flashCategories.at(1) && !record.flashCategories.at(6)); // not on the map
+    QCOMPARE(record.alarmSounds.at(200000).customSound, std::string("/own/face.wav"));
+    QCOMPARE(record.alarmSounds.at(302).alarmType, 302);
+    QCOMPARE(record.alarmSounds.at(302).defaultSound, std::string("video.wav"));
+    QCOMPARE(record.alarmSounds.count(961), std::size_t(0)); // shares the entry 200000
+    QCOMPARE(record.alarmSounds.count(967), std::size_t(1));
+    QCOMPARE(record.alarmSounds.count(901), std::size_t(0));  // 100000
+    QCOMPARE(record.alarmSounds.count(3115), std::size_t(0)); // 2
+    QCOMPARE(record.alarmSounds.at(2).defaultSound, std::string("analysis.wav"));
+    QCOMPARE(service.SaveAll(), 1);
+    const ConfigService later(m_pFolder->path(), ConfigService::ReadOnly);
+    QCOMPARE(later.GetStored().alarm.alarmSounds.size(), record.alarmSounds.size());
 }
 
 void tst_ConfigService::ALockThatCameLateDoesNotOverwrite()

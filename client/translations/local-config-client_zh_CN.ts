@@ -43,6 +43,10 @@
         <source>&apos;%1&apos; is the client&apos;s own file.</source>
         <translation>“%1”是客户端自己的文件。</translation>
     </message>
+    <message>
+        <source>Not all alarm sounds could be put into the data folder.</source>
+        <translation>部分报警声音无法放入数据文件夹。</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -191,6 +195,21 @@
     </message>
 </context>
 <context>
+    <name>LocalConfigClient::AlarmCenter</name>
+    <message>
+        <source>Alarm %1</source>
+        <translation>报警 %1</translation>
+    </message>
+    <message>
+        <source>Acknowledge</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>LocalConfigClient::LiveActions</name>
     <message>
         <source>Picture saved in %1</source>
@@ -266,6 +285,33 @@
     <message>
         <source>Unlock</source>
         <translation>解锁</translation>
+    </message>
+    <message>
+        <source>Alarm Type:</source>
+        <translation>报警类型：</translation>
+    </message>
+    <message>
+        <source>Alarm Type</source>
+        <translation>报警类型</translation>
+    </message>
+    <message>
+        <source>Test Alarm</source>
+        <translation>测试报警</translation>
+    </message>
+    <message>
+        <source>Acknowledge</source>
+        <translation>确认</translation>
+    </message>
+    <message>
+        <source>Alarm: %1</source>
+        <translation>报警：%1</translation>
+    </message>
+</context>
+<context>
+    <name>LocalConfigClient::MapView</name>
+    <message>
+        <source>Map</source>
+        <translation>地图</translation>
     </message>
 </context>
 <context>

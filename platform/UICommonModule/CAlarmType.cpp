@@ -7,6 +7,7 @@
 #include <KvGui/KvMessageNotify.h>
 
 #include <QDir>
+#include <QTimer>
 
 #include <pugixml.hpp>
 
@@ -17,6 +18,7 @@ namespace
 {
 
 constexpr char g_szFile[] = "AlarmTypes.xml";
+constexpr int g_nFirstNotificationDelay = 200; // milliseconds
 
 /// What every element of the catalogue carries.
 struct SEntry
@@ -46,24 +48,45 @@ CAlarmType* CAlarmType::Instance()
 
 CAlarmType::CAlarmType()
 {
-    Read(QString());
+    const QString strFile = GetClientsFile();
+    const int nResult = Read(strFile);
+    if (nResult != CErrorCode::Success)
+    {
+        // The first use is often the making of a window, so that nothing could be seen yet.
+        QTimer::singleShot(g_nFirstNotificationDelay, this, [strFile, nResult] { Notify(strFile, nResult); });
+    }
+}
+
+QString CAlarmType::GetClientsFile()
+{
+    return QDir(CGlobalInfo::GetResourcePath()).filePath(QString::fromLatin1(g_szFile));
+}
+
+void CAlarmType::Notify(const QString& strFile, int nCode)
+{
+    KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(CErrorCode::GetErroCodeInfor(
+        tr("No alarm types are known, for '%1' cannot be used").arg(QDir::toNativeSeparators(strFile)), nCode, true,
+        false));
 }
 
 int CAlarmType::Load(const QString& strFile)
 {
-    const int nResult = Read(strFile);
+    const QString strPath = strFile.isEmpty() ? GetClientsFile() : strFile;
+    const int nResult = Read(strPath);
     emit SignalUpdateAlarmType();
     emit SignalUpdateCustomAlarmType();
+    if (nResult != CErrorCode::Success)
+    {
+        Notify(strPath, nResult);
+    }
     return nResult;
 }
 
 int CAlarmType::Read(const QString& strFile)
 {
-    const QString strPath =
-        strFile.isEmpty() ? QDir(CGlobalInfo::GetResourcePath()).filePath(QString::fromLatin1(g_szFile)) : strFile;
     Clear();
     QByteArray content;
-    int nResult = CAtomicFile::Read(strPath, content);
+    int nResult = CAtomicFile::Read(strFile, content);
     if (nResult == CErrorCode::Success)
     {
         nResult = Parse(content);
@@ -71,9 +94,6 @@ int CAlarmType::Read(const QString& strFile)
     if (nResult != CErrorCode::Success)
     {
         Clear();
-        KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(CErrorCode::GetErroCodeInfor(
-            tr("No alarm types are known, for '%1' cannot be used").arg(QDir::toNativeSeparators(strPath)), nResult,
-            true, false));
     }
     return nResult;
 }

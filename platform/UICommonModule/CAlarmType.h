@@ -89,6 +89,8 @@ private:
     };
 
     CAlarmType();
+    static QString GetClientsFile();
+    static void Notify(const QString& strFile, int nCode);
     int Read(const QString& strFile);
     int Parse(const QByteArray& content);
     void Clear();

@@ -64,6 +64,7 @@ CAlarmTypeMenu::CAlarmTypeMenu(QWidget* pOwner)
     , m_pSubList(MakeList("subItems", tr("Alarm types"), m_pSubModel))
 {
     setObjectName(QStringLiteral("alarmTypeMenu"));
+    setFrameShape(QFrame::StyledPanel);
     auto* pLayout = new QHBoxLayout(this);
     pLayout->setContentsMargins(0, 0, 0, 0);
     pLayout->setSpacing(0);
