@@ -57,16 +57,16 @@ private:
 };
 
 CAlarmTypeMenu::CAlarmTypeMenu(QWidget* pOwner)
-    : QFrame(pOwner, Qt::Popup)
+    : QWidget(pOwner, Qt::Popup)
     , m_pMainModel(new CMenuModel(this))
     , m_pSubModel(new CMenuModel(this))
     , m_pMainList(MakeList("mainItems", tr("Alarm categories"), m_pMainModel))
     , m_pSubList(MakeList("subItems", tr("Alarm types"), m_pSubModel))
 {
     setObjectName(QStringLiteral("alarmTypeMenu"));
-    setFrameShape(QFrame::StyledPanel);
+    setAttribute(Qt::WA_StyledBackground); // no frame, since style sheets leave those of a combo box alone
     auto* pLayout = new QHBoxLayout(this);
-    pLayout->setContentsMargins(0, 0, 0, 0);
+    pLayout->setContentsMargins(1, 1, 1, 1); // the border
     pLayout->setSpacing(0);
     pLayout->addWidget(m_pMainList);
     pLayout->addWidget(m_pSubList);
@@ -194,7 +194,7 @@ bool CAlarmTypeMenu::eventFilter(QObject* pWatched, QEvent* pEvent)
     {
         return true;
     }
-    return QFrame::eventFilter(pWatched, pEvent);
+    return QWidget::eventFilter(pWatched, pEvent);
 }
 
 void CAlarmTypeMenu::mousePressEvent(QMouseEvent* pEvent)
@@ -203,7 +203,7 @@ void CAlarmTypeMenu::mousePressEvent(QMouseEvent* pEvent)
     const QWidget* pOwner = parentWidget();
     const bool bOnOwner = pOwner->rect().contains(pOwner->mapFromGlobal(pEvent->globalPos()));
     setAttribute(Qt::WA_NoMouseReplay, bOnOwner);
-    QFrame::mousePressEvent(pEvent);
+    QWidget::mousePressEvent(pEvent);
 }
 
 } // namespace UICommonMdl

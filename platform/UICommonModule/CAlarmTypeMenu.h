@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QFrame>
 #include <QMap>
+#include <QWidget>
 
 class QListView;
 
@@ -11,7 +11,7 @@ namespace UICommonMdl
 class CMenuModel;
 
 /// The menu of CAlarmTypeCombox: two lists beside each other, which scroll and take any number of items.
-class CAlarmTypeMenu : public QFrame
+class CAlarmTypeMenu : public QWidget
 {
     Q_OBJECT
 
