@@ -6,6 +6,7 @@
 #include "support/FakeHost.h"
 #include "support/FakeSections.h"
 
+#include "ui_CAlarmConfig.h"
 #include "ui_CBasicConfig.h"
 #include "ui_CCaptureConfig.h"
 #include "ui_CLocalConfig.h"
@@ -50,6 +51,7 @@ struct SSections
         , playback(journal)
         , snapshot(journal)
         , record(journal)
+        , alarm(journal)
         , shortcutKey(journal)
         , tvWall(journal)
         , security(journal)
@@ -57,9 +59,15 @@ struct SSections
 
     QMap<int, IConfigSection*> GetMap()
     {
-        return {{SectionBasic, &basic},       {SectionVideo, &video},      {SectionPlayback, &playback},
-                {SectionSnapshot, &snapshot}, {SectionRecord, &record},    {SectionShortcutKey, &shortcutKey},
-                {SectionTvWall, &tvWall},     {SectionSecurity, &security}};
+        return {{SectionBasic, &basic},
+                {SectionVideo, &video},
+                {SectionPlayback, &playback},
+                {SectionSnapshot, &snapshot},
+                {SectionRecord, &record},
+                {SectionAlarm, &alarm},
+                {SectionShortcutKey, &shortcutKey},
+                {SectionTvWall, &tvWall},
+                {SectionSecurity, &security}};
     }
 
     CFakeBasicSection basic;
@@ -67,6 +75,7 @@ struct SSections
     CFakeSection<IPlaybackSection, PlaybackConfigInfo> playback;
     CFakeSection<ISnapshotSection, SnapshotConfigInfo> snapshot;
     CFakeSection<IRecordSection, RecordConfigInfo> record;
+    CFakeAlarmSection alarm;
     CFakeSection<IShortcutKeySection, ShortcutKeyConfigInfo> shortcutKey;
     CFakeSection<ITvWallSection, TvWallConfigInfo> tvWall;
     CFakeSection<ISecuritySection, SecurityConfigInfo> security;
@@ -140,6 +149,7 @@ void BM_BareFormsFirstShow(benchmark::State& state)
 {
     const QString strDialogSheet = ReadSheet("CLocalConfig.qss");
     const QString strPickerSheet = ReadSheet("CSplitWndNumConfig.qss");
+    const QString strAlarmSheet = ReadSheet("CAlarmConfig.qss");
     const QString strKeySheet = ReadSheet("CShortcutKeyConfig.qss");
     for (auto _ : state)
     {
@@ -158,6 +168,7 @@ void BM_BareFormsFirstShow(benchmark::State& state)
         BuildBare<Ui::CPlaybackConfig>(shell.m_gBPlayback);
         BuildBare<Ui::CCaptureConfig>(shell.m_gBCapture);
         BuildBare<Ui::CRecordConfig>(shell.m_gBRecord);
+        BuildBare<Ui::CAlarmConfig>(shell.m_gBAlarm)->setStyleSheet(strAlarmSheet);
         BuildBare<Ui::CTvWallConfig>(shell.m_gBTvwall);
         BuildBare<Ui::CSecurityConfig>(shell.m_gBSecurity);
         BuildBare<Ui::CShortcutKeyConfig>(shell.m_gShortcutKey)->setStyleSheet(strKeySheet);
