@@ -21,7 +21,7 @@ namespace
 
 constexpr int g_nFrameInterval = 200;        // milliseconds
 constexpr int g_nMaxInterval = 24 * 60 * 60; // seconds; what a timer takes, in milliseconds, ends not far above
-constexpr qint64 g_nMegabyte = 1024 * 1024;
+constexpr qint64 g_nMegabyte = qint64(1024) * 1024;
 
 void Notify(const QString& strText)
 {

@@ -1,3 +1,4 @@
+#include "support/Marker.h"
 #include "support/PageFixture.h"
 #include "support/Patterns.h"
 
@@ -25,6 +26,7 @@ private slots:
     void Captions_data();
     void Captions();
     void Items();
+    void WhichTextsAreTranslated();
     void NameFormatsAreLookedUp();
     void IntervalRange();
     void CountPattern();
@@ -41,6 +43,7 @@ private slots:
     void AnEmptyFolderIsStoredAtOnce();
     void AnEmptyFolderIsOnlyShownWithDefaults();
     void LoadingTakesHintsAway();
+    void AStoredPathThatIsTooLongIsMarkedAgain();
     void AnImpossibleRecordIsShownAsFarAsItGoes();
 
     void SaveWritesWhatIsShownAndCarriesTheRest();
@@ -50,6 +53,10 @@ private slots:
     void SaveCount();
     void TheCountIsCheckedFirst();
     void AnEmptiedIntervalGetsTheToolTip();
+    void AnEmptiedIntervalStaysEmptyUntilSaved_data();
+    void AnEmptiedIntervalStaysEmptyUntilSaved();
+    void TheIntervalIsReadInItsOwnDigits_data();
+    void TheIntervalIsReadInItsOwnDigits();
     void TheIntervalIsCheckedBeforeThePath();
     void SavePath_data() { PathsAroundALimit(180); }
     void SavePath();
@@ -112,6 +119,30 @@ void tst_CaptureConfig::Items()
     {
         QCOMPARE(Name()->itemText(n), listNames[n]);
     }
+}
+
+void tst_CaptureConfig::WhichTextsAreTranslated()
+{
+    const CMarker marker;
+    init();
+    QCOMPARE(Format()->itemText(0), QString("BMP"));
+    QCOMPARE(Format()->itemText(1), QString("JPEG"));
+    QCOMPARE(Name()->itemText(2), QString("LocalConfig::CCaptureConfig|ChannelNo_Time"));
+    QCOMPARE(m_pFixture->page.GetNameFormatIndex("LocalConfig::CCaptureConfig|ChannelNo_Time"), 2);
+    QCOMPARE(m_pFixture->Find<QLabel>("picPathLabel")->text(),
+             QString("CCaptureConfig|Picture PathLocalConfig::CCaptureConfig|:"));
+    QCOMPARE(m_pFixture->Find<QLabel>("picTmRgLabel")->text(), QString("CCaptureConfig|(Not less than 1s)"));
+
+    m_pFixture->Load();
+    EmptyTheInterval();
+    QCOMPARE(m_pFixture->page.SaveConfig(), -1);
+    QCOMPARE(QToolTip::text(),
+             QString("LocalConfig::CCaptureConfig|Continue snapshot time interval must be longer than 1s."));
+    Type(Count(), "");
+    Paste(Path(), QString(181, 'p'));
+    QCOMPARE(Count()->GetErrorHintText(), QString("LocalConfig::CCaptureConfig|Continuously snapshot 2-10 pic."));
+    QCOMPARE(Path()->GetErrorHintText(),
+             QString("LocalConfig::CCaptureConfig|The Path length of Picture should not longer than 180"));
 }
 
 void tst_CaptureConfig::NameFormatsAreLookedUp()
@@ -276,6 +307,18 @@ void tst_CaptureConfig::LoadingTakesHintsAway()
     }
 }
 
+void tst_CaptureConfig::AStoredPathThatIsTooLongIsMarkedAgain()
+{
+    SnapshotConfigInfo record;
+    record.picturePath = std::string(181, 'p');
+    for (int nLoad = 0; nLoad < 2; ++nLoad)
+    {
+        m_pFixture->Load(record);
+        QVERIFY(Path()->IsErrorHintShown());
+        QVERIFY(!Path()->GetErrorHintText().isEmpty());
+    }
+}
+
 void tst_CaptureConfig::AnImpossibleRecordIsShownAsFarAsItGoes()
 {
     SnapshotConfigInfo record;
@@ -385,6 +428,64 @@ void tst_CaptureConfig::AnEmptiedIntervalGetsTheToolTip()
     QCOMPARE(QToolTip::text(), QString("Continue snapshot time interval must be longer than 1s."));
     QVERIFY(Interval()->hasFocus());
     QCOMPARE(Interval()->text(), QString("60"));
+    const auto getTipPlace = [] {
+        const QWidgetList listWindows = QApplication::topLevelWidgets();
+        const auto tip = std::find_if(listWindows.begin(), listWindows.end(), [](const QWidget* pWindow) {
+            return pWindow->inherits("QTipLabel") && pWindow->isVisible();
+        });
+        return tip != listWindows.end() ? (*tip)->pos() : QPoint(-1, -1);
+    };
+    const QPoint place = getTipPlace();
+    QToolTip::showText(Interval()->mapToGlobal(QPoint(0, 0)), "another", Interval());
+    QVERIFY(place != QPoint(-1, -1));
+    QCOMPARE(place, getTipPlace());
+}
+
+void tst_CaptureConfig::AnEmptiedIntervalStaysEmptyUntilSaved_data()
+{
+    QTest::addColumn<int>("nKey");
+    QTest::newRow("left") << int(Qt::Key_Tab);
+    QTest::newRow("entered") << int(Qt::Key_Return);
+}
+
+void tst_CaptureConfig::AnEmptiedIntervalStaysEmptyUntilSaved()
+{
+    QFETCH(int, nKey);
+    SnapshotConfigInfo record;
+    record.interval = 60;
+    m_pFixture->Load(record);
+    EmptyTheInterval();
+    QTest::keyClick(Interval(), Qt::Key(nKey));
+    QCOMPARE(Interval()->text(), QString());
+    QCOMPARE(m_pFixture->page.SaveConfig(), -1);
+    QCOMPARE(QToolTip::text(), QString("Continue snapshot time interval must be longer than 1s."));
+    QCOMPARE(Interval()->text(), QString("60"));
+    QCOMPARE(m_pFixture->page.SaveConfig(), 0);
+    QCOMPARE(m_pFixture->section.m_record.interval, 60);
+}
+
+void tst_CaptureConfig::TheIntervalIsReadInItsOwnDigits_data()
+{
+    QTest::addColumn<QString>("strLocale");
+    for (const char* pszLocale : {"C", "de_DE", "ar_EG", "fa_IR"})
+    {
+        QTest::newRow(pszLocale) << pszLocale;
+    }
+}
+
+void tst_CaptureConfig::TheIntervalIsReadInItsOwnDigits()
+{
+    QFETCH(QString, strLocale);
+    const QLocale before;
+    QLocale::setDefault(QLocale(strLocale));
+    init();
+    SnapshotConfigInfo record;
+    record.interval = 1234567;
+    m_pFixture->Load(record);
+    const int nResult = m_pFixture->page.SaveConfig();
+    QLocale::setDefault(before);
+    QCOMPARE(nResult, 0);
+    QCOMPARE(m_pFixture->section.m_record.interval, 1234567);
 }
 
 void tst_CaptureConfig::TheIntervalIsCheckedBeforeThePath()

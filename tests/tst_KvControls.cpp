@@ -1,3 +1,5 @@
+#include "support/Wheel.h"
+
 #include <KvGui/KvCheckBox.h>
 #include <KvGui/KvComboBox.h>
 #include <KvGui/KvDir.h>
@@ -10,10 +12,13 @@
 #include <KvGui/KvVerScrollBar.h>
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QDir>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QStandardItemModel>
 #include <QTemporaryDir>
+#include <QVBoxLayout>
 #include <QtTest>
 
 using namespace KVGUI;
@@ -58,6 +63,9 @@ private slots:
     void TextConstructors();
     void ComboBoxesBuildNoListBeforeTheyAreShown();
     void ComboBoxesFollowAStyleThatChangesLater();
+    void SpinBoxesFollowTheWheelWithTheFocusOnly();
+    void EmptiedSpinBoxes_data();
+    void EmptiedSpinBoxes();
     void ScrollBarsHaveTheirDirection();
     void TablesTakeColumnWidthsFromTheHeader();
     void TablesFollowLaterWidths();
@@ -120,6 +128,68 @@ void tst_KvControls::ComboBoxesFollowAStyleThatChangesLater()
     window.setStyleSheet("KVGUI--KvComboBox { font-size: 26px; }");
 
     QVERIFY(combo.sizeHint().width() > nWidth);
+}
+
+void tst_KvControls::SpinBoxesFollowTheWheelWithTheFocusOnly()
+{
+    QWidget window;
+    auto* pLayout = new QVBoxLayout(&window);
+    auto* pButton = new KvPushButton("Other", &window);
+    auto* pSpinBox = new KvSpinBox(&window);
+    pLayout->addWidget(pButton);
+    pLayout->addWidget(pSpinBox);
+    pSpinBox->setValue(7);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+
+    pButton->setFocus();
+    TurnWheel(pSpinBox, QRectF(pSpinBox->rect()).center());
+    QCOMPARE(pSpinBox->value(), 7);
+    QVERIFY(pButton->hasFocus());
+
+    QTest::mouseClick(pSpinBox->findChild<QLineEdit*>(), Qt::LeftButton);
+    QVERIFY(pSpinBox->hasFocus());
+    TurnWheel(pSpinBox, QRectF(pSpinBox->rect()).center());
+    QCOMPARE(pSpinBox->value(), 6);
+}
+
+void tst_KvControls::EmptiedSpinBoxes_data()
+{
+    QTest::addColumn<int>("nKey");
+    QTest::addColumn<bool>("bKeepsEmpty");
+    QTest::newRow("return") << int(Qt::Key_Return) << true;
+    QTest::newRow("enter") << int(Qt::Key_Enter) << true;
+    QTest::newRow("tab") << int(Qt::Key_Tab) << true;
+    QTest::newRow("return brings the value back") << int(Qt::Key_Return) << false;
+    QTest::newRow("tab brings the value back") << int(Qt::Key_Tab) << false;
+}
+
+void tst_KvControls::EmptiedSpinBoxes()
+{
+    QFETCH(int, nKey);
+    QFETCH(bool, bKeepsEmpty);
+    QWidget window;
+    auto* pLayout = new QVBoxLayout(&window);
+    auto* pSpinBox = new KvSpinBox(&window);
+    pLayout->addWidget(pSpinBox);
+    pLayout->addWidget(new KvPushButton("Other", &window));
+    pSpinBox->SetKeepsEmpty(bKeepsEmpty);
+    pSpinBox->setValue(7);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    pSpinBox->setFocus();
+    QTest::keyClick(pSpinBox, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(pSpinBox, Qt::Key_Delete);
+
+    QTest::keyClick(pSpinBox, Qt::Key(nKey));
+
+    QCOMPARE(pSpinBox->text(), bKeepsEmpty ? QString() : QString("7"));
+    QCOMPARE(pSpinBox->value(), 7);
+    pSpinBox->setValue(7);
+    QTest::keyClick(pSpinBox, Qt::Key(nKey));
+    QCOMPARE(pSpinBox->text(), QString("7"));
 }
 
 void tst_KvControls::ScrollBarsHaveTheirDirection()

@@ -1,3 +1,5 @@
+#include "support/Wheel.h"
+
 #include <LocalConfig/CLocalConfig.h>
 #include <client/ConfigService.h>
 #include <client/LoginManager.h>
@@ -6,6 +8,7 @@
 #include <client/UserManager.h>
 
 #include <KvGui/KvCheckBox.h>
+#include <KvGui/KvLineEdit.h>
 #include <KvGui/KvMessageNotify.h>
 
 #include <QAbstractButton>
@@ -15,10 +18,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTcpServer>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolTip>
 #include <QtTest>
 
 #include <functional>
@@ -77,6 +84,11 @@ private slots:
     void EditSaveRestart();
     void PlaybackAndWallOutliveARestart();
     void ARefusedPageKeepsTheDialogOpenAndCancelDropsTheRest();
+    void ARefusedSnapshotOrRecordPageKeepsTheDialogOpen_data();
+    void ARefusedSnapshotOrRecordPageKeepsTheDialogOpen();
+    void ARefusalPointsAtItsField_data();
+    void ARefusalPointsAtItsField();
+    void TheWheelOverANumberScrollsTheDialog();
     void CancelKeepsWhatIsStored();
     void ASecondClientIsToldOnSaving();
     void TheDialogLocksAndUnlocksWithTheConnection();
@@ -304,6 +316,113 @@ void tst_MainWindow::ARefusedPageKeepsTheDialogOpenAndCancelDropsTheRest()
     QVERIFY(!service.GetStored().basic.autoLogin);
     QCOMPARE(service.SaveAll(), 1);
     QVERIFY2(!service.GetStored().basic.autoLogin, "the cancelled value does not come back");
+}
+
+void tst_MainWindow::ARefusedSnapshotOrRecordPageKeepsTheDialogOpen_data()
+{
+    QTest::addColumn<QString>("strField");
+    QTest::addColumn<QString>("strText");
+    QTest::addColumn<bool>("bKept");
+    QTest::newRow("snapshots: count") << "picNumEdit"
+                                      << "1" << true;
+    QTest::newRow("snapshots: path") << "picPathEdit" << QString(181, 'p') << false;
+    QTest::newRow("recordings: path") << "recPathEdit" << QString(169, 'p') << false;
+    QTest::newRow("recordings: size") << "maxRecSizeEdit"
+                                      << "9" << true;
+}
+
+void tst_MainWindow::ARefusedSnapshotOrRecordPageKeepsTheDialogOpen()
+{
+    QFETCH(QString, strField);
+    QFETCH(QString, strText);
+    QFETCH(bool, bKept);
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    UserManager users({}, nullptr);
+    MainWindow window(service, users);
+    window.show();
+    QSignalSpy spy(KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance(),
+                   &KVGUI::KvMessageNotify::SignalTextNotificationAdded);
+    InDialog(window, [&](QDialog& dialog) {
+        auto* pField = Find<KVGUI::KvLineEdit>(dialog, qPrintable(strField));
+        pField->setFocus();
+        pField->selectAll();
+        QTest::keyClicks(pField, strText);
+        Click(dialog, "btnOk");
+        QVERIFY(dialog.isVisible());
+        QCOMPARE(pField->text() == strText, bKept);
+        QCOMPARE(pField->IsErrorHintShown(), bKept);
+        Click(dialog, "btnCancel");
+    });
+    QCOMPARE(spy.size(), 1);
+    QVERIFY(!QFile::exists("settings.json"));
+}
+
+void tst_MainWindow::ARefusalPointsAtItsField_data()
+{
+    QTest::addColumn<QString>("strField");
+    QTest::addColumn<QString>("strText");
+    QTest::addColumn<bool>("bByKey");
+    QTest::addColumn<QString>("strTip");
+    QTest::newRow("stay time") << "lineeditStayTime"
+                               << "14" << false << "Stay time must be within 15-65535s.";
+    const QString strInterval = "Continue snapshot time interval must be longer than 1s.";
+    QTest::newRow("emptied interval") << "picTmSpinBox"
+                                      << "" << false << strInterval;
+    QTest::newRow("emptied interval, by key") << "picTmSpinBox"
+                                              << "" << true << strInterval;
+}
+
+void tst_MainWindow::ARefusalPointsAtItsField()
+{
+    QFETCH(QString, strField);
+    QFETCH(QString, strText);
+    QFETCH(bool, bByKey);
+    QFETCH(QString, strTip);
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    UserManager users({}, nullptr);
+    MainWindow window(service, users);
+    window.show();
+    InDialog(window, [&](QDialog& dialog) {
+        auto* pField = Find<QWidget>(dialog, qPrintable(strField));
+        auto* pScrollArea = Find<QScrollArea>(dialog, "scrollArea");
+        pField->setFocus();
+        QTest::keyClick(pField, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(pField, Qt::Key_Delete);
+        QTest::keyClicks(pField, strText);
+        if (bByKey)
+        {
+            QTest::keyClick(pField, Qt::Key_Return);
+        }
+        else
+        {
+            Click(dialog, "btnOk");
+        }
+        QVERIFY(dialog.isVisible());
+        QTRY_VERIFY(pField->hasFocus());
+        QVERIFY(QToolTip::isVisible());
+        QCOMPARE(QToolTip::text(), strTip);
+        const QPoint corner = pField->mapTo(pScrollArea->viewport(), QPoint());
+        QVERIFY(pScrollArea->viewport()->rect().contains(QRect(corner, pField->size())));
+        Click(dialog, "btnOk"); // the field has an acceptable value again
+        QVERIFY(!dialog.isVisible());
+    });
+    QCOMPARE(service.GetStored().snapshot.interval, 2);
+}
+
+void tst_MainWindow::TheWheelOverANumberScrollsTheDialog()
+{
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    UserManager users({}, nullptr);
+    MainWindow window(service, users);
+    window.show();
+    InDialog(window, [](QDialog& dialog) {
+        auto* pInterval = Find<QSpinBox>(dialog, "picTmSpinBox");
+        auto* pScrollBar = Find<QScrollArea>(dialog, "scrollArea")->verticalScrollBar();
+        const int nBefore = pScrollBar->value();
+        TurnWheel(pInterval, QRectF(pInterval->rect()).center());
+        QCOMPARE(pInterval->value(), 2);
+        QVERIFY(pScrollBar->value() > nBefore);
+    });
 }
 
 void tst_MainWindow::CancelKeepsWhatIsStored()

@@ -1,3 +1,4 @@
+#include "support/Marker.h"
 #include "support/PageFixture.h"
 #include "support/Patterns.h"
 
@@ -24,6 +25,7 @@ private slots:
     void Captions_data();
     void Captions();
     void Items();
+    void WhichTextsAreTranslated();
     void FileSizePattern();
 
     void ANullSectionIsRefused();
@@ -84,6 +86,22 @@ void tst_RecordConfig::Items()
     {
         QCOMPARE(Name()->itemText(n), listNames[n]);
     }
+}
+
+void tst_RecordConfig::WhichTextsAreTranslated()
+{
+    const CMarker marker;
+    init();
+    QCOMPARE(Name()->itemText(3), QString("LocalConfig::CRecordConfig|ChannelName_Time"));
+    QCOMPARE(m_pFixture->Find<QLabel>("recPathLabel")->text(),
+             QString("CRecordConfig|Record PathLocalConfig::CRecordConfig|:"));
+    QCOMPARE(m_pFixture->Find<QLabel>("maxRecSizeRgLabel")->text(), QString("LocalConfig::CRecordConfig|(10-1500M)"));
+    Type(FileSize(), "");
+    Paste(Path(), QString(169, 'p'));
+    QCOMPARE(FileSize()->GetErrorHintText(),
+             QString("LocalConfig::CRecordConfig|Max size of a file must be within 10-1500."));
+    QCOMPARE(Path()->GetErrorHintText(),
+             QString("LocalConfig::CRecordConfig|The Path length of Record should not longer than 168"));
 }
 
 void tst_RecordConfig::FileSizePattern()

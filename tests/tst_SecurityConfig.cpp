@@ -1,3 +1,4 @@
+#include "support/Marker.h"
 #include "support/PageFixture.h"
 
 #include <LocalConfig/interfaces/ISecuritySection.h>
@@ -8,6 +9,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLayout>
+#include <QPointer>
 #include <QPushButton>
 #include <QTimer>
 
@@ -31,7 +33,11 @@ private slots:
     void CheckingAsksNothing();
     void UncheckingAsks_data();
     void UncheckingAsks();
+    void TheKeyboardAsksToo();
     void ThePrompt();
+    void ThePromptIsTranslated();
+    void ThePageMayGoWhileThePromptStands_data();
+    void ThePageMayGoWhileThePromptStands();
     void NothingIsWrittenBeforeSaving();
     void SaveStoresTheBox();
     void SaveReturnsTheSectionsResult();
@@ -51,6 +57,10 @@ private:
     /// \return how many came up
     int Click(const std::function<void(QDialog*)>& answer = [](QDialog* pPrompt) { pPrompt->reject(); })
     {
+        return Switch([this] { QTest::mouseClick(Box(), Qt::LeftButton, {}, QPoint(8, Box()->height() / 2)); }, answer);
+    }
+    int Switch(const std::function<void()>& act, const std::function<void(QDialog*)>& answer)
+    {
         int nPrompts = 0;
         QTimer timer;
         connect(&timer, &QTimer::timeout, this, [&] {
@@ -61,7 +71,7 @@ private:
             }
         });
         timer.start(10);
-        QTest::mouseClick(Box(), Qt::LeftButton, {}, QPoint(8, Box()->height() / 2));
+        act();
         QTest::qWait(50); // for a second prompt, which must not come
         return nPrompts;
     }
@@ -181,6 +191,19 @@ void tst_SecurityConfig::UncheckingAsks()
     QCOMPARE(Box()->isChecked(), bStaysOn);
 }
 
+void tst_SecurityConfig::TheKeyboardAsksToo()
+{
+    Load(true);
+    Box()->setFocus();
+    const auto pressSpace = [this] { QTest::keyClick(Box(), Qt::Key_Space); };
+    QCOMPARE(Switch(pressSpace, Press("btnOther")), 1);
+    QVERIFY(Box()->isChecked());
+    QCOMPARE(Switch(pressSpace, Press("btnOk")), 1);
+    QVERIFY(!Box()->isChecked());
+    QCOMPARE(Switch(pressSpace, Press("btnOk")), 0);
+    QVERIFY(Box()->isChecked());
+}
+
 void tst_SecurityConfig::ThePrompt()
 {
     Load(true);
@@ -208,6 +231,60 @@ void tst_SecurityConfig::ThePrompt()
     QCOMPARE(listButtons, (QStringList{"btnOk", "btnOther"}));
     QVERIFY(!bConfirmsByDefault);
     QCOMPARE(pParent, &m_pFixture->page);
+}
+
+void tst_SecurityConfig::ThePromptIsTranslated()
+{
+    Load(true);
+    const CMarker marker;
+    QString strTitle;
+    QString strText;
+    Click([&](QDialog* pPrompt) {
+        strTitle = pPrompt->accessibleName();
+        strText = pPrompt->findChild<QLabel*>("messageText")->text();
+        pPrompt->reject();
+    });
+    QCOMPARE(strTitle, QString("LocalConfig::CSecurityConfig|Prompt"));
+    QVERIFY(strText.startsWith("LocalConfig::CSecurityConfig|Audio and video encryption"));
+    const CSecurityConfig page(nullptr);
+    QVERIFY(page.findChild<QCheckBox*>("checkEncryption")->text().startsWith("CSecurityConfig|Audio/Video"));
+}
+
+void tst_SecurityConfig::ThePageMayGoWhileThePromptStands_data()
+{
+    QTest::addColumn<bool>("bByKey");
+    QTest::newRow("click") << false;
+    QTest::newRow("key") << true;
+}
+
+void tst_SecurityConfig::ThePageMayGoWhileThePromptStands()
+{
+    QFETCH(bool, bByKey);
+    const QPointer<CSecurityConfig> pPage = new CSecurityConfig(&m_pFixture->window);
+    QVERIFY(pPage);
+    pPage->resize(600, 100);
+    pPage->show();
+    SecurityConfigInfo record;
+    record.encryptTransmission = true;
+    m_pFixture->section.m_record = record;
+    QCOMPARE(pPage->SetConfigSection(&m_pFixture->section), 0);
+    auto* pBox = pPage->findChild<QCheckBox*>("checkEncryption");
+    bool bAsked = false;
+    QTimer::singleShot(20, this, [&] {
+        bAsked = QApplication::activeModalWidget();
+        delete pPage;
+    });
+    if (bByKey)
+    {
+        pBox->setFocus();
+        QTest::keyClick(pBox, Qt::Key_Space);
+    }
+    else
+    {
+        QTest::mouseClick(pBox, Qt::LeftButton, {}, QPoint(8, pBox->height() / 2));
+    }
+    QVERIFY(bAsked);
+    QVERIFY(!pPage);
 }
 
 void tst_SecurityConfig::NothingIsWrittenBeforeSaving()

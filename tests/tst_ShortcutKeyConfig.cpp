@@ -1,3 +1,4 @@
+#include "support/Marker.h"
 #include "support/PageFixture.h"
 #include "support/Wheel.h"
 
@@ -8,13 +9,13 @@
 #include <KvGui/KvTableView.h>
 #include <UICommonModule/Pxa.h>
 
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStandardItemModel>
-#include <QTranslator>
 
 using namespace LocalConfig;
 using LocalConfigLogical::IShortcutKeySection;
@@ -62,17 +63,6 @@ const QList<QStringList> g_listNkbRows = {
 };
 // clang-format on
 
-/// Marks every text that passes through it.
-class CMarker : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char* pszContext, const char* pszText, const char*, int) const override
-    {
-        return QString::fromLatin1(pszContext) + "|" + QString::fromLatin1(pszText);
-    }
-};
-
 } // namespace
 
 class tst_ShortcutKeyConfig : public QObject
@@ -91,6 +81,8 @@ private slots:
     void WhichTextsAreTranslated();
     void NothingCanBeEdited_data() { Tables(); }
     void NothingCanBeEdited();
+    void ColumnsKeepTheirWidths_data() { Tables(); }
+    void ColumnsKeepTheirWidths();
     void EveryRowIsVisible_data() { Tables(); }
     void EveryRowIsVisible();
     void TheWheelGoesOnToTheDialog_data() { Tables(); }
@@ -203,10 +195,8 @@ void tst_ShortcutKeyConfig::Headers()
 
 void tst_ShortcutKeyConfig::WhichTextsAreTranslated()
 {
-    CMarker marker;
-    QCoreApplication::installTranslator(&marker);
+    const CMarker marker;
     const CShortcutKeyConfig page(nullptr);
-    QCoreApplication::removeTranslator(&marker);
 
     const QStringList listNever = {"0+FN", "1+AUX", "2+AUX", "3+AUX"};
     const auto check = [&](const char* pszView, const QList<QStringList>& listRows, bool bKeys) {
@@ -242,6 +232,18 @@ void tst_ShortcutKeyConfig::NothingCanBeEdited()
     QTest::keyClicks(pView, "x");
     QTest::keyClick(pView, Qt::Key_F2);
     QVERIFY(pView->viewport()->findChildren<QLineEdit*>().isEmpty());
+}
+
+void tst_ShortcutKeyConfig::ColumnsKeepTheirWidths()
+{
+    QFETCH(QString, strView);
+    Show(strView);
+    QHeaderView* pHeader = View(strView)->horizontalHeader();
+    const QPoint edge(pHeader->sectionPosition(1) - 1, pHeader->height() / 2);
+    QTest::mousePress(pHeader->viewport(), Qt::LeftButton, {}, edge);
+    QTest::mouseMove(pHeader->viewport(), edge + QPoint(60, 0));
+    QTest::mouseRelease(pHeader->viewport(), Qt::LeftButton, {}, edge + QPoint(60, 0));
+    QCOMPARE(View(strView)->columnWidth(0), 160);
 }
 
 void tst_ShortcutKeyConfig::EveryRowIsVisible()

@@ -434,7 +434,7 @@ void CAlarmConfig::OnSoundPathBtnClicked()
     emit sgnAlarmCustomSoundEdited(GetGroupSoundKey(nAlarmType).value_or(nOwnKey), strPath);
 }
 
-void CAlarmConfig::OnAlarmCustomSoundEdited(int nAlarmId, QString strSoundPath)
+void CAlarmConfig::OnAlarmCustomSoundEdited(int nAlarmId, const QString& strSoundPath)
 {
     AlarmConfigInfo record = GetCurrentRecord();
     const auto sound = record.alarmSounds.find(nAlarmId);

@@ -53,7 +53,7 @@ private slots:
     void OnAlarmConfigEnableClicked();
     void OnAlarmTypeForSoundChanged(int nMainItem, int nSubItem);
     void OnItemChanged(int nId, bool bChecked);
-    void OnAlarmCustomSoundEdited(int nAlarmId, QString strSoundPath);
+    void OnAlarmCustomSoundEdited(int nAlarmId, const QString& strSoundPath);
     void OnUpdateCustomAlarmType();
     void OnReInitAlarmType();
 

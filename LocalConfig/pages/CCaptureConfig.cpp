@@ -51,6 +51,7 @@ void CCaptureConfig::InitControls()
     m_pUi->picPathEdit->SetTipParentWidget(this);
     m_pUi->picPathEdit->SetMaxInputParam(g_nMaxPathBytes, tr("The Path length of Picture should not longer than 180"));
     m_pUi->picTmSpinBox->setRange(g_interval.nMin, g_interval.nMax);
+    m_pUi->picTmSpinBox->SetKeepsEmpty(true); // saving speaks of it
     m_pUi->picFormatComboBox->insertItem(0, QStringLiteral("BMP"));
     m_pUi->picFormatComboBox->insertItem(g_nJpeg, QStringLiteral("JPEG"));
     for (const char* pszNameFormat : g_arrNameFormats)
@@ -101,7 +102,8 @@ int CCaptureConfig::SaveConfig()
     }
     record.continuousCount = nCount;
 
-    const int nInterval = m_pUi->picTmSpinBox->text().toInt(); // the text, since the value survives an emptied field
+    // The text, since the value survives an emptied field; in the digits that the box writes.
+    const int nInterval = m_pUi->picTmSpinBox->locale().toInt(m_pUi->picTmSpinBox->text());
     if (nInterval < g_interval.nMin)
     {
         PointAt(m_pUi->picTmSpinBox, tr("Continue snapshot time interval must be longer than 1s."));

@@ -5,6 +5,8 @@
 #include <KvGui/KvMessageBox.h>
 #include <LocalConfig/CScopedDisconnect.h>
 
+#include <QPointer>
+
 namespace LocalConfig
 {
 
@@ -57,12 +59,13 @@ void CSecurityConfig::OnSecurityStateChanged(int state)
     {
         return;
     }
+    const QPointer<CSecurityConfig> pThis(this); // the host may delete the dialog while the question stands
     const int nAnswer = KVGUI::KvMessageBox::ShowInformation(
         this, tr("Prompt"),
         tr("Audio and video encryption can ensure secure data transmission and prevent others from directly obtaining "
            "the audio and video for analysis. Are you sure to disable the function?"),
         KVGUI::KvCustomDialog::Ok | KVGUI::KvCustomDialog::Other);
-    if (nAnswer != KVGUI::KvCustomDialog::Ok)
+    if (pThis && nAnswer != KVGUI::KvCustomDialog::Ok)
     {
         m_pUi->checkEncryption->setCheckState(Qt::Checked);
     }

@@ -6,6 +6,7 @@
 #include <KvGui/KvTableView.h>
 #include <LocalConfig/SkinStyle.h>
 
+#include <QHeaderView>
 #include <QStandardItemModel>
 
 namespace LocalConfig
@@ -68,6 +69,8 @@ void CShortcutKeyConfig::InitTable(KVGUI::KvTableView* pView, const QStringList&
     }
     pView->setModel(pModel);
     pView->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    pView->horizontalHeader()->setSectionResizeMode(
+        QHeaderView::Fixed); // a wider column would push others out of reach
 }
 
 void CShortcutKeyConfig::ShowTable(bool bPcKeyboard)

@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegExpValidator>
+#include <QScrollArea>
+#include <QTimer>
 #include <QToolTip>
 
 namespace LocalConfig
@@ -33,8 +35,26 @@ QString SRange::Fill(const QString& strTemplate) const
 
 void PointAt(QWidget* pControl, const QString& strText)
 {
-    pControl->setFocus();
-    QToolTip::showText(pControl->mapToGlobal(QPoint(0, 0)), strText, pControl);
+    const auto point = [pControl, strText] {
+        for (QWidget* pWidget = pControl->parentWidget(); pWidget; pWidget = pWidget->parentWidget())
+        {
+            if (auto* pScrollArea = qobject_cast<QScrollArea*>(pWidget))
+            {
+                pScrollArea->ensureWidgetVisible(pControl);
+            }
+        }
+        pControl->setFocus();
+        QToolTip::showText(pControl->mapToGlobal(QPoint(0, 0)), strText, pControl);
+    };
+    point();
+    // Once more after a refused save, when the dialog has loaded its pages again: that moves the focus, and the tip
+    // goes.
+    QTimer::singleShot(0, pControl, [pControl, point] {
+        if (pControl->isVisible())
+        {
+            point();
+        }
+    });
 }
 
 void SetPattern(QWidget* pPage, QLineEdit* pEdit, const QString& strPattern)
@@ -60,6 +80,7 @@ void ShowFolder(KVGUI::KvLineEdit* pEdit, const std::string& strStored, const QS
     {
         strFolder += QLatin1Char('/');
     }
+    pEdit->clear(); // a folder that is shown again is judged again
     ClearHint(pEdit);
     pEdit->setText(QDir::toNativeSeparators(strFolder));
 }

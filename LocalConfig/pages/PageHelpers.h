@@ -45,7 +45,8 @@ struct SRange
     QString Fill(const QString& strTemplate) const;
 };
 
-/// Puts the focus on a control and shows a text as tool tip at its place.
+/// Puts the focus on a control, scrolled into view, and shows a text as tool tip at its place; also past the reload
+/// that follows a refused save.
 void PointAt(QWidget* pControl, const QString& strText);
 
 /// Lets a field take only what a pattern accepts, or the beginning of it. The page owns the validator.

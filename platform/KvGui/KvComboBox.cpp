@@ -13,13 +13,12 @@ KvComboBox::KvComboBox(QWidget* pParent)
 void KvComboBox::changeEvent(QEvent* pEvent)
 {
     // The base would build the list that opens, for a box that has not even been shown and gets its style then.
-    if (pEvent->type() == QEvent::StyleChange && !testAttribute(Qt::WA_WState_Polished) &&
-        !findChild<QAbstractItemView*>())
+    const bool bTooEarly = pEvent->type() == QEvent::StyleChange && !testAttribute(Qt::WA_WState_Polished) &&
+                           !findChild<QAbstractItemView*>();
+    if (!bTooEarly)
     {
-        QWidget::changeEvent(pEvent);
-        return;
+        QComboBox::changeEvent(pEvent);
     }
-    QComboBox::changeEvent(pEvent);
 }
 
 } // namespace KVGUI

@@ -134,7 +134,7 @@ void CAlarmTypeCombox::keyPressEvent(QKeyEvent* pEvent)
         }
         return;
     }
-    QWidget::keyPressEvent(pEvent); // Enter and the rest are the dialog's
+    pEvent->ignore(); // Enter and the rest are the dialog's
 }
 
 void CAlarmTypeCombox::wheelEvent(QWheelEvent* pEvent)
