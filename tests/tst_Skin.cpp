@@ -9,6 +9,7 @@
 #include <KvGui/KvToolListView.h>
 #include <LocalConfig/CGroupBox.h>
 #include <UICommonModule/CGlobalInfo.h>
+#include <UICommonModule/CPathEdit.h>
 #include <UICommonModule/Pxa.h>
 
 #include <QApplication>
@@ -113,6 +114,8 @@ private slots:
     void SheetsAreUnderstood();
     void ControlStatesDiffer_data();
     void ControlStatesDiffer();
+    void TheBrowseButtonLooksDisabled_data() { SkinRows(); }
+    void TheBrowseButtonLooksDisabled();
     void TheErrorLookIsVisible_data() { SkinRows(); }
     void TheErrorLookIsVisible();
     void TheSelectedCardHasABar_data() { SkinRows(); }
@@ -377,6 +380,34 @@ void tst_Skin::ControlStatesDiffer()
     QVERIFY(normal != focused);
     QVERIFY(normal != disabled);
     QVERIFY(focused != disabled);
+}
+
+void tst_Skin::TheBrowseButtonLooksDisabled()
+{
+    QFETCH(QString, strSkin);
+    UseSkin(strSkin);
+    UICommonMdl::CPathEdit edit;
+    edit.resize(300, 32);
+    edit.show();
+    const auto strongest = [&] {
+        QWidget* pButton = edit.findChild<QWidget*>("btnBrowse");
+        QPixmap picture(pButton->size());
+        picture.fill(PaletteColor(strSkin, "field"));
+        pButton->render(&picture, {}, {}, QWidget::DrawChildren);
+        const QImage image = picture.toImage();
+        double dContrast = 0;
+        for (int nY = 0; nY < image.height(); ++nY)
+        {
+            for (int nX = 0; nX < image.width(); ++nX)
+            {
+                dContrast = std::max(dContrast, Contrast(image.pixelColor(nX, nY), PaletteColor(strSkin, "field")));
+            }
+        }
+        return dContrast;
+    };
+    const double dEnabled = strongest();
+    edit.setEnabled(false);
+    QVERIFY(strongest() < dEnabled - 1);
 }
 
 void tst_Skin::TheErrorLookIsVisible()
