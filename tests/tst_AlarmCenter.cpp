@@ -320,9 +320,9 @@ void tst_AlarmCenter::TheSoundIsHeardOnce()
     Put("Sound/sound_en/video.wav", MakeWav(Tone(1000, 0.3)));
     SClient client(m_pFolder->path());
     client.Choose(g_nMotion);
-    const QVector<qint16> listHeard = Heard(m_server.Record([&client] { client.Click("btnTestAlarm"); }, 1200));
+    const QVector<qint16> listHeard = Heard(m_server.Record([&client] { client.Click("btnTestAlarm"); }));
     QVERIFY2(Strength(listHeard, 1000) > 5000, qPrintable(QString::number(Strength(listHeard, 1000))));
-    QVERIFY2(listHeard.size() < 0.5 * g_nSampleRate, qPrintable(QString::number(listHeard.size())));
+    QVERIFY2(listHeard.size() < 0.6 * g_nSampleRate, qPrintable(QString::number(listHeard.size())));
 }
 
 void tst_AlarmCenter::ALoopedSoundIsHeardUntilAcknowledged()
@@ -334,12 +334,12 @@ void tst_AlarmCenter::ALoopedSoundIsHeardUntilAcknowledged()
     Store(settings);
     SClient client(m_pFolder->path());
     client.Choose(g_nMotion);
-    const QVector<qint16> listHeard = Heard(m_server.Record([&client] { client.Click("btnTestAlarm"); }, 1500));
+    const QVector<qint16> listHeard = Heard(m_server.Record([&client] { client.Click("btnTestAlarm"); }, 3000));
     QVERIFY2(listHeard.size() > g_nSampleRate, qPrintable(QString::number(listHeard.size())));
     QVERIFY(client.Alarms()->IsLooped());
     client.Click("btnAcknowledge");
     QTest::qWait(500); // what the server had been given already
-    QVERIFY(Heard(m_server.Record([] {}, 500)).size() <= 1);
+    QVERIFY(Heard(m_server.Record([] {}, 500)).isEmpty());
 }
 
 void tst_AlarmCenter::ACustomSoundIsHeard()

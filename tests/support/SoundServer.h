@@ -6,6 +6,7 @@
 #include <QtEndian>
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 
@@ -52,21 +53,35 @@ inline double Strength(const QVector<qint16>& listSamples, double dFrequency)
     return listSamples.isEmpty() ? 0 : 2 * std::hypot(dSine, dCosine) / listSamples.size();
 }
 
-/// The part of a recording between its first and its last sound.
-inline QVector<qint16> Heard(const QVector<qint16>& listSamples)
+/// For how many seconds a recording has a frequency.
+inline double Duration(const QVector<qint16>& listSamples, double dFrequency)
+{
+    constexpr int nPiece = g_nSampleRate / 50;
+    int nPieces = 0;
+    for (int n = 0; n + nPiece <= listSamples.size(); n += nPiece)
+    {
+        nPieces += Strength(listSamples.mid(n, nPiece), dFrequency) > 5000 ? 1 : 0;
+    }
+    return double(nPieces) * nPiece / g_nSampleRate;
+}
+
+/// Behind the last sample that is loud enough to be heard, 0 without one.
+inline int EndOfSound(const QVector<qint16>& listSamples)
 {
     constexpr int nQuiet = 200;
-    int nFirst = 0;
-    int nLast = listSamples.size() - 1;
-    while (nFirst < listSamples.size() && qAbs(int(listSamples[nFirst])) < nQuiet)
-    {
-        ++nFirst;
-    }
-    while (nLast > nFirst && qAbs(int(listSamples[nLast])) < nQuiet)
-    {
-        --nLast;
-    }
-    return listSamples.mid(nFirst, nLast - nFirst + 1);
+    const auto last = std::find_if(listSamples.rbegin(), listSamples.rend(),
+                                   [](qint16 nSample) { return qAbs(int(nSample)) >= nQuiet; });
+    return int(listSamples.rend() - last);
+}
+
+/// The part of a recording between its first and its last sound.
+inline QVector<qint16> Heard(QVector<qint16> listSamples)
+{
+    listSamples.resize(EndOfSound(listSamples));
+    std::reverse(listSamples.begin(), listSamples.end());
+    listSamples.resize(EndOfSound(listSamples));
+    std::reverse(listSamples.begin(), listSamples.end());
+    return listSamples;
 }
 
 /// A sound server whose sink plays into nothing, and a recorder that listens to it. The server is the one that this
@@ -104,23 +119,38 @@ public:
         QVERIFY(QTest::qWaitFor([this] { return m_recorder.bytesAvailable() > 0; }, 10000));
     }
 
-    /// What the sink plays while \a act runs, and for a while after.
-    QVector<qint16> Record(const std::function<void()>& act, int nAfter = 900)
+    /// What the sink plays from \a act on until a sound was over for a while, \a nMost milliseconds after it at most.
+    QVector<qint16> Record(const std::function<void()>& act, int nMost = 10000)
     {
+        constexpr int nPause = 700;
         QTest::qWait(100); // the end of what was there before
         m_recorder.readAllStandardOutput();
         act();
-        QTest::qWait(nAfter);
-        const QByteArray content = m_recorder.readAllStandardOutput();
-        QVector<qint16> listSamples(content.size() / 2);
-        for (int n = 0; n < listSamples.size(); ++n)
-        {
-            listSamples[n] = qFromLittleEndian<qint16>(content.constData() + 2 * n);
-        }
-        return listSamples;
+        (void)QTest::qWaitFor(
+            [this] {
+                const QVector<qint16> listSamples = Recorded();
+                const int nEnd = EndOfSound(listSamples);
+                return nEnd > 0 && listSamples.size() - nEnd > nPause * g_nSampleRate / 1000;
+            },
+            nMost);
+        return Recorded();
+    }
+
+    /// Waits until the recording under way has a sound.
+    bool WaitUntilHeard()
+    {
+        return QTest::qWaitFor([this] { return EndOfSound(Recorded()) > 0; }, 10000);
     }
 
 private:
+    QVector<qint16> Recorded()
+    {
+        const QByteArray content = m_recorder.peek(m_recorder.bytesAvailable());
+        QVector<qint16> listSamples(content.size() / 2);
+        qFromLittleEndian<qint16>(content.constData(), listSamples.size(), listSamples.data());
+        return listSamples;
+    }
+
     QTemporaryDir m_runtime; // in a short path, for the server's socket
     QProcess m_server;
     QProcess m_recorder; // runs all the time, since a recording begins slowly
