@@ -110,9 +110,10 @@ void tst_SoundPreview::PlayingAgainStartsAnew()
     Show(Put("tones.wav", MakeWav(listSamples)));
     const QVector<qint16> listHeard = Heard(m_server.Record([this] {
         Play();
-        QVERIFY(m_server.WaitUntilHeard());
+        QVERIFY(m_server.WaitUntilHeard(1000));
         QTest::qWait(200);
         Play();
+        QVERIFY(m_server.WaitUntilHeard(500));
     }));
     // A part of the first tone, then both, one at a time.
     QVERIFY2(Duration(listHeard, 1000) > 0.7, qPrintable(QString::number(Duration(listHeard, 1000))));

@@ -136,10 +136,10 @@ public:
         return Recorded();
     }
 
-    /// Waits until the recording under way has a sound.
-    bool WaitUntilHeard()
+    /// Waits until the recording under way has a frequency.
+    bool WaitUntilHeard(double dFrequency)
     {
-        return QTest::qWaitFor([this] { return EndOfSound(Recorded()) > 0; }, 10000);
+        return QTest::qWaitFor([this, dFrequency] { return Duration(Recorded(), dFrequency) > 0; }, 10000);
     }
 
 private:
