@@ -68,6 +68,7 @@ private slots:
     void Captions_data();
     void Captions();
     void Form();
+    void TheMapBoxHasTheSkinsImages();
     void TheMenuLeavesOutTheCustomAlarm();
     void TheCatalogueRebuildsTheMenuOnly();
     void SlotsByName();
@@ -268,6 +269,25 @@ void tst_AlarmConfig::Captions()
 {
     QFETCH(QString, strText);
     QCOMPARE(m_pFixture->Find<QLabel>(QTest::currentDataTag())->text(), strText);
+}
+
+void tst_AlarmConfig::TheMapBoxHasTheSkinsImages()
+{
+    struct SImages : QSkinCombox
+    {
+        static QImage Text(const QSkinCombox& combo) { return (combo.*(&SImages::m_pixText)).toImage(); }
+        static QImage Normal(const QSkinCombox& combo) { return (combo.*(&SImages::m_pixNormal)).toImage(); }
+        static QImage Disabled(const QSkinCombox& combo) { return (combo.*(&SImages::m_pixDisable)).toImage(); }
+    };
+    const auto* pCombo = m_pFixture->Find<QCheckableComboBox>("cbxAlarmTypeForMap");
+    const QPixmap text(Pxa::GetSkinPath("LocalConfig/public", "cmb_text.png"));
+    QVERIFY(!text.isNull());
+    QCOMPARE(SImages::Text(*pCombo), text.toImage());
+    const QPixmap strip(Pxa::GetSkinPath("LocalConfig/public", "cmb_dropdown.png"));
+    QVERIFY(!strip.isNull());
+    const int nWidth = strip.width() / 5;
+    QCOMPARE(SImages::Normal(*pCombo), strip.copy(0, 0, nWidth, strip.height()).toImage());
+    QCOMPARE(SImages::Disabled(*pCombo), strip.copy(3 * nWidth, 0, nWidth, strip.height()).toImage());
 }
 
 void tst_AlarmConfig::Form()

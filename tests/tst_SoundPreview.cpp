@@ -25,6 +25,7 @@ private slots:
     void TheServerIsFound();
     void ThePreviewIsHeard();
     void ARelativePathIsTakenFromTheWorkingFolder();
+    void ABackslashAfterTheDotIsTakenAlike();
     void TheLoopOptionDoesNotCount();
     void PlayingAgainStartsAnew();
     void AFileThatIsNoSoundIsSilent();
@@ -90,6 +91,14 @@ void tst_SoundPreview::ARelativePathIsTakenFromTheWorkingFolder()
     QVERIFY(QDir().mkpath("Sound/sound_en"));
     Put("Sound/sound_en/default.wav", MakeWav(Tone(600, 0.4)));
     Show(QString());
+    const QVector<qint16> listHeard = Heard(m_server.Record([this] { Play(); }));
+    QVERIFY2(Strength(listHeard, 600) > 5000, qPrintable(QString::number(Strength(listHeard, 600))));
+}
+
+void tst_SoundPreview::ABackslashAfterTheDotIsTakenAlike()
+{
+    Put("tone.wav", MakeWav(Tone(600, 0.4)));
+    Show(".\\tone.wav");
     const QVector<qint16> listHeard = Heard(m_server.Record([this] { Play(); }));
     QVERIFY2(Strength(listHeard, 600) > 5000, qPrintable(QString::number(Strength(listHeard, 600))));
 }

@@ -29,6 +29,7 @@ private slots:
     void Captions_data();
     void Captions();
     void Items();
+    void CheckBoxText();
     void ToolTips();
     void StayTimePattern();
 
@@ -143,6 +144,11 @@ void tst_TvWallConfig::Items()
         QCOMPARE(pStream->itemText(n), listTexts[n]);
         QCOMPARE(pStream->itemData(n).toInt(), listData[n]);
     }
+}
+
+void tst_TvWallConfig::CheckBoxText()
+{
+    QCOMPARE(Check()->text(), QString("Double click on the video to maximize the window and switch to main stream"));
 }
 
 void tst_TvWallConfig::ToolTips()

@@ -39,6 +39,7 @@ private slots:
     void Items_data();
     void Items();
     void ScaleItemsHaveData();
+    void CheckBoxTexts();
     void ToolTipOfTheDoubleClickBox();
 
     void BufferPattern();
@@ -223,6 +224,15 @@ void tst_VideoConfig::ScaleItemsHaveData()
 {
     QCOMPARE(Combo("pCmbScale")->itemData(0).toInt(), 0);
     QCOMPARE(Combo("pCmbScale")->itemData(1).toInt(), 1);
+}
+
+void tst_VideoConfig::CheckBoxTexts()
+{
+    QCOMPARE(Check("chkboxGpuDecode")->text(),
+             QString("Enable hardware acceleration(Takes effect after reopening video)"));
+    QCOMPARE(Check("chkboxDblk2ChangeStream")->text(),
+             QString("Double click on the video to maximize the window and switch to main stream"));
+    QCOMPARE(Check("silenceChkBox")->text(), QString("Close videos being played after long-time inactivity"));
 }
 
 void tst_VideoConfig::ToolTipOfTheDoubleClickBox()
