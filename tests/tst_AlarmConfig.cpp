@@ -27,6 +27,9 @@ using LocalConfigLogical::AlarmConfigInfo;
 using LocalConfigLogical::AlarmSoundInfo;
 using UICommonMdl::CAlarmType;
 
+using CatalogueSignal = void (CAlarmType::*)();
+Q_DECLARE_METATYPE(CatalogueSignal)
+
 namespace
 {
 
@@ -70,6 +73,7 @@ private slots:
     void Form();
     void TheMapBoxHasTheSkinsImages();
     void TheMenuLeavesOutTheCustomAlarm();
+    void TheCatalogueRebuildsTheMenuOnly_data();
     void TheCatalogueRebuildsTheMenuOnly();
     void SlotsByName();
 
@@ -321,8 +325,16 @@ void tst_AlarmConfig::TheMenuLeavesOutTheCustomAlarm()
     }
 }
 
+void tst_AlarmConfig::TheCatalogueRebuildsTheMenuOnly_data()
+{
+    QTest::addColumn<CatalogueSignal>("pSignal");
+    QTest::newRow("custom types") << &CAlarmType::SignalUpdateCustomAlarmType;
+    QTest::newRow("all types") << &CAlarmType::SignalUpdateAlarmType;
+}
+
 void tst_AlarmConfig::TheCatalogueRebuildsTheMenuOnly()
 {
+    QFETCH(CatalogueSignal, pSignal);
     Load(Record());
     PickType(302);
     m_pFixture->journal.Take();
@@ -332,7 +344,11 @@ void tst_AlarmConfig::TheCatalogueRebuildsTheMenuOnly()
     file.write("<AlarmTypes><Category id='5' name='c'><Group id='1' name='g'><Type id='301' name='custom'/>"
                "<Type id='44' name='new'/></Group></Category></AlarmTypes>");
     file.close();
-    CAlarmType::Instance()->Load("types.xml");
+    {
+        const QSignalBlocker blocker(CAlarmType::Instance()); // reloading sends both signals
+        CAlarmType::Instance()->Load("types.xml");
+    }
+    (CAlarmType::Instance()->*pSignal)();
     QVERIFY(!Types()->ChooseItem(5, 0));
     QVERIFY(Types()->ChooseItem(5, 1));
     CAlarmType::Instance()->Load();
@@ -560,11 +576,15 @@ void tst_AlarmConfig::ReloadTellsTheSectionFirst_data()
 void tst_AlarmConfig::ReloadTellsTheSectionFirst()
 {
     QFETCH(bool, bDefault);
-    Load(Record());
+    AlarmConfigInfo record = Record();
+    record.loopSound = bDefault;
+    Load(record);
+    m_pFixture->section.m_record.loopSound = !bDefault;
     m_pFixture->page.ReloadConfig(bDefault);
     const QStringList listCalls = m_pFixture->journal.Take();
     QCOMPARE(listCalls.first(), QString("ResetConfig ") + (bDefault ? "true" : "false"));
     QCOMPARE(listCalls.count("GetConfig"), listCalls.size() - 1);
+    QCOMPARE(Check("ckbLoop")->isChecked(), !bDefault);
 }
 
 // --- Save

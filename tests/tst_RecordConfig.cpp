@@ -274,6 +274,7 @@ void tst_RecordConfig::ThePathMessageComesWhileEditing()
     QCOMPARE(Path()->text(), strPath);
     QCOMPARE(Path()->GetErrorHintText(),
              bTooLong ? QString("The Path length of Record should not longer than 168") : QString());
+    QCOMPARE(m_pFixture->page.findChild<QLabel*>("errorTip") != nullptr, bTooLong);
 }
 
 void tst_RecordConfig::ThePathIsCheckedFirst()

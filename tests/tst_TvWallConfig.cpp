@@ -29,6 +29,7 @@ private slots:
     void Captions_data();
     void Captions();
     void Items();
+    void ThePageIsNoWindow();
     void CheckBoxText();
     void ToolTips();
     void StayTimePattern();
@@ -146,6 +147,13 @@ void tst_TvWallConfig::Items()
     }
 }
 
+void tst_TvWallConfig::ThePageIsNoWindow()
+{
+    QWidget parent;
+    const CTvWallConfig page(&parent);
+    QVERIFY(!page.isWindow());
+}
+
 void tst_TvWallConfig::CheckBoxText()
 {
     QCOMPARE(Check()->text(), QString("Double click on the video to maximize the window and switch to main stream"));
@@ -161,6 +169,8 @@ void tst_TvWallConfig::ToolTips()
     QCOMPARE(Radio("rdBtnTile")->text(), QString("Tile"));
     QCOMPARE(Radio("rdBtnInquiry")->text(), QString("Inquiry"));
     QCOMPARE(Check()->toolTip(), Check()->text());
+    const auto* pHint = m_pPage->findChild<QLabel*>("label_5"); // wider than a label that has no layout yet
+    QCOMPARE(pHint->toolTip(), pHint->text());
 }
 
 void tst_TvWallConfig::StayTimePattern()

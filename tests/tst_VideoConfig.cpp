@@ -41,6 +41,7 @@ private slots:
     void ScaleItemsHaveData();
     void CheckBoxTexts();
     void ToolTipOfTheDoubleClickBox();
+    void NarrowCheckBoxesTellTheirText();
 
     void BufferPattern();
     void HourPattern();
@@ -70,6 +71,7 @@ private slots:
 
     void SplitButtonStyle_data();
     void SplitButtonStyle();
+    void ThePickerIsHiddenAtFirst();
     void PickerTogglesAndStandsBelowTheButton();
     void PickingHidesThePicker();
     void LeavingHidesThePicker();
@@ -94,6 +96,7 @@ private slots:
     void ConnectionState_data();
     void ConnectionState();
     void SilentBoxEnablesItsWidget();
+    void OnlyCustomPlayModeEnablesItsWidget();
     void UnInitForgetsTheSection();
 
 private:
@@ -233,6 +236,20 @@ void tst_VideoConfig::CheckBoxTexts()
     QCOMPARE(Check("chkboxDblk2ChangeStream")->text(),
              QString("Double click on the video to maximize the window and switch to main stream"));
     QCOMPARE(Check("silenceChkBox")->text(), QString("Close videos being played after long-time inactivity"));
+}
+
+void tst_VideoConfig::NarrowCheckBoxesTellTheirText()
+{
+    const char* const arrNames[] = {"chkboxGpuDecode", "chkboxDblk2ChangeStream", "silenceChkBox"};
+    for (const char* pszName : arrNames)
+    {
+        Check(pszName)->resize(40, 20);
+    }
+    Load(VideoConfigInfo());
+    for (const char* pszName : arrNames)
+    {
+        QCOMPARE(Check(pszName)->toolTip(), Check(pszName)->text());
+    }
 }
 
 void tst_VideoConfig::ToolTipOfTheDoubleClickBox()
@@ -476,6 +493,7 @@ void tst_VideoConfig::LoadInstantTime()
     QFETCH(QString, strText);
     VideoConfigInfo record;
     record.bInstantCustom = true;
+    record.nInstantTimeUnit = 1;
     Load(record);
     record.bInstantCustom = false;
     record.nInstantPlaybackTime = nSeconds;
@@ -562,6 +580,12 @@ void tst_VideoConfig::SplitButtonStyle()
                  "QPushButton#btnShowSplitWnd:hover{image: url(:/LocalConfig/tip_" + strN + "-h.svg);}" + strGap +
                  "QPushButton#btnShowSplitWnd:pressed{image: url(:/LocalConfig/tip_" + strN + "-p.svg);}" + strGap +
                  "QPushButton#btnShowSplitWnd:disabled{image: url(:/LocalConfig/tip_" + strN + "-d.svg);}");
+}
+
+void tst_VideoConfig::ThePickerIsHiddenAtFirst()
+{
+    Show();
+    QVERIFY(!Find<CSplitWndNumConfig>("CSplitWndNumConfig")->isVisible());
 }
 
 void tst_VideoConfig::PickerTogglesAndStandsBelowTheButton()
@@ -911,6 +935,16 @@ void tst_VideoConfig::SilentBoxEnablesItsWidget()
     QVERIFY(Enabled("silenceWidget"));
     QTest::mouseClick(Check("silenceChkBox"), Qt::LeftButton, {}, QPoint(8, Check("silenceChkBox")->height() / 2));
     QVERIFY(!Enabled("silenceWidget"));
+}
+
+void tst_VideoConfig::OnlyCustomPlayModeEnablesItsWidget()
+{
+    Load(VideoConfigInfo());
+    QTest::keyClick(Combo("playmodeComboBox"), Qt::Key_Down);
+    QCOMPARE(Combo("playmodeComboBox")->currentText(), QString("Custom"));
+    QVERIFY(Enabled("wgtPlayModeCustomize") && Enabled("playmodelabel_2"));
+    QTest::keyClick(Combo("playmodeComboBox"), Qt::Key_Up);
+    QVERIFY(!Enabled("wgtPlayModeCustomize") && !Enabled("playmodelabel_2"));
 }
 
 void tst_VideoConfig::UnInitForgetsTheSection()
