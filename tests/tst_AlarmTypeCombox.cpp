@@ -36,6 +36,8 @@ private slots:
     void ANewMenuKeepsTheItemsOfTheBox();
     void ANewMenuKeepsAChoiceThatItHas();
     void ANewMenuDropsAChoiceThatItLacks();
+    void ANewMenuClosesTheOldOne();
+    void ANewMenuRenamesTheChoice();
 
     void OpeningShowsBothLevels();
     void OpeningShowsTheChoice();
@@ -180,6 +182,25 @@ void tst_AlarmTypeCombox::ANewMenuDropsAChoiceThatItLacks()
     m_pCombo->ChooseItem(3, 4);
     m_pCombo->InitMenu({{3, "Video"}}, {{3, {{2, "Loss"}}}});
     QCOMPARE(m_pCombo->GetCurrentChosenItem(), QList<int>());
+    QCOMPARE(m_pCombo->accessibleDescription(), QString());
+}
+
+void tst_AlarmTypeCombox::ANewMenuClosesTheOldOne()
+{
+    m_pCombo->showPopup();
+    QVERIFY(IsOpen());
+    m_pCombo->InitMenu({{4, "Storage"}}, {{4, {{5, "Disk full"}}}});
+    QVERIFY(!IsOpen());
+    m_pCombo->showPopup();
+    QCOMPARE(Texts(Main()), QStringList{"Storage"});
+    QCOMPARE(Texts(Sub()), QStringList{"Disk full"});
+}
+
+void tst_AlarmTypeCombox::ANewMenuRenamesTheChoice()
+{
+    m_pCombo->ChooseItem(3, 4);
+    m_pCombo->InitMenu({{3, "Video"}}, {{3, {{4, "Covered"}}}});
+    QCOMPARE(m_pCombo->accessibleDescription(), QString("Covered"));
 }
 
 void tst_AlarmTypeCombox::OpeningShowsBothLevels()

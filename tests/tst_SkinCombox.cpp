@@ -67,6 +67,7 @@ private slots:
     void AStripIsCutIntoFrames();
     void ANullStripChangesNothing();
     void TheMouseSetsTheState();
+    void APressThatOpensNothingCountsToo();
     void AnOpenPopupKeepsTheState();
     void PressingAndClosingGoesBackToNormal();
     void AStateChangeRepaints();
@@ -159,6 +160,13 @@ void tst_SkinCombox::TheMouseSetsTheState()
     QCOMPARE(m_pCombo->m_nState, 0);
 }
 
+void tst_SkinCombox::APressThatOpensNothingCountsToo()
+{
+    QTest::mousePress(m_pCombo, Qt::RightButton);
+    QVERIFY(!m_pCombo->view()->isVisible());
+    QCOMPARE(m_pCombo->m_nState, 2);
+}
+
 void tst_SkinCombox::AnOpenPopupKeepsTheState()
 {
     m_pCombo->showPopup();
@@ -176,8 +184,10 @@ void tst_SkinCombox::PressingAndClosingGoesBackToNormal()
 {
     QTest::mousePress(m_pCombo, Qt::LeftButton);
     QCOMPARE(m_pCombo->m_nState, 2);
+    QVERIFY(m_pCombo->view()->isVisible());
     m_pCombo->hidePopup();
     QCOMPARE(m_pCombo->m_nState, 0);
+    QVERIFY(!m_pCombo->view()->isVisible());
     QCOMPARE(m_pCombo->currentIndex(), 1);
 }
 
@@ -250,6 +260,8 @@ void tst_SkinCombox::KeysOverTheBox()
 {
     QFETCH(int, nKey);
     QFETCH(bool, bPasses);
+    QLineEdit other(m_pWindow.data()); // what the focus could go to
+    other.show();
     m_pCombo->setFocus();
     m_pCombo->setCurrentIndex(1);
     QKeyEvent event(QEvent::KeyPress, nKey, Qt::NoModifier, QString(QChar(nKey < 128 ? nKey : 0)));
@@ -257,6 +269,7 @@ void tst_SkinCombox::KeysOverTheBox()
     QTest::keyClick(m_pCombo, Qt::Key(nKey));
     const bool bMoves = nKey == Qt::Key_Up || nKey == Qt::Key_Down;
     QCOMPARE(m_pCombo->currentIndex() != 1, bMoves);
+    QVERIFY(m_pCombo->hasFocus());
     QVERIFY(!m_pCombo->view()->isVisible());
 }
 

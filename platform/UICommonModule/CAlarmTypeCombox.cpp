@@ -25,6 +25,12 @@ void CAlarmTypeCombox::InitMenu(const QMap<int, QString>& mapMain, const QMap<in
         m_pMenu->SetItems(m_mapMain, m_mapSub);
     }
     m_bChosen = m_bChosen && HasItem(m_nMainItem, m_nSubItem);
+    ShowChoice();
+}
+
+void CAlarmTypeCombox::ShowChoice()
+{
+    setAccessibleDescription(m_bChosen ? GetText(m_nMainItem, m_nSubItem) : QString());
     update();
 }
 
@@ -52,8 +58,7 @@ bool CAlarmTypeCombox::ChooseItem(int nMainItem, int nSubItem)
     m_bChosen = true;
     m_nMainItem = nMainItem;
     m_nSubItem = nSubItem;
-    setAccessibleDescription(GetText(nMainItem, nSubItem));
-    update();
+    ShowChoice();
     emit SignalItemChange(nMainItem, nSubItem);
     return true;
 }
@@ -61,8 +66,7 @@ bool CAlarmTypeCombox::ChooseItem(int nMainItem, int nSubItem)
 void CAlarmTypeCombox::ClearChosenItem()
 {
     m_bChosen = false;
-    setAccessibleDescription(QString());
-    update();
+    ShowChoice();
 }
 
 void CAlarmTypeCombox::showPopup()

@@ -60,6 +60,7 @@ protected:
 private:
     bool HasItem(int nMainItem, int nSubItem) const;
     QString GetText(int nMainItem, int nSubItem) const;
+    void ShowChoice();
 
     QMap<int, QString> m_mapMain;
     QMap<int, QMap<int, QString>> m_mapSub;
