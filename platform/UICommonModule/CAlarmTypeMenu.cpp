@@ -74,7 +74,6 @@ CAlarmTypeMenu::CAlarmTypeMenu(QWidget* pOwner)
     m_pSubList->setFixedWidth(g_nSubWidth);
     connect(m_pMainList->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &CAlarmTypeMenu::OnMainItemChanged);
-    connect(m_pMainList, &QListView::clicked, this, [this] { m_pMainList->setFocus(); });
     connect(m_pSubList, &QListView::clicked, this, &CAlarmTypeMenu::Choose);
 }
 
