@@ -289,6 +289,11 @@ void tst_PathEdit::FolderNamesAreCompleted()
     };
     QTRY_COMPARE(typeOn(), 1);
     QCOMPARE(m_pEdit->completer()->currentCompletion(), folder.filePath("snapshots"));
+
+    m_pEdit->SetBrowseMode(CPathEdit::BrowseByOwner);
+    QVERIFY(!m_pEdit->completer());
+    QTest::keyClick(m_pEdit, 'p'); // no folder is read any more
+    QVERIFY(!m_pEdit->completer());
 }
 
 void tst_PathEdit::NothingIsCompletedForTheOwner()
