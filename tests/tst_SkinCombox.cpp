@@ -266,6 +266,7 @@ void tst_SkinCombox::KeysOverTheBox()
     m_pCombo->setCurrentIndex(1);
     QKeyEvent event(QEvent::KeyPress, nKey, Qt::NoModifier, QString(QChar(nKey < 128 ? nKey : 0)));
     QCOMPARE(m_pCombo->eventFilter(m_pCombo, &event), !bPasses);
+    QVERIFY(m_pCombo->hasFocus());
     QTest::keyClick(m_pCombo, Qt::Key(nKey));
     const bool bMoves = nKey == Qt::Key_Up || nKey == Qt::Key_Down;
     QCOMPARE(m_pCombo->currentIndex() != 1, bMoves);
