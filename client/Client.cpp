@@ -1,11 +1,11 @@
 #include "Client.h"
 
-#include "AlarmSounds.h"
-#include "AutoStart.h"
-#include "ConfigService.h"
-#include "LoginManager.h"
 #include "MainWindow.h"
-#include "UserManager.h"
+#include <client/alarm/AlarmSounds.h>
+#include <client/session/AutoStart.h>
+#include <client/session/LoginManager.h>
+#include <client/session/UserManager.h>
+#include <client/store/ConfigService.h>
 
 #include <KvGui/KvMessageNotify.h>
 #include <KvGui/KvToolListView.h>

@@ -1,10 +1,10 @@
 #include "MainWindow.h"
 
-#include "AlarmCenter.h"
-#include "ConfigService.h"
-#include "LiveActions.h"
-#include "MapView.h"
-#include "SplitView.h"
+#include <client/alarm/AlarmCenter.h>
+#include <client/alarm/MapView.h>
+#include <client/live/LiveActions.h>
+#include <client/live/SplitView.h>
+#include <client/store/ConfigService.h>
 
 #include <KvGui/KvMessageNotify.h>
 #include <KvGui/KvPushButton.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <client/RecordFields.h>
+#include <client/store/RecordFields.h>
 
 #include <map>
 #include <string>

@@ -1,9 +1,9 @@
 #include "AlarmCenter.h"
 
 #include "AlarmSounds.h"
-#include "ConfigService.h"
 #include "MapView.h"
-#include "SplitView.h"
+#include <client/live/SplitView.h>
+#include <client/store/ConfigService.h>
 
 #include <KvGui/KvCustomDialog.h>
 #include <UICommonModule/CAlarmType.h>

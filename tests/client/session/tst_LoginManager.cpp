@@ -1,6 +1,6 @@
 // Against a real server on this machine, which goes away and comes back.
 
-#include <client/LoginManager.h>
+#include <client/session/LoginManager.h>
 
 #include <QElapsedTimer>
 #include <QPointer>

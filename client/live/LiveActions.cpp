@@ -1,7 +1,7 @@
 #include "LiveActions.h"
 
-#include "ConfigService.h"
 #include "SplitView.h"
+#include <client/store/ConfigService.h>
 
 #include <KvGui/KvDir.h>
 #include <KvGui/KvMessageNotify.h>

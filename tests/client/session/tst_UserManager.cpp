@@ -1,5 +1,5 @@
-#include <client/LoginManager.h>
-#include <client/UserManager.h>
+#include <client/session/LoginManager.h>
+#include <client/session/UserManager.h>
 
 #include <QtTest>
 

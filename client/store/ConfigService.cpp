@@ -1,6 +1,6 @@
 #include "ConfigService.h"
 
-#include "AlarmSounds.h"
+#include "AlarmRecord.h"
 
 #include <UICommonModule/CAtomicFile.h>
 #include <UICommonModule/CErrorCode.h>

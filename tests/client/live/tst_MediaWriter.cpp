@@ -1,6 +1,6 @@
 // Faults come from the preloaded library "FaultFs", see support/FaultFs.cpp.
 
-#include <client/MediaWriter.h>
+#include <client/live/MediaWriter.h>
 
 #include <UICommonModule/CErrorCode.h>
 

@@ -1,6 +1,6 @@
 #include "support/ChangedSettings.h"
 
-#include <client/SettingsDocument.h>
+#include <client/store/SettingsDocument.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>

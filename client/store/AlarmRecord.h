@@ -2,8 +2,6 @@
 
 #include <LocalConfig/interfaces/IAlarmSection.h>
 
-#include <QString>
-
 namespace UICommonMdl
 {
 class CAlarmType;
@@ -18,13 +16,5 @@ int GetSoundKey(const UICommonMdl::CAlarmType& catalogue, int nAlarmType);
 
 /// Adds an entry for each category and each sound key of the catalogue that the record lacks; what it has stays.
 void SeedAlarms(const UICommonMdl::CAlarmType& catalogue, LocalConfigLogical::AlarmConfigInfo& record);
-
-/// The file to play for an alarm type, as an absolute path; empty when none is known.
-QString GetSoundFile(const UICommonMdl::CAlarmType& catalogue, const LocalConfigLogical::AlarmConfigInfo& record,
-                     int nAlarmType);
-
-/// Puts the client's own sounds where they are looked for: "Sound" in the working folder. Files that are there stay.
-/// \return false when a file could not be written
-bool ProvideSounds();
 
 } // namespace LocalConfigClient

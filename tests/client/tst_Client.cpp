@@ -2,7 +2,7 @@
 
 #include "support/ChangedSettings.h"
 
-#include <client/SettingsDocument.h>
+#include <client/store/SettingsDocument.h>
 
 #include <QDir>
 #include <QImage>

@@ -1,11 +1,11 @@
 #include "support/Wheel.h"
 
 #include <LocalConfig/CLocalConfig.h>
-#include <client/ConfigService.h>
-#include <client/LoginManager.h>
 #include <client/MainWindow.h>
-#include <client/SplitView.h>
-#include <client/UserManager.h>
+#include <client/live/SplitView.h>
+#include <client/session/LoginManager.h>
+#include <client/session/UserManager.h>
+#include <client/store/ConfigService.h>
 
 #include <KvGui/KvCheckBox.h>
 #include <KvGui/KvLineEdit.h>

@@ -1,13 +1,13 @@
 #include "support/SoundServer.h"
 
-#include <client/AlarmCenter.h>
-#include <client/AlarmSounds.h>
-#include <client/ConfigService.h>
 #include <client/MainWindow.h>
-#include <client/MapView.h>
-#include <client/SettingsDocument.h>
-#include <client/SplitView.h>
-#include <client/UserManager.h>
+#include <client/alarm/AlarmCenter.h>
+#include <client/alarm/AlarmSounds.h>
+#include <client/alarm/MapView.h>
+#include <client/live/SplitView.h>
+#include <client/session/UserManager.h>
+#include <client/store/ConfigService.h>
+#include <client/store/SettingsDocument.h>
 
 #include <UICommonModule/CAlarmType.h>
 #include <UICommonModule/CAlarmTypeCombox.h>
@@ -71,12 +71,6 @@ private slots:
     void initTestCase() { m_server.Start(); }
     void init();
 
-    void SoundKeys_data();
-    void SoundKeys();
-    void SoundsAreProvided();
-    void AChangedSoundStays();
-    void AFolderThatCannotBeWrittenIsReported();
-
     void ATestAlarmDoesAllThree();
     void AcknowledgingEndsEverything();
     void NothingHappensThatIsSwitchedOff();
@@ -118,59 +112,6 @@ void tst_AlarmCenter::init()
 {
     m_pFolder.reset(new QTemporaryDir);
     QVERIFY(QDir::setCurrent(m_pFolder->path()));
-}
-
-void tst_AlarmCenter::SoundKeys_data()
-{
-    QTest::addColumn<int>("nKey");
-    QTest::newRow("302") << 302;
-    QTest::newRow("961") << 200000;
-    QTest::newRow("17021") << 200000;
-    QTest::newRow("967") << 967;
-    QTest::newRow("17020") << 17020;
-    QTest::newRow("17029") << 17029;
-    QTest::newRow("901") << 100000;
-    QTest::newRow("3100") << 3100;
-    QTest::newRow("3101") << 2;
-    QTest::newRow("3130") << 2;
-    QTest::newRow("3131") << 3131;
-}
-
-void tst_AlarmCenter::SoundKeys()
-{
-    QFETCH(int, nKey);
-    QCOMPARE(GetSoundKey(*CAlarmType::Instance(), QByteArray(QTest::currentDataTag()).toInt()), nKey);
-}
-
-void tst_AlarmCenter::SoundsAreProvided()
-{
-    QVERIFY(ProvideSounds());
-    const CAlarmType* pCatalogue = CAlarmType::Instance();
-    LocalConfigLogical::AlarmConfigInfo record;
-    SeedAlarms(*pCatalogue, record);
-    for (int nIndex = 0; nIndex < pCatalogue->GetAlarmTypeCount(); ++nIndex)
-    {
-        const QString strFile = GetSoundFile(*pCatalogue, record, pCatalogue->GetAlarmTypeIdByIndex(nIndex));
-        QVERIFY2(QFileInfo(strFile).isFile(), qPrintable(strFile));
-        QVERIFY(strFile.startsWith(QDir::currentPath() + "/Sound/sound_en/"));
-    }
-}
-
-void tst_AlarmCenter::AChangedSoundStays()
-{
-    QVERIFY(QDir().mkpath("Sound/sound_en"));
-    Put("Sound/sound_en/door.wav", "mine");
-    QVERIFY(ProvideSounds());
-    QFile file("Sound/sound_en/door.wav");
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("mine"));
-    QVERIFY(QFileInfo("Sound/sound_zh_CN/door.wav").size() > 1000);
-}
-
-void tst_AlarmCenter::AFolderThatCannotBeWrittenIsReported()
-{
-    Put("Sound", "a file where the folder should be");
-    QVERIFY(!ProvideSounds());
 }
 
 void tst_AlarmCenter::ATestAlarmDoesAllThree()

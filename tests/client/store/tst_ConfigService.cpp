@@ -4,7 +4,7 @@
 
 #include <UICommonModule/CAlarmType.h>
 #include <UICommonModule/CErrorCode.h>
-#include <client/ConfigService.h>
+#include <client/store/ConfigService.h>
 
 #include <QDir>
 #include <QFile>

@@ -2,7 +2,7 @@
 
 #include <LocalConfig/pages/AutoStartEntry.h>
 #include <UICommonModule/CErrorCode.h>
-#include <client/AutoStart.h>
+#include <client/session/AutoStart.h>
 
 #include <QDir>
 #include <QFile>
