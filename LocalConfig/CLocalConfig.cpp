@@ -22,6 +22,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <array>
 
 namespace LocalConfig
 {
@@ -41,9 +42,6 @@ constexpr int g_nRightAlarm = 45;
 constexpr int g_nSaved = 1;
 constexpr int g_nKeepInput = -2;
 
-constexpr char g_szPublic[] = "public";
-constexpr char g_szModule[] = "LocalConfig";
-
 struct SSection
 {
     CGroupBox* Ui::CLocalConfig::*pBox;
@@ -59,38 +57,31 @@ struct SSection
 
 using Form = Ui::CLocalConfig;
 
-// By navigation index. The skins keep the pictures of one entry in two folders.
-// clang-format off
-constexpr SSection g_arrSections[SectionCount] = {
-    {&Form::m_gBBasic,      &Form::horizontalLayout_2,  QT_TRANSLATE_NOOP("CLocalConfig", "Basic"),
-     "general",       g_szPublic, g_szPublic, g_szPublic, "m_pBasic",   SectionBasic},
-    {&Form::m_gBVideo,      &Form::horizontalLayout_3,  QT_TRANSLATE_NOOP("CLocalConfig", "Video"),
-     "video",         g_szModule, g_szModule, g_szModule, "m_pVideo",   SectionVideo},
-    {&Form::m_gBPlayback,   &Form::horizontalLayout_4,  QT_TRANSLATE_NOOP("CLocalConfig", "Record Playback"),
-     "playback",      g_szPublic, g_szPublic, g_szModule, "m_pPlayback", SectionPlayback},
-    {&Form::m_gBCapture,    &Form::horizontalLayout_5,  QT_TRANSLATE_NOOP("CLocalConfig", "Snapshot"),
-     "capture",       g_szPublic, g_szModule, g_szModule, "m_pCapture", SectionSnapshot},
-    {&Form::m_gBRecord,     &Form::horizontalLayout_6,  QT_TRANSLATE_NOOP("CLocalConfig", "Recording"),
-     "videorecord",   g_szPublic, g_szPublic, g_szPublic, "m_pRecord",  SectionRecord},
-    {&Form::m_gBAlarm,      &Form::horizontalLayout_8,  QT_TRANSLATE_NOOP("CLocalConfig", "Alarm"),
-     "alert",         g_szModule, g_szModule, g_szModule, "m_pAlarm",   SectionAlarm},
-    {&Form::m_gBTvwall,     &Form::horizontalLayout_9,  QT_TRANSLATE_NOOP("CLocalConfig", "Video Wall"),
-     "settvwall",     g_szModule, g_szModule, g_szModule, "m_pTvWall",  SectionTvWall},
-    {&Form::m_gBSecurity,   &Form::horizontalLayout_10, QT_TRANSLATE_NOOP("CLocalConfig", "Security"),
-     "SecurityConfig", g_szModule, g_szModule, g_szModule, "m_pSecurity", SectionSecurity},
-    {&Form::m_gShortcutKey, &Form::horizontalLayout_7,  QT_TRANSLATE_NOOP("CLocalConfig", "Shortcut Keys"),
-     "shortcut",      g_szModule, g_szModule, g_szModule, "m_pKey",     SectionShortcutKey},
+// By navigation index.
+constexpr SSection g_arrSections[] = {
+#define SECTION(name, pageClass, page, create, box, layout, text, icon, normalFolder, hoverFolder, pressedFolder)      \
+    {&Form::box, &Form::layout, text, icon, normalFolder, hoverFolder, pressedFolder, page, Section##name},
+#include "SectionList.h"
 };
-// clang-format on
 
-using PageOrder = std::array<int, SectionCount>;
+/// Navigation indices by section code: the order in which pages are saved, defaulted, reloaded on closing, locked and
+/// released.
+constexpr std::array<int, SectionCount> PageOrder()
+{
+    std::array<int, SectionCount> arrOrder{};
+    for (int nIndex = 0; nIndex < SectionCount; ++nIndex)
+    {
+        int nRank = 0;
+        for (const SSection& other : g_arrSections)
+        {
+            nRank += other.eType < g_arrSections[nIndex].eType ? 1 : 0;
+        }
+        arrOrder[nRank] = nIndex;
+    }
+    return arrOrder;
+}
 
-// Pages are saved, defaulted, reloaded on closing, locked and released in one order, reloaded after a refused save in
-// another.
-constexpr PageOrder g_arrPageOrder = {IndexBasic, IndexVideo,       IndexPlayback, IndexCapture, IndexRecord,
-                                      IndexAlarm, IndexShortcutKey, IndexTvWall,   IndexSecurity};
-constexpr PageOrder g_arrRefusedOrder = {IndexBasic, IndexVideo,  IndexPlayback, IndexCapture,    IndexRecord,
-                                         IndexAlarm, IndexTvWall, IndexSecurity, IndexShortcutKey};
+constexpr std::array<int, SectionCount> g_arrPageOrder = PageOrder();
 
 QString Tr(const char* pszText)
 {
@@ -120,6 +111,7 @@ void Notify(const QString& strText)
 CLocalConfig::CLocalConfig(QWidget* pParent)
     : KvCustomDialog(Ok | Other | Cancel, pParent, 1)
     , m_pUi(std::make_unique<Ui::CLocalConfig>())
+    , m_vecPages(SectionCount)
 {
     m_pUi->setupUi(GetCentralWidget());
     // The content's height is set from the boxes' own heights, hidden one included; a box that took up the difference
@@ -175,7 +167,7 @@ void CLocalConfig::UnInitUI()
         m_pLoginManager = nullptr;
         m_pUserManager = nullptr;
     }
-    ForEachPage(g_arrPageOrder, [](IConfigPage& page) { page.UnInit(); });
+    ForEachPage([](IConfigPage& page) { page.UnInit(); });
     m_pLocalConfig = nullptr;
 }
 
@@ -247,7 +239,7 @@ void CLocalConfig::AddSection(int nIndex)
         pBox->SetSelect(true);
     }
     pBox->SetIndex(nIndex);
-    if (nIndex == IndexTvWall && !m_bTvWallRight)
+    if (!HasRightTo(nIndex))
     {
         // Added and taken out again, so that the entries after it keep their indices.
         pBox->hide();
@@ -257,6 +249,11 @@ void CLocalConfig::AddSection(int nIndex)
     }
     pBox->setTitle(Tr(section.pszText));
     m_mapGroupBox.insert(nIndex, pBox);
+}
+
+bool CLocalConfig::HasRightTo(int nIndex) const
+{
+    return nIndex != IndexTvWall || m_bTvWallRight;
 }
 
 // --- Pages
@@ -270,18 +267,12 @@ void CLocalConfig::showEvent(QShowEvent* pEvent)
     }
     m_bFirstShow = false;
     QTimer::singleShot(g_nAdjustDelay, this, &CLocalConfig::OnAdjustVerticalScrollBar);
-    CreateBasicConfig();
-    CreateVideoConfig();
-    CreatePlaybackConfig();
-    CreateCaptureConfig();
-    CreateRecordConfig();
-    CreateAlarmConfig();
-    if (m_bTvWallRight)
-    {
-        CreateTVWallConfig();
+#define SECTION(name, pageClass, page, create, ...)                                                                    \
+    if (HasRightTo(Index##name))                                                                                       \
+    {                                                                                                                  \
+        create;                                                                                                        \
     }
-    CreateSrcurityConfig();
-    CreateShortcurKeyConfig();
+#include "SectionList.h"
     m_pUi->m_pToolListView->setFocus(); // which a page may have taken while it was filled
 }
 
@@ -306,7 +297,7 @@ void CLocalConfig::CreatePlaybackConfig()
 
 void CLocalConfig::CreateCaptureConfig()
 {
-    CreatePage(IndexCapture);
+    CreatePage(IndexSnapshot);
 }
 
 void CLocalConfig::CreateRecordConfig()
@@ -360,7 +351,7 @@ void CLocalConfig::CreatePage(int nIndex)
 /// The page in its group box, still without its section; null when there is nothing to create.
 IConfigPage* CLocalConfig::NewPage(int nIndex)
 {
-    if (m_arrPages[nIndex] || !m_pLocalConfig)
+    if (m_vecPages[nIndex] || !m_pLocalConfig)
     {
         return nullptr;
     }
@@ -370,7 +361,7 @@ IConfigPage* CLocalConfig::NewPage(int nIndex)
     {
         return nullptr;
     }
-    m_arrPages[nIndex] = pPage;
+    m_vecPages[nIndex] = pPage;
 
     QWidget* pWidget = pPage->GetWidget();
     pWidget->setObjectName(QString::fromLatin1(section.pszPage));
@@ -385,17 +376,17 @@ IConfigPage* CLocalConfig::NewPage(int nIndex)
 
 void CLocalConfig::HandSectionTo(int nIndex)
 {
-    m_arrPages[nIndex]->SetSection(m_pLocalConfig->GetSection(g_arrSections[nIndex].eType));
+    m_vecPages[nIndex]->SetSection(m_pLocalConfig->GetSection(g_arrSections[nIndex].eType));
 }
 
 template <class Action>
-void CLocalConfig::ForEachPage(const std::array<int, 9>& arrOrder, Action action)
+void CLocalConfig::ForEachPage(Action action)
 {
-    for (int nIndex : arrOrder)
+    for (int nIndex : g_arrPageOrder)
     {
-        if (m_arrPages[nIndex])
+        if (m_vecPages[nIndex])
         {
-            action(*m_arrPages[nIndex]);
+            action(*m_vecPages[nIndex]);
         }
     }
 }
@@ -426,7 +417,7 @@ void CLocalConfig::OnAdjustVerticalScrollBar()
 void CLocalConfig::OnVideoConfigChangeSize()
 {
     m_pUi->m_gBVideo->adjustSize();
-    if (IConfigPage* pPage = m_arrPages[IndexVideo])
+    if (IConfigPage* pPage = m_vecPages[IndexVideo])
     {
         pPage->GetWidget()->adjustSize();
     }
@@ -522,7 +513,7 @@ void CLocalConfig::OnSaveBtnClicked()
     }
     QMap<const IConfigPage*, int> mapResults;
     bool bAllSaved = true;
-    ForEachPage(g_arrPageOrder, [&](IConfigPage& page) {
+    ForEachPage([&](IConfigPage& page) {
         const int nResult = page.SaveConfig();
         mapResults.insert(&page, nResult);
         bAllSaved = bAllSaved && nResult == 0;
@@ -541,13 +532,15 @@ void CLocalConfig::OnSaveBtnClicked()
         return;
     }
 
-    ForEachPage(g_arrRefusedOrder, [&](IConfigPage& page) {
-        const bool bMayKeep = &page == m_arrPages[IndexCapture] || &page == m_arrPages[IndexRecord];
-        if (!bMayKeep || mapResults.value(&page) != g_nKeepInput)
+    for (int nIndex = 0; nIndex < SectionCount; ++nIndex) // in navigation order, unlike the save
+    {
+        IConfigPage* pPage = m_vecPages[nIndex];
+        const bool bMayKeep = nIndex == IndexSnapshot || nIndex == IndexRecord;
+        if (pPage && !(bMayKeep && mapResults.value(pPage) == g_nKeepInput))
         {
-            page.ReloadConfig(false);
+            pPage->ReloadConfig(false);
         }
-    });
+    }
     Notify(Tr(QT_TRANSLATE_NOOP("CLocalConfig", "Failed to save configuration, some values are illegal.")));
 }
 
@@ -573,7 +566,7 @@ void CLocalConfig::OnCloseBtmClicked()
 
 void CLocalConfig::ReloadPages(bool bDefault)
 {
-    ForEachPage(g_arrPageOrder, [bDefault](IConfigPage& page) { page.ReloadConfig(bDefault); });
+    ForEachPage([bDefault](IConfigPage& page) { page.ReloadConfig(bDefault); });
 }
 
 // --- Connection state
@@ -593,7 +586,7 @@ void CLocalConfig::SetConnected(bool bConnected)
     SetButtonEnable(Other, bConnected);
     SetButtonEnable(Ok, bConnected);
     SetButtonEnable(Cancel, bConnected);
-    ForEachPage(g_arrPageOrder, [bConnected](IConfigPage& page) { page.SetControlsEnabled(bConnected); });
+    ForEachPage([bConnected](IConfigPage& page) { page.SetControlsEnabled(bConnected); });
 }
 
 } // namespace LocalConfig

@@ -6,8 +6,8 @@
 
 #include <QMap>
 
-#include <array>
 #include <memory>
+#include <vector>
 
 namespace Ui
 {
@@ -85,6 +85,7 @@ private:
     void InitUI();
     void ConnectSlots();
     void AddSection(int nIndex);
+    bool HasRightTo(int nIndex) const;
 
     void CreateBasicConfig();
     void CreateVideoConfig();
@@ -100,7 +101,7 @@ private:
     void CreatePage(int nIndex);
 
     template <class Action>
-    void ForEachPage(const std::array<int, 9>& arrOrder, Action action);
+    void ForEachPage(Action action);
     void ReloadPages(bool bDefault);
     void SetConnected(bool bConnected);
 
@@ -116,7 +117,7 @@ private:
     UserLogical::ILoginManager* m_pLoginManager = nullptr;
     bool m_bFirstShow = true;
     bool m_bTvWallRight = false;
-    std::array<IConfigPage*, 9> m_arrPages{}; // by navigation index; Qt children of their group boxes
+    std::vector<IConfigPage*> m_vecPages; // by navigation index; Qt children of their group boxes
     QMap<int, CGroupBox*> m_mapGroupBox;
 };
 

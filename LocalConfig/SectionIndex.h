@@ -7,15 +7,8 @@ namespace LocalConfig
 /// host knows it.
 enum ESectionIndex : int
 {
-    IndexBasic,
-    IndexVideo,
-    IndexPlayback,
-    IndexCapture,
-    IndexRecord,
-    IndexAlarm,
-    IndexTvWall,
-    IndexSecurity,
-    IndexShortcutKey,
+#define SECTION(name, ...) Index##name,
+#include "SectionList.h"
     SectionCount
 };
 

@@ -15,45 +15,17 @@
 namespace LocalConfig
 {
 
-namespace
-{
-
-template <class Page>
-IConfigPage* Create(QWidget* pParent)
-{
-    return new Page(pParent);
-}
-
-struct SPage
-{
-    ESectionIndex eIndex;
-    IConfigPage* (*pfnCreate)(QWidget*);
-};
-
-constexpr SPage g_arrPages[] = {
-    {IndexBasic, &Create<CBasicConfig>},
-    {IndexVideo, &Create<CVideoConfig>},
-    {IndexPlayback, &Create<CPlaybackConfig>},
-    {IndexCapture, &Create<CCaptureConfig>},
-    {IndexRecord, &Create<CRecordConfig>},
-    {IndexAlarm, &Create<CAlarmConfig>},
-    {IndexTvWall, &Create<CTvWallConfig>},
-    {IndexSecurity, &Create<CSecurityConfig>},
-    {IndexShortcutKey, &Create<CShortcutKeyConfig>},
-};
-
-} // namespace
-
 IConfigPage* CreateConfigPage(int nIndex, QWidget* pParent)
 {
-    for (const SPage& page : g_arrPages)
+    switch (nIndex)
     {
-        if (page.eIndex == nIndex)
-        {
-            return page.pfnCreate(pParent);
-        }
+#define SECTION(name, pageClass, ...)                                                                                  \
+    case Index##name:                                                                                                  \
+        return new pageClass(pParent);
+#include <LocalConfig/SectionList.h>
+    default:
+        return nullptr;
     }
-    return nullptr;
 }
 
 } // namespace LocalConfig

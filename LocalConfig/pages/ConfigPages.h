@@ -8,7 +8,7 @@ namespace LocalConfig
 class IConfigPage;
 
 /// Creates the page of a section.
-/// \param nIndex   navigation index, 0 to 8
+/// \param nIndex   navigation index
 /// \param pParent  becomes the page's parent and owner
 /// \return null when there is no such page
 IConfigPage* CreateConfigPage(int nIndex, QWidget* pParent);

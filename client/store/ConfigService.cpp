@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMap>
 
 using UICommonMdl::CAtomicFile;
 using UICommonMdl::CErrorCode;
@@ -69,29 +70,18 @@ QString ConfigService::GetPath(const char* pszName) const
 LocalConfigLogical::IConfigSection* ConfigService::GetSection(int nSectionType)
 {
     using namespace LocalConfigLogical;
-    switch (nSectionType)
-    {
-    case SectionBasic:
-        return &m_basic;
-    case SectionVideo:
-        return &m_video;
-    case SectionPlayback:
-        return &m_playback;
-    case SectionSnapshot:
-        return &m_snapshot;
-    case SectionRecord:
-        return &m_record;
-    case SectionAlarm:
-        return &m_alarm;
-    case SectionShortcutKey:
-        return &m_shortcutKey;
-    case SectionTvWall:
-        return &m_tvWall;
-    case SectionSecurity:
-        return &m_security;
-    default:
-        return nullptr;
-    }
+    const QMap<int, IConfigSection*> mapSections = {
+        {SectionBasic, &m_basic},
+        {SectionVideo, &m_video},
+        {SectionPlayback, &m_playback},
+        {SectionSnapshot, &m_snapshot},
+        {SectionRecord, &m_record},
+        {SectionAlarm, &m_alarm},
+        {SectionShortcutKey, &m_shortcutKey},
+        {SectionTvWall, &m_tvWall},
+        {SectionSecurity, &m_security},
+    };
+    return mapSections.value(nSectionType);
 }
 
 // --- Loading
