@@ -1,0 +1,115 @@
+cmake_minimum_required(VERSION 3.25)
+
+# Follows docs/adding-a-page.md in a copy of the tree, builds the module with its tenth section and runs a program that
+# uses it. The page itself says what to do: its blocks of changes are applied as they stand, and its new files are those
+# of the folder "section".
+# Variables: SOURCE_DIR, WORK_DIR, GENERATOR, CXX, LAUNCHER
+
+set(recipe "${SOURCE_DIR}/docs/adding-a-page.md")
+set(section "${SOURCE_DIR}/tests/recipe/section")
+set(tree "${WORK_DIR}/tree")
+set(edited "${WORK_DIR}/edited")
+
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    message("${output}")
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "failed (${result}): ${ARGN}")
+    endif()
+endfunction()
+
+# change(<block>): a file's name after "+++ ", then lines that stand there (" "), go ("-") and come ("+").
+function(change block)
+    if(NOT block MATCHES "^\\+\\+\\+ ([^\n]+)(\n.*)\n$")
+        message(FATAL_ERROR "${recipe}: a block without a file's name:\n${block}")
+    endif()
+    set(file "${CMAKE_MATCH_1}")
+    set(lines "${CMAKE_MATCH_2}")
+    if(lines MATCHES "\n[^-+ \n]")
+        message(FATAL_ERROR "${recipe}: neither there nor gone nor come in ${file}:\n${block}")
+    endif()
+    string(REGEX REPLACE "\n\\+[^\n]*" "" before "${lines}")
+    string(REGEX REPLACE "\n[- ]" "\n" before "${before}\n")
+    string(REGEX REPLACE "\n-[^\n]*" "" after "${lines}")
+    string(REGEX REPLACE "\n[+ ]" "\n" after "${after}\n")
+
+    set(current "${edited}/${file}") # a file may be changed more than once
+    if(NOT EXISTS "${current}")
+        set(current "${SOURCE_DIR}/${file}")
+    endif()
+    if(NOT EXISTS "${current}")
+        message(FATAL_ERROR "${recipe}: there is no ${file}")
+    endif()
+    file(READ "${current}" content)
+    string(FIND "${content}" "${before}" first)
+    string(FIND "${content}" "${before}" last REVERSE)
+    if(first EQUAL -1 OR NOT first EQUAL last)
+        message(FATAL_ERROR "${recipe}: not once in ${file}:${before}")
+    endif()
+    string(REPLACE "${before}" "${after}" content "${content}")
+    file(WRITE "${edited}/${file}" "${content}")
+endfunction()
+
+file(REMOVE_RECURSE "${edited}")
+file(READ "${recipe}" text)
+
+# New files: those that the page links to are those that there are.
+string(REGEX MATCHALL "\\(\\.\\./tests/recipe/section/[^)\n]+\\)" links "${text}")
+string(REGEX REPLACE "\\(\\.\\./tests/recipe/section/([^)]+)\\)" "\\1" links "${links}")
+file(GLOB_RECURSE newFiles RELATIVE "${section}" "${section}/*")
+list(SORT links)
+list(SORT newFiles)
+if(NOT "${links}" STREQUAL "${newFiles}")
+    message(FATAL_ERROR "${recipe} names the new files ${links}, but there are ${newFiles}")
+endif()
+
+# Changes.
+set(opening "\n```diff\n")
+string(LENGTH "${opening}" openingLength)
+string(FIND "${text}" "${opening}" place)
+while(NOT place EQUAL -1)
+    math(EXPR place "${place} + ${openingLength}")
+    string(SUBSTRING "${text}" ${place} -1 text)
+    string(FIND "${text}" "```\n" end)
+    string(SUBSTRING "${text}" 0 ${end} block)
+    change("${block}")
+    string(FIND "${text}" "${opening}" place)
+endwhile()
+file(GLOB_RECURSE changedFiles RELATIVE "${edited}" "${edited}/*")
+
+# The copy. Files that are the same already stay as they are, so that only what differs is built again.
+set(folders cmake client LocalConfig platform tools)
+list(TRANSFORM folders REPLACE "(.+)" "${SOURCE_DIR}/\\1/*" OUTPUT_VARIABLE patterns)
+file(GLOB_RECURSE plainFiles RELATIVE "${SOURCE_DIR}" ${patterns})
+list(APPEND plainFiles CMakeLists.txt)
+list(REMOVE_ITEM plainFiles ${changedFiles} ${newFiles})
+file(GLOB_RECURSE staleFiles RELATIVE "${tree}" "${tree}/*")
+list(REMOVE_ITEM staleFiles ${plainFiles} ${changedFiles} ${newFiles})
+foreach(file IN LISTS staleFiles)
+    file(REMOVE "${tree}/${file}")
+endforeach()
+# take(<folder> <file>...): into the copy.
+function(take folder)
+    foreach(file IN LISTS ARGN)
+        get_filename_component(target "${tree}/${file}" DIRECTORY)
+        file(MAKE_DIRECTORY "${target}")
+        file(COPY_FILE "${folder}/${file}" "${tree}/${file}" ONLY_IF_DIFFERENT)
+    endforeach()
+endfunction()
+take("${SOURCE_DIR}" ${plainFiles})
+take("${edited}" ${changedFiles})
+take("${section}" ${newFiles})
+
+# Written anew with every configuration, but never taken away.
+file(REMOVE_RECURSE "${WORK_DIR}/build/tree/share/local-config-client/skin")
+run("${CMAKE_COMMAND}" -S "${SOURCE_DIR}/tests/recipe" -B "${WORK_DIR}/build" -G "${GENERATOR}"
+    "-DCMAKE_CXX_COMPILER=${CXX}" "-DCMAKE_CXX_COMPILER_LAUNCHER=${LAUNCHER}" "-DTREE=${tree}")
+run("${CMAKE_COMMAND}" --build "${WORK_DIR}/build" --target tst_TenthSection LocalConfigTranslations)
+file(REMOVE_RECURSE "${WORK_DIR}/home")
+file(MAKE_DIRECTORY "${WORK_DIR}/home")
+file(CHMOD "${WORK_DIR}/home" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+set(ENV{HOME} "${WORK_DIR}/home")
+set(ENV{XDG_CONFIG_HOME} "${WORK_DIR}/home")
+set(ENV{XDG_RUNTIME_DIR} "${WORK_DIR}/home")
+set(ENV{QT_QPA_PLATFORM} offscreen)
+run("${WORK_DIR}/build/tst_TenthSection")
