@@ -259,55 +259,20 @@ int ConfigService::Save(const SettingsDocument* pImported)
 int ConfigService::WriteGenerations(const SettingsDocument* pImported)
 {
     QByteArray onDisk;
-    const int nRead = CAtomicFile::Read(GetPath(g_szDocument), onDisk);
-    if (nRead != CErrorCode::Success && nRead != CErrorCode::FileMissing)
+    const int nTaken = TakeOverFromDisk(onDisk);
+    if (nTaken != CErrorCode::Success)
     {
-        return CErrorCode::Unreadable;
+        return nTaken;
     }
-    const bool bChanged = onDisk != m_onDisk;
-    if (bChanged && m_bLoadedWithoutLock)
-    {
-        return CErrorCode::ChangedElsewhere; // by a client whose values are not known here
-    }
-
-    if (nRead == CErrorCode::Success)
-    {
-        // Parsing takes over what others have added since; the records are this client's.
-        switch (m_document.Parse(onDisk))
-        {
-        case SettingsDocument::Good:
-            break;
-        case SettingsDocument::Newer:
-            return CErrorCode::Unreadable;
-        case SettingsDocument::Damaged:
-            if (!SetAside())
-            {
-                return CErrorCode::Damaged;
-            }
-            onDisk = m_onDisk;
-            Report(
-                Tr(QT_TRANSLATE_NOOP("ConfigService", "The settings file was damaged meanwhile and was set aside.")));
-            break;
-        }
-    }
-    if (pImported)
-    {
-        m_document.TakeUnknownKeys(*pImported);
-    }
-    m_document.SetSettings(m_working);
-    const QByteArray content = m_document.Serialize();
+    const QByteArray content = Compose(pImported);
     if (content == onDisk)
     {
         return CErrorCode::Success;
     }
-
-    if (!onDisk.isEmpty())
+    const int nKept = onDisk.isEmpty() ? int(CErrorCode::Success) : CAtomicFile::Write(GetPath(g_szLastGood), onDisk);
+    if (nKept != CErrorCode::Success)
     {
-        const int nKept = CAtomicFile::Write(GetPath(g_szLastGood), onDisk);
-        if (nKept != CErrorCode::Success)
-        {
-            return nKept;
-        }
+        return nKept;
     }
     const int nWritten = CAtomicFile::Write(GetPath(g_szDocument), content);
     if (nWritten == CErrorCode::Success)
@@ -316,6 +281,47 @@ int ConfigService::WriteGenerations(const SettingsDocument* pImported)
         m_bLoadedWithoutLock = false;
     }
     return nWritten;
+}
+
+/// Reads the document again, for what others have added to it since. One that is damaged by now is set aside.
+int ConfigService::TakeOverFromDisk(QByteArray& onDisk)
+{
+    const int nRead = CAtomicFile::Read(GetPath(g_szDocument), onDisk);
+    if (nRead != CErrorCode::Success && nRead != CErrorCode::FileMissing)
+    {
+        return CErrorCode::Unreadable;
+    }
+    if (onDisk != m_onDisk && m_bLoadedWithoutLock)
+    {
+        return CErrorCode::ChangedElsewhere; // by a client whose values are not known here
+    }
+    const SettingsDocument::Result eResult =
+        nRead == CErrorCode::Success ? m_document.Parse(onDisk) : SettingsDocument::Good;
+    if (eResult == SettingsDocument::Newer)
+    {
+        return CErrorCode::Unreadable;
+    }
+    if (eResult == SettingsDocument::Damaged)
+    {
+        if (!SetAside())
+        {
+            return CErrorCode::Damaged;
+        }
+        onDisk = m_onDisk;
+        Report(Tr(QT_TRANSLATE_NOOP("ConfigService", "The settings file was damaged meanwhile and was set aside.")));
+    }
+    return CErrorCode::Success;
+}
+
+/// The working records, with the unknown keys of the document and those of an imported one.
+QByteArray ConfigService::Compose(const SettingsDocument* pImported)
+{
+    if (pImported)
+    {
+        m_document.TakeUnknownKeys(*pImported);
+    }
+    m_document.SetSettings(m_working);
+    return m_document.Serialize();
 }
 
 void ConfigService::ApplyAutoStart(bool bBefore)

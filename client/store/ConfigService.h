@@ -93,8 +93,10 @@ private:
     bool LoadLastGood();
     bool SetAside();
     int TakeLock();
-    int WriteGenerations(const SettingsDocument* pImported);
     int Save(const SettingsDocument* pImported);
+    int WriteGenerations(const SettingsDocument* pImported);
+    int TakeOverFromDisk(QByteArray& onDisk);
+    QByteArray Compose(const SettingsDocument* pImported);
     void ApplyAutoStart(bool bBefore);
     void Report(const QString& strProblem);
     QString GetPath(const char* pszName) const;
