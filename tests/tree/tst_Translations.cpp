@@ -51,6 +51,7 @@ private:
 
     struct SMessage
     {
+        QString strContext;
         QString strSource;
         QString strTranslation;
         bool bFinished = false;
@@ -73,7 +74,11 @@ private:
             {
                 continue;
             }
-            if (xml.name() == QLatin1String("source"))
+            if (xml.name() == QLatin1String("name"))
+            {
+                message.strContext = xml.readElementText();
+            }
+            else if (xml.name() == QLatin1String("source"))
             {
                 message.strSource = xml.readElementText();
             }
@@ -130,7 +135,8 @@ void tst_Translations::FilesNameEveryTextOfTheSources()
 {
     QFETCH(QString, strFolder);
     QFETCH(QString, strFile);
-    // A fresh extraction into an empty file finds nothing that the file in the tree lacks, and the other way round.
+    // A fresh extraction into an empty file finds nothing that the file in the tree lacks, and the other way round. A
+    // text in another context would not be found when the program runs.
     const QString strFresh = QDir::current().filePath("fresh.ts");
     QFile::remove(strFresh);
     QProcess process;
@@ -139,16 +145,16 @@ void tst_Translations::FilesNameEveryTextOfTheSources()
                    QStringLiteral(SOURCE_DIR "/%1").arg(strFolder), "-target-language", "zh_CN", "-ts", strFresh});
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitCode(), 0);
-    const auto sources = [](const QString& strPath) {
-        QStringList listSources;
+    const auto texts = [](const QString& strPath) {
+        QStringList listTexts;
         for (const SMessage& message : Messages(strPath))
         {
-            listSources += message.strSource;
+            listTexts += message.strContext + QLatin1String(": ") + message.strSource;
         }
-        listSources.sort();
-        return listSources;
+        listTexts.sort();
+        return listTexts;
     };
-    QCOMPARE(sources(QStringLiteral(SOURCE_DIR "/%1").arg(strFile)), sources(strFresh));
+    QCOMPARE(texts(QStringLiteral(SOURCE_DIR "/%1").arg(strFile)), texts(strFresh));
 }
 
 void tst_Translations::CompiledFilesAreInstalled()
