@@ -83,10 +83,11 @@ constexpr std::array<int, SectionCount> PageOrder()
 
 constexpr std::array<int, SectionCount> g_arrPageOrder = PageOrder();
 
-QString Tr(const char* pszText)
+/// The form's context, which has no namespace; the dialog's own texts stand in it too.
+class CFormText
 {
-    return QCoreApplication::translate("CLocalConfig", pszText);
-}
+    Q_DECLARE_TR_FUNCTIONS(CLocalConfig)
+};
 
 QIcon SectionIcon(const SSection& section)
 {
@@ -118,7 +119,7 @@ CLocalConfig::CLocalConfig(QWidget* pParent)
     // would make the content grow with every computation.
     m_pUi->verticalLayout->setAlignment(Qt::AlignTop);
     InitDialogSize();
-    SetTitle(Tr(QT_TRANSLATE_NOOP("CLocalConfig", "Local Config")));
+    SetTitle(CFormText::tr("Local Config"));
     ConnectSlots();
     setObjectName(QStringLiteral("CLocalConfig"));
     ApplySkinStyle(this);
@@ -209,9 +210,9 @@ void CLocalConfig::InitUI()
         AddSection(nIndex);
     }
 
-    SetButtonText(Other, Tr(QT_TRANSLATE_NOOP("CLocalConfig", "Default")));
-    SetButtonText(Ok, Tr(QT_TRANSLATE_NOOP("CLocalConfig", "Save")));
-    SetButtonText(Cancel, Tr(QT_TRANSLATE_NOOP("CLocalConfig", "Cancel")));
+    SetButtonText(Other, CFormText::tr("Default"));
+    SetButtonText(Ok, CFormText::tr("Save"));
+    SetButtonText(Cancel, CFormText::tr("Cancel"));
 
     m_pUi->scrollArea->setHorizontalScrollBar(new KVGUI::KvHorScrollBar(m_pUi->scrollArea));
     m_pUi->scrollArea->setVerticalScrollBar(new KVGUI::KvVerScrollBar(m_pUi->scrollArea));
@@ -232,7 +233,7 @@ void CLocalConfig::AddSection(int nIndex)
     const SSection& section = g_arrSections[nIndex];
     CGroupBox* pBox = (*m_pUi).*section.pBox;
 
-    m_pUi->m_pToolListView->AddItem(SectionIcon(section), Tr(section.pszText));
+    m_pUi->m_pToolListView->AddItem(SectionIcon(section), CFormText::tr(section.pszText));
     if (nIndex == IndexBasic)
     {
         m_pUi->m_pToolListView->SetCurrentIndex(nIndex);
@@ -247,7 +248,7 @@ void CLocalConfig::AddSection(int nIndex)
         m_pUi->m_pToolListView->RemoveItem(nIndex);
         return;
     }
-    pBox->setTitle(Tr(section.pszText));
+    pBox->setTitle(CFormText::tr(section.pszText));
     m_mapGroupBox.insert(nIndex, pBox);
 }
 
@@ -524,8 +525,8 @@ void CLocalConfig::OnSaveBtnClicked()
         const int nResult = m_pLocalConfig->SaveAll();
         if (nResult != g_nSaved)
         {
-            Notify(UICommonMdl::CErrorCode::GetErroCodeInfor(
-                Tr(QT_TRANSLATE_NOOP("CLocalConfig", "Failed to save config")), nResult, true, true));
+            Notify(
+                UICommonMdl::CErrorCode::GetErroCodeInfor(CFormText::tr("Failed to save config"), nResult, true, true));
         }
         // The base closes without the reload that this dialog's own closing does.
         KvDialog::OnCloseBtmClicked();
@@ -541,7 +542,7 @@ void CLocalConfig::OnSaveBtnClicked()
             pPage->ReloadConfig(false);
         }
     }
-    Notify(Tr(QT_TRANSLATE_NOOP("CLocalConfig", "Failed to save configuration, some values are illegal.")));
+    Notify(CFormText::tr("Failed to save configuration, some values are illegal."));
 }
 
 void CLocalConfig::OnResumeClicked()

@@ -48,14 +48,9 @@ constexpr int g_nExitFailed = 1;
 constexpr QRect g_pictureDesktop(0, 0, 1920, 1080);
 constexpr int g_nLayoutTime = 120; // milliseconds until the dialog has computed its final layout
 
-QString Tr(const char* pszText)
+int Fail(const QString& strText, int nCode)
 {
-    return QCoreApplication::translate("Client", pszText);
-}
-
-int Fail(const char* pszText, const QString& strWhat, int nCode)
-{
-    Client::Complain(CErrorCode::GetErroCodeInfor(Tr(pszText).arg(strWhat), nCode, true, false));
+    Client::Complain(CErrorCode::GetErroCodeInfor(strText, nCode, true, false));
     return g_nExitFailed;
 }
 
@@ -125,7 +120,7 @@ bool Client::EnterDataFolder()
     }
     if (QFileInfo::exists(strFolder) && !QFileInfo(strFolder).isDir())
     {
-        Complain(Tr(QT_TRANSLATE_NOOP("Client", "The data folder '%1' is no folder.")).arg(strFolder));
+        Complain(tr("The data folder '%1' is no folder.").arg(strFolder));
         return false;
     }
     if (!QFileInfo::exists(strFolder))
@@ -135,7 +130,7 @@ bool Client::EnterDataFolder()
         if (bLooking && bNamed)
         {
             // The user's own folder may be missing, one that was named should be there.
-            Complain(Tr(QT_TRANSLATE_NOOP("Client", "The data folder '%1' does not exist.")).arg(strFolder));
+            Complain(tr("The data folder '%1' does not exist.").arg(strFolder));
             return false;
         }
         if (bLooking || m_commandLine.eAction == CommandLine::Import)
@@ -149,7 +144,7 @@ bool Client::EnterDataFolder()
     }
     if (!QDir::setCurrent(strFolder))
     {
-        Complain(Tr(QT_TRANSLATE_NOOP("Client", "The data folder '%1' cannot be entered.")).arg(strFolder));
+        Complain(tr("The data folder '%1' cannot be entered.").arg(strFolder));
         return false;
     }
     return true;
@@ -160,8 +155,7 @@ bool Client::MakeDataFolder() const
     const bool bMade = QDir().mkpath(m_commandLine.strDataFolder);
     if (!bMade)
     {
-        Complain(
-            Tr(QT_TRANSLATE_NOOP("Client", "The data folder '%1' cannot be made.")).arg(m_commandLine.strDataFolder));
+        Complain(tr("The data folder '%1' cannot be made.").arg(m_commandLine.strDataFolder));
     }
     return bMade;
 }
@@ -171,7 +165,7 @@ bool Client::MayWriteFile(const ConfigService& service) const
     const bool bOwn = service.IsOwnFile(m_commandLine.strFile);
     if (bOwn)
     {
-        Complain(Tr(QT_TRANSLATE_NOOP("Client", "'%1' is the client's own file.")).arg(m_commandLine.strFile));
+        Complain(tr("'%1' is the client's own file.").arg(m_commandLine.strFile));
     }
     return !bOwn;
 }
@@ -193,12 +187,12 @@ int Client::RunWithoutDisplay()
         const int nRead = CAtomicFile::Read(m_commandLine.strFile, content);
         if (nRead != CErrorCode::Success)
         {
-            return Fail(QT_TRANSLATE_NOOP("Client", "Cannot read '%1'"), m_commandLine.strFile, nRead);
+            return Fail(tr("Cannot read '%1'").arg(m_commandLine.strFile), nRead);
         }
         QString strError;
         if (SettingsDocument().Parse(content, &strError) != SettingsDocument::Good)
         {
-            Complain(Tr(QT_TRANSLATE_NOOP("Client", "Cannot import '%1': %2")).arg(m_commandLine.strFile, strError));
+            Complain(tr("Cannot import '%1': %2").arg(m_commandLine.strFile, strError));
             return g_nExitFailed;
         }
         if (!MakeDataFolder())
@@ -211,9 +205,8 @@ int Client::RunWithoutDisplay()
         {
             ComplainAbout(service);
         }
-        return nResult == CErrorCode::Success
-                   ? g_nExitGood
-                   : Fail(QT_TRANSLATE_NOOP("Client", "Cannot import '%1'"), m_commandLine.strFile, nResult);
+        return nResult == CErrorCode::Success ? g_nExitGood
+                                              : Fail(tr("Cannot import '%1'").arg(m_commandLine.strFile), nResult);
     }
 
     const ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadOnly);
@@ -224,18 +217,17 @@ int Client::RunWithoutDisplay()
     }
     if (m_commandLine.eAction == CommandLine::Dump)
     {
-        return Print(service.Export()) ? g_nExitGood
-                                       : Fail(QT_TRANSLATE_NOOP("Client", "Cannot write '%1'"),
-                                              QStringLiteral("stdout"), CErrorCode::IoError);
+        return Print(service.Export())
+                   ? g_nExitGood
+                   : Fail(tr("Cannot write '%1'").arg(QStringLiteral("stdout")), CErrorCode::IoError);
     }
     if (!MayWriteFile(service))
     {
         return g_nExitFailed;
     }
     const int nWritten = CAtomicFile::Write(m_commandLine.strFile, service.Export());
-    return nWritten == CErrorCode::Success
-               ? g_nExitGood
-               : Fail(QT_TRANSLATE_NOOP("Client", "Cannot write '%1'"), m_commandLine.strFile, nWritten);
+    return nWritten == CErrorCode::Success ? g_nExitGood
+                                           : Fail(tr("Cannot write '%1'").arg(m_commandLine.strFile), nWritten);
 }
 
 // --- With a display
@@ -290,7 +282,7 @@ void Client::ApplyLook(QApplication& application)
     }
     else
     {
-        Complain(Tr(QT_TRANSLATE_NOOP("Client", "The skin file '%1' cannot be read.")).arg(strPath));
+        Complain(tr("The skin file '%1' cannot be read.").arg(strPath));
     }
 }
 
@@ -312,7 +304,7 @@ int Client::OpenWindow()
     service.SeedAlarms(*CAlarmType::Instance());
     if (!ProvideSounds())
     {
-        Complain(Tr(QT_TRANSLATE_NOOP("Client", "Not all alarm sounds could be put into the data folder.")));
+        Complain(tr("Not all alarm sounds could be put into the data folder."));
     }
     const std::unique_ptr<LoginManager> pLoginManager = MakeLoginManager(m_commandLine);
     UserManager userManager(m_commandLine.setMissingRights + service.GetMissingRights(), pLoginManager.get());
@@ -366,9 +358,8 @@ int Client::TakeScreenshot()
     dialog.hide();
     dialog.UnInitUI();
     const int nWritten = bDrawn ? CAtomicFile::Write(m_commandLine.strFile, content) : int(CErrorCode::IoError);
-    return nWritten == CErrorCode::Success
-               ? g_nExitGood
-               : Fail(QT_TRANSLATE_NOOP("Client", "Cannot write '%1'"), m_commandLine.strFile, nWritten);
+    return nWritten == CErrorCode::Success ? g_nExitGood
+                                           : Fail(tr("Cannot write '%1'").arg(m_commandLine.strFile), nWritten);
 }
 
 } // namespace LocalConfigClient

@@ -2,6 +2,8 @@
 
 #include "CommandLine.h"
 
+#include <QCoreApplication>
+
 class QApplication;
 
 namespace LocalConfigClient
@@ -12,6 +14,8 @@ class ConfigService;
 /// The client as a program: carries out a command line that has been understood.
 class Client
 {
+    Q_DECLARE_TR_FUNCTIONS(Client)
+
 public:
     explicit Client(const CommandLine& commandLine);
 

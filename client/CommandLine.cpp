@@ -1,7 +1,6 @@
 #include "CommandLine.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QHostAddress>
 #include <QUrl>
 
@@ -16,11 +15,6 @@ namespace
 constexpr int g_nSectionCount = 9;
 constexpr int g_nWallSection = 6;
 constexpr int g_nWallRight = 26;
-
-QString Tr(const char* pszText)
-{
-    return QCoreApplication::translate("CommandLine", pszText);
-}
 
 struct SAction
 {
@@ -40,10 +34,10 @@ constexpr SAction g_arrActions[] = {
     {"version", CommandLine::ShowVersion, false, QT_TRANSLATE_NOOP("CommandLine", "Show the version.")},
 };
 
-QCommandLineOption Option(const char* pszName, const char* pszHelp, const char* pszValue = nullptr)
+QCommandLineOption Option(const char* pszName, const QString& strHelp, const char* pszValue = nullptr)
 {
-    return pszValue ? QCommandLineOption(QString::fromLatin1(pszName), Tr(pszHelp), QString::fromLatin1(pszValue))
-                    : QCommandLineOption(QString::fromLatin1(pszName), Tr(pszHelp));
+    return pszValue ? QCommandLineOption(QString::fromLatin1(pszName), strHelp, QString::fromLatin1(pszValue))
+                    : QCommandLineOption(QString::fromLatin1(pszName), strHelp);
 }
 
 void AddOptions(QCommandLineParser& parser)
@@ -51,17 +45,14 @@ void AddOptions(QCommandLineParser& parser)
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     for (const SAction& action : g_arrActions)
     {
-        parser.addOption(Option(action.pszName, action.pszHelp, action.bFile ? "FILE" : nullptr));
+        parser.addOption(Option(action.pszName, CommandLine::tr(action.pszHelp), action.bFile ? "FILE" : nullptr));
     }
-    parser.addOption(
-        Option("section", QT_TRANSLATE_NOOP("CommandLine", "Section that the dialog shows at first, 0 to 8."), "N"));
-    parser.addOption(Option("skin", QT_TRANSLATE_NOOP("CommandLine", "DustyBlue or White."), "SKIN"));
-    parser.addOption(Option("language", QT_TRANSLATE_NOOP("CommandLine", "en or zh_CN."), "LANGUAGE"));
-    parser.addOption(
-        Option("without-right", QT_TRANSLATE_NOOP("CommandLine", "Right that the user lacks; may be repeated."), "N"));
-    parser.addOption(Option(
-        "platform", QT_TRANSLATE_NOOP("CommandLine", "Platform server whose connection is watched."), "HOST:PORT"));
-    parser.addOption(Option("data-dir", QT_TRANSLATE_NOOP("CommandLine", "Folder of the client's files."), "DIR"));
+    parser.addOption(Option("section", CommandLine::tr("Section that the dialog shows at first, 0 to 8."), "N"));
+    parser.addOption(Option("skin", CommandLine::tr("DustyBlue or White."), "SKIN"));
+    parser.addOption(Option("language", CommandLine::tr("en or zh_CN."), "LANGUAGE"));
+    parser.addOption(Option("without-right", CommandLine::tr("Right that the user lacks; may be repeated."), "N"));
+    parser.addOption(Option("platform", CommandLine::tr("Platform server whose connection is watched."), "HOST:PORT"));
+    parser.addOption(Option("data-dir", CommandLine::tr("Folder of the client's files."), "DIR"));
 }
 
 bool ParseNumber(const QString& strText, int nMin, int nMax, int& nNumber)
@@ -109,24 +100,23 @@ bool CommandLine::Parse(const QStringList& listArguments, CommandLine& result, Q
     }
     if (!parser.positionalArguments().isEmpty())
     {
-        return fail(Tr(QT_TRANSLATE_NOOP("CommandLine", "Unexpected argument '%1'."))
-                        .arg(parser.positionalArguments().first()));
+        return fail(tr("Unexpected argument '%1'.").arg(parser.positionalArguments().first()));
     }
     for (const QString& strName : parser.optionNames())
     {
         if (strName != QLatin1String("without-right") && parser.optionNames().count(strName) > 1)
         {
-            return fail(Tr(QT_TRANSLATE_NOOP("CommandLine", "Option --%1 is given more than once.")).arg(strName));
+            return fail(tr("Option --%1 is given more than once.").arg(strName));
         }
         if (!parser.values(strName).isEmpty() && parser.value(strName).isEmpty())
         {
-            return fail(Tr(QT_TRANSLATE_NOOP("CommandLine", "Option --%1 needs a value.")).arg(strName));
+            return fail(tr("Option --%1 needs a value.").arg(strName));
         }
     }
     const auto bad = [&](const char* pszName, const char* pszExpected) {
         return fail(
-            Tr(QT_TRANSLATE_NOOP("CommandLine", "Option --%1 takes %2, not '%3'."))
-                .arg(QString::fromLatin1(pszName), Tr(pszExpected), parser.value(QString::fromLatin1(pszName))));
+            tr("Option --%1 takes %2, not '%3'.")
+                .arg(QString::fromLatin1(pszName), tr(pszExpected), parser.value(QString::fromLatin1(pszName))));
     };
 
     QString strAction;
@@ -139,8 +129,7 @@ bool CommandLine::Parse(const QStringList& listArguments, CommandLine& result, Q
         }
         if (!strAction.isEmpty())
         {
-            return fail(Tr(QT_TRANSLATE_NOOP("CommandLine", "Options --%1 and --%2 exclude each other."))
-                            .arg(strAction, strName));
+            return fail(tr("Options --%1 and --%2 exclude each other.").arg(strAction, strName));
         }
         strAction = strName;
         result.eAction = action.eAction;
@@ -164,11 +153,11 @@ bool CommandLine::Parse(const QStringList& listArguments, CommandLine& result, Q
         }
         if (result.nSection == g_nWallSection && result.setMissingRights.contains(g_nWallRight))
         {
-            return fail(Tr(QT_TRANSLATE_NOOP("CommandLine", "Without right 26 there is no section 6.")));
+            return fail(tr("Without right 26 there is no section 6."));
         }
         if (result.eAction != Screenshot && result.eAction != OpenWindow)
         {
-            return fail(Tr(QT_TRANSLATE_NOOP("CommandLine", "Option --section belongs to the dialog.")));
+            return fail(tr("Option --section belongs to the dialog."));
         }
     }
     result.strSkin = parser.value(QStringLiteral("skin"));
@@ -193,9 +182,8 @@ bool CommandLine::Parse(const QStringList& listArguments, CommandLine& result, Q
 QString CommandLine::GetHelp()
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(Tr(
-        QT_TRANSLATE_NOOP("CommandLine", "Surveillance workstation client. Without an action it opens its window and "
-                                         "the settings dialog.")));
+    parser.setApplicationDescription(tr("Surveillance workstation client. Without an action it opens its window and "
+                                        "the settings dialog."));
     AddOptions(parser);
     return parser.helpText();
 }

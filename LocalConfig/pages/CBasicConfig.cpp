@@ -38,10 +38,11 @@ constexpr SFlag g_arrFlags[] = {
     {&Form::ShowZoneInfoChkBox, &BasicConfigInfo::showTimeZone},
 };
 
-QString Tr(const char* pszText)
+/// The form's context, which has no namespace; the page's own texts stand in it too.
+class CFormText
 {
-    return QCoreApplication::translate("CBasicConfig", pszText);
-}
+    Q_DECLARE_TR_FUNCTIONS(CBasicConfig)
+};
 
 void WriteIniValue(const char* pszGroup, const char* pszKey, const QVariant& value)
 {
@@ -65,10 +66,10 @@ CBasicConfig::~CBasicConfig() = default;
 
 void CBasicConfig::InitControls()
 {
-    m_pUi->label->setText(m_pUi->label->text() + Tr(QT_TRANSLATE_NOOP("CBasicConfig", ":")));
+    m_pUi->label->setText(m_pUi->label->text() + CFormText::tr(":"));
 
-    m_pUi->cmbSkinSet->insertItem(0, QIcon(), Tr(QT_TRANSLATE_NOOP("CBasicConfig", "Dark")));
-    m_pUi->cmbSkinSet->insertItem(1, QIcon(), Tr(QT_TRANSLATE_NOOP("CBasicConfig", "White")));
+    m_pUi->cmbSkinSet->insertItem(0, QIcon(), CFormText::tr("Dark"));
+    m_pUi->cmbSkinSet->insertItem(1, QIcon(), CFormText::tr("White"));
     m_pUi->lblSkinSet->hide();
     m_pUi->lblSkinNotify->hide();
     m_pUi->cmbSkinSet->hide();

@@ -5,7 +5,6 @@
 #include <UICommonModule/CAtomicFile.h>
 #include <UICommonModule/CErrorCode.h>
 
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -27,11 +26,6 @@ constexpr char g_szDamaged[] = "settings.json.damaged-";
 constexpr char g_szLock[] = "settings.lock";
 constexpr char g_szIniFile[] = "Localcfg.ini"; // written by the pages
 
-QString Tr(const char* pszText)
-{
-    return QCoreApplication::translate("ConfigService", pszText);
-}
-
 } // namespace
 
 ConfigService::ConfigService(const QString& strFolder, Mode eMode, AutoStartWriter autoStartWriter)
@@ -47,13 +41,11 @@ ConfigService::ConfigService(const QString& strFolder, Mode eMode, AutoStartWrit
         m_bLoadedWithoutLock = nLock != CErrorCode::Success;
         if (nLock == CErrorCode::Locked)
         {
-            m_listProblems += Tr(QT_TRANSLATE_NOOP(
-                "ConfigService", "Another client uses this data folder; changes cannot be saved meanwhile."));
+            m_listProblems += tr("Another client uses this data folder; changes cannot be saved meanwhile.");
         }
         else if (nLock != CErrorCode::Success)
         {
-            m_listProblems += Tr(QT_TRANSLATE_NOOP("ConfigService",
-                                                   "The data folder cannot be written: %1. Changes cannot be saved."))
+            m_listProblems += tr("The data folder cannot be written: %1. Changes cannot be saved.")
                                   .arg(CErrorCode::GetDescription(nLock));
         }
     }
@@ -93,8 +85,7 @@ void ConfigService::Load()
     {
         if (LoadLastGood())
         {
-            m_listProblems += Tr(
-                QT_TRANSLATE_NOOP("ConfigService", "The settings file is missing; the last good settings are used."));
+            m_listProblems += tr("The settings file is missing; the last good settings are used.");
         }
     }
     else if (nRead != CErrorCode::Success)
@@ -102,8 +93,7 @@ void ConfigService::Load()
         m_eState = Unreadable;
         LoadLastGood();
         m_listProblems +=
-            Tr(QT_TRANSLATE_NOOP("ConfigService", "The settings file cannot be read: %1. Changes cannot be saved."))
-                .arg(CErrorCode::GetDescription(nRead));
+            tr("The settings file cannot be read: %1. Changes cannot be saved.").arg(CErrorCode::GetDescription(nRead));
     }
     else
     {
@@ -112,8 +102,7 @@ void ConfigService::Load()
         if (eResult == SettingsDocument::Newer)
         {
             m_eState = Unreadable;
-            m_listProblems += Tr(QT_TRANSLATE_NOOP(
-                "ConfigService", "The settings file is from a newer version. Changes cannot be saved."));
+            m_listProblems += tr("The settings file is from a newer version. Changes cannot be saved.");
         }
         else if (eResult == SettingsDocument::Damaged)
         {
@@ -124,10 +113,7 @@ void ConfigService::Load()
                                               "The settings file is damaged (%1); the last good settings are used. %2")
                           : QT_TRANSLATE_NOOP("ConfigService",
                                               "The settings file is damaged (%1); the default settings are used. %2");
-            m_listProblems +=
-                Tr(pszText)
-                    .arg(strError, bAside ? Tr(QT_TRANSLATE_NOOP("ConfigService", "It was set aside.")) : QString())
-                    .trimmed();
+            m_listProblems += tr(pszText).arg(strError, bAside ? tr("It was set aside.") : QString()).trimmed();
         }
     }
     m_stored = m_document.GetSettings();
@@ -308,7 +294,7 @@ int ConfigService::TakeOverFromDisk(QByteArray& onDisk)
             return CErrorCode::Damaged;
         }
         onDisk = m_onDisk;
-        Report(Tr(QT_TRANSLATE_NOOP("ConfigService", "The settings file was damaged meanwhile and was set aside.")));
+        Report(tr("The settings file was damaged meanwhile and was set aside."));
     }
     return CErrorCode::Success;
 }
@@ -338,8 +324,7 @@ void ConfigService::ApplyAutoStart(bool bBefore)
     }
     else
     {
-        Report(Tr(QT_TRANSLATE_NOOP("ConfigService", "The auto-start entry could not be changed: %1."))
-                   .arg(CErrorCode::GetDescription(nResult)));
+        Report(tr("The auto-start entry could not be changed: %1.").arg(CErrorCode::GetDescription(nResult)));
     }
 }
 

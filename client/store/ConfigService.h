@@ -5,6 +5,7 @@
 
 #include <LocalConfig/interfaces/ILocalConfig.h>
 
+#include <QCoreApplication>
 #include <QLockFile>
 #include <QStringList>
 
@@ -25,6 +26,8 @@ namespace LocalConfigClient
 /// another name; one that cannot be read is never overwritten.
 class ConfigService : public LocalConfigLogical::ILocalConfig
 {
+    Q_DECLARE_TR_FUNCTIONS(ConfigService)
+
 public:
     /// Writes or removes the system's auto-start entry; returns a CErrorCode.
     using AutoStartWriter = std::function<int(bool bEnable)>;

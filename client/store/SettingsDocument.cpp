@@ -1,6 +1,5 @@
 #include "SettingsDocument.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -19,11 +18,6 @@ constexpr int g_nVersion = 1;
 const QLatin1String g_strVersion("version");
 const QLatin1String g_strSections("sections");
 const QLatin1String g_strBase64("base64");
-
-QString Tr(const char* pszText)
-{
-    return QCoreApplication::translate("SettingsDocument", pszText);
-}
 
 template <class Value>
 struct IsMap : std::false_type
@@ -221,8 +215,7 @@ SettingsDocument::Result SettingsDocument::Parse(const QByteArray& content, QStr
     const QJsonDocument document = QJsonDocument::fromJson(content, &error);
     if (error.error != QJsonParseError::NoError)
     {
-        return fail(Damaged,
-                    Tr(QT_TRANSLATE_NOOP("SettingsDocument", "not a JSON document: %1")).arg(error.errorString()));
+        return fail(Damaged, tr("not a JSON document: %1").arg(error.errorString()));
     }
     const QJsonObject root = document.object();
     const QJsonValue version = root.value(g_strVersion);
@@ -230,11 +223,11 @@ SettingsDocument::Result SettingsDocument::Parse(const QByteArray& content, QStr
     if (!document.isObject() || !version.isDouble() || version.toDouble() != std::floor(version.toDouble()) ||
         version.toDouble() < 1)
     {
-        return fail(Damaged, Tr(QT_TRANSLATE_NOOP("SettingsDocument", "not a settings document")));
+        return fail(Damaged, tr("not a settings document"));
     }
     if (version.toDouble() > g_nVersion)
     {
-        return fail(Newer, Tr(QT_TRANSLATE_NOOP("SettingsDocument", "written by a newer version")));
+        return fail(Newer, tr("written by a newer version"));
     }
 
     Settings settings;
@@ -242,8 +235,7 @@ SettingsDocument::Result SettingsDocument::Parse(const QByteArray& content, QStr
     reader.Read(g_strSections, sections, settings);
     if (!reader.GetWrong().isEmpty())
     {
-        return fail(Damaged,
-                    Tr(QT_TRANSLATE_NOOP("SettingsDocument", "impossible value of %1")).arg(reader.GetWrong()));
+        return fail(Damaged, tr("impossible value of %1").arg(reader.GetWrong()));
     }
     m_settings = settings;
     m_root = root;

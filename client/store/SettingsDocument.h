@@ -3,6 +3,7 @@
 #include "RecordFields.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QJsonObject>
 #include <QSet>
 #include <QString>
@@ -17,6 +18,8 @@ namespace LocalConfigClient
 /// this version does not know survive reading and writing, at every level.
 class SettingsDocument
 {
+    Q_DECLARE_TR_FUNCTIONS(SettingsDocument)
+
 public:
     enum Result
     {

@@ -4,7 +4,6 @@
 #include "KvCustomDialog.h"
 #include "KvPushButton.h"
 
-#include <QCoreApplication>
 #include <QLabel>
 #include <QPointer>
 #include <QVBoxLayout>
@@ -17,11 +16,6 @@ namespace
 
 constexpr int g_nTextWidth = 360;
 constexpr int g_nMargin = 24;
-
-QString Tr(const char* pszText)
-{
-    return QCoreApplication::translate("KvMessageBox", pszText);
-}
 
 class CMessageDialog : public KvDialog
 {
@@ -48,11 +42,9 @@ public:
         pLayout->addWidget(pRow);
 
         const bool bHasCancel = nButtons & KvCustomDialog::Cancel;
-        SetText(pRow, KvCustomDialog::Ok, Tr(QT_TRANSLATE_NOOP("KvMessageBox", "OK")));
-        SetText(pRow, KvCustomDialog::Other,
-                bHasCancel ? Tr(QT_TRANSLATE_NOOP("KvMessageBox", "Other"))
-                           : Tr(QT_TRANSLATE_NOOP("KvMessageBox", "Cancel")));
-        SetText(pRow, KvCustomDialog::Cancel, Tr(QT_TRANSLATE_NOOP("KvMessageBox", "Cancel")));
+        SetText(pRow, KvCustomDialog::Ok, KvMessageBox::tr("OK"));
+        SetText(pRow, KvCustomDialog::Other, bHasCancel ? KvMessageBox::tr("Other") : KvMessageBox::tr("Cancel"));
+        SetText(pRow, KvCustomDialog::Cancel, KvMessageBox::tr("Cancel"));
 
         if (KvPushButton* pDefault = pRow->GetButton(nDefaultButton))
         {

@@ -2,7 +2,9 @@
 
 #include <KvGui/KvGuiExport.h>
 
-class QString;
+#include <QCoreApplication>
+#include <QString>
+
 class QWidget;
 
 namespace KVGUI
@@ -11,6 +13,8 @@ namespace KVGUI
 /// Modal questions and messages.
 class KVGUI_EXPORT KvMessageBox
 {
+    Q_DECLARE_TR_FUNCTIONS(KvMessageBox)
+
 public:
     /// Shows a text and waits for the answer.
     /// \param nButtons        set of the values of KvCustomDialog::StandardButton; the buttons have the same names

@@ -1,7 +1,5 @@
 #include "CErrorCode.h"
 
-#include <QCoreApplication>
-
 namespace UICommonMdl
 {
 
@@ -27,11 +25,6 @@ constexpr SDescription g_arrDescriptions[] = {
     {CErrorCode::FileMissing, QT_TRANSLATE_NOOP("CErrorCode", "the file does not exist")},
 };
 
-QString Tr(const char* pszText)
-{
-    return QCoreApplication::translate("CErrorCode", pszText);
-}
-
 } // namespace
 
 QString CErrorCode::GetErroCodeInfor(const QString& strText, int nCode, bool bDescription, bool bCode)
@@ -42,14 +35,13 @@ QString CErrorCode::GetErroCodeInfor(const QString& strText, int nCode, bool bDe
     }
     if (bDescription && bCode)
     {
-        return Tr(QT_TRANSLATE_NOOP("CErrorCode", "%1: %2 (code %3)"))
-            .arg(strText, GetDescription(nCode), QString::number(nCode));
+        return tr("%1: %2 (code %3)").arg(strText, GetDescription(nCode), QString::number(nCode));
     }
     if (bDescription)
     {
-        return Tr(QT_TRANSLATE_NOOP("CErrorCode", "%1: %2")).arg(strText, GetDescription(nCode));
+        return tr("%1: %2").arg(strText, GetDescription(nCode));
     }
-    return Tr(QT_TRANSLATE_NOOP("CErrorCode", "%1 (code %2)")).arg(strText, QString::number(nCode));
+    return tr("%1 (code %2)").arg(strText, QString::number(nCode));
 }
 
 QString CErrorCode::GetDescription(int nCode)
@@ -58,10 +50,10 @@ QString CErrorCode::GetDescription(int nCode)
     {
         if (description.nCode == nCode)
         {
-            return Tr(description.pszText);
+            return tr(description.pszText);
         }
     }
-    return Tr(QT_TRANSLATE_NOOP("CErrorCode", "unknown error"));
+    return tr("unknown error");
 }
 
 } // namespace UICommonMdl

@@ -2,6 +2,7 @@
 
 #include <UICommonModule/UICommonModuleExport.h>
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace UICommonMdl
@@ -10,6 +11,8 @@ namespace UICommonMdl
 /// Result codes of the client's services and their descriptions.
 class UICOMMONMODULE_EXPORT CErrorCode
 {
+    Q_DECLARE_TR_FUNCTIONS(CErrorCode)
+
 public:
     enum Code : int
     {
