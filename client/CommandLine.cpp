@@ -4,6 +4,8 @@
 #include <QHostAddress>
 #include <QUrl>
 
+#include <algorithm>
+#include <initializer_list>
 #include <limits>
 
 namespace LocalConfigClient
@@ -15,6 +17,7 @@ namespace
 constexpr int g_nSectionCount = 9;
 constexpr int g_nWallSection = 6;
 constexpr int g_nWallRight = 26;
+constexpr char g_szWithoutRight[] = "without-right"; // the one option that may be repeated
 
 struct SAction
 {
@@ -50,7 +53,7 @@ void AddOptions(QCommandLineParser& parser)
     parser.addOption(Option("section", CommandLine::tr("Section that the dialog shows at first, 0 to 8."), "N"));
     parser.addOption(Option("skin", CommandLine::tr("DustyBlue or White."), "SKIN"));
     parser.addOption(Option("language", CommandLine::tr("en or zh_CN."), "LANGUAGE"));
-    parser.addOption(Option("without-right", CommandLine::tr("Right that the user lacks; may be repeated."), "N"));
+    parser.addOption(Option(g_szWithoutRight, CommandLine::tr("Right that the user lacks; may be repeated."), "N"));
     parser.addOption(Option("platform", CommandLine::tr("Platform server whose connection is watched."), "HOST:PORT"));
     parser.addOption(Option("data-dir", CommandLine::tr("Folder of the client's files."), "DIR"));
 }
@@ -83,6 +86,146 @@ bool ParseServer(const QString& strText, QString& strHost, quint16& nPort)
     return !url.host().isEmpty() && !strHost.contains(QLatin1Char(':')); // an IPv6 address needs its brackets
 }
 
+/// Takes the options from the parser one by one; the first that is wrong ends it.
+class Options
+{
+public:
+    Options(const QCommandLineParser& parser, CommandLine& result)
+        : m_parser(parser)
+        , m_result(result)
+    {}
+
+    bool Take()
+    {
+        return CheckForm() && TakeAction() && TakeMissingRights() && TakeSection() &&
+               TakeChoice("skin", {"DustyBlue", "White"}, CommandLine::tr("DustyBlue or White"), m_result.strSkin) &&
+               TakeChoice("language", {"en", "zh_CN"}, CommandLine::tr("en or zh_CN"), m_result.strLanguage) &&
+               TakeServer() && TakeDataFolder();
+    }
+
+    const QString& GetError() const { return m_strError; }
+
+private:
+    bool IsSet(const char* pszName) const { return m_parser.isSet(QString::fromLatin1(pszName)); }
+    QString GetValue(const char* pszName) const { return m_parser.value(QString::fromLatin1(pszName)); }
+
+    bool Fail(const QString& strError)
+    {
+        m_strError = strError;
+        return false;
+    }
+
+    bool FailValue(const char* pszName, const QString& strExpected)
+    {
+        return Fail(CommandLine::tr("Option --%1 takes %2, not '%3'.")
+                        .arg(QString::fromLatin1(pszName), strExpected, GetValue(pszName)));
+    }
+
+    /// No argument but options, each of them once and no value empty.
+    bool CheckForm()
+    {
+        if (!m_parser.positionalArguments().isEmpty())
+        {
+            return Fail(CommandLine::tr("Unexpected argument '%1'.").arg(m_parser.positionalArguments().first()));
+        }
+        const QStringList listNames = m_parser.optionNames();
+        for (const QString& strName : listNames)
+        {
+            if (strName != QLatin1String(g_szWithoutRight) && listNames.count(strName) > 1)
+            {
+                return Fail(CommandLine::tr("Option --%1 is given more than once.").arg(strName));
+            }
+            if (!m_parser.values(strName).isEmpty() && m_parser.value(strName).isEmpty())
+            {
+                return Fail(CommandLine::tr("Option --%1 needs a value.").arg(strName));
+            }
+        }
+        return true;
+    }
+
+    bool TakeAction()
+    {
+        const SAction* pTaken = nullptr;
+        for (const SAction& action : g_arrActions)
+        {
+            if (!IsSet(action.pszName))
+            {
+                continue;
+            }
+            if (pTaken)
+            {
+                return Fail(CommandLine::tr("Options --%1 and --%2 exclude each other.")
+                                .arg(QString::fromLatin1(pTaken->pszName), QString::fromLatin1(action.pszName)));
+            }
+            pTaken = &action;
+            m_result.eAction = action.eAction;
+            m_result.strFile = action.bFile ? GetValue(action.pszName) : QString();
+        }
+        return true;
+    }
+
+    bool TakeMissingRights()
+    {
+        for (const QString& strRight : m_parser.values(QString::fromLatin1(g_szWithoutRight)))
+        {
+            int nRight = 0;
+            if (!ParseNumber(strRight, 1, std::numeric_limits<int>::max(), nRight))
+            {
+                return FailValue(g_szWithoutRight, CommandLine::tr("a positive number"));
+            }
+            m_result.setMissingRights.insert(nRight);
+        }
+        return true;
+    }
+
+    bool TakeSection()
+    {
+        if (!IsSet("section"))
+        {
+            return true;
+        }
+        if (!ParseNumber(GetValue("section"), 0, g_nSectionCount - 1, m_result.nSection))
+        {
+            return FailValue("section", CommandLine::tr("a number from 0 to 8"));
+        }
+        if (m_result.nSection == g_nWallSection && m_result.setMissingRights.contains(g_nWallRight))
+        {
+            return Fail(CommandLine::tr("Without right 26 there is no section 6."));
+        }
+        if (m_result.eAction != CommandLine::Screenshot && m_result.eAction != CommandLine::OpenWindow)
+        {
+            return Fail(CommandLine::tr("Option --section belongs to the dialog."));
+        }
+        return true;
+    }
+
+    bool TakeChoice(const char* pszName, std::initializer_list<const char*> listChoices, const QString& strExpected,
+                    QString& strChoice)
+    {
+        strChoice = GetValue(pszName);
+        const bool bGood = std::any_of(listChoices.begin(), listChoices.end(), [&strChoice](const char* pszGood) {
+            return strChoice == QLatin1String(pszGood);
+        });
+        return bGood || !IsSet(pszName) || FailValue(pszName, strExpected);
+    }
+
+    bool TakeServer()
+    {
+        return !IsSet("platform") || ParseServer(GetValue("platform"), m_result.strHost, m_result.nPort) ||
+               FailValue("platform", CommandLine::tr("HOST:PORT"));
+    }
+
+    bool TakeDataFolder()
+    {
+        m_result.strDataFolder = GetValue("data-dir");
+        return true;
+    }
+
+    const QCommandLineParser& m_parser;
+    CommandLine& m_result;
+    QString m_strError;
+};
+
 } // namespace
 
 bool CommandLine::Parse(const QStringList& listArguments, CommandLine& result, QString& strError)
@@ -90,93 +233,14 @@ bool CommandLine::Parse(const QStringList& listArguments, CommandLine& result, Q
     result = CommandLine();
     QCommandLineParser parser;
     AddOptions(parser);
-    const auto fail = [&strError](const QString& strText) {
-        strError = strText.simplified();
-        return false;
-    };
-    if (!parser.parse(QStringList{QStringLiteral("local-config-client")} + listArguments))
+    Options options(parser, result);
+    const bool bUnderstood = parser.parse(QStringList{QStringLiteral("local-config-client")} + listArguments);
+    if (bUnderstood && options.Take())
     {
-        return fail(parser.errorText());
+        return true;
     }
-    if (!parser.positionalArguments().isEmpty())
-    {
-        return fail(tr("Unexpected argument '%1'.").arg(parser.positionalArguments().first()));
-    }
-    for (const QString& strName : parser.optionNames())
-    {
-        if (strName != QLatin1String("without-right") && parser.optionNames().count(strName) > 1)
-        {
-            return fail(tr("Option --%1 is given more than once.").arg(strName));
-        }
-        if (!parser.values(strName).isEmpty() && parser.value(strName).isEmpty())
-        {
-            return fail(tr("Option --%1 needs a value.").arg(strName));
-        }
-    }
-    const auto bad = [&](const char* pszName, const char* pszExpected) {
-        return fail(
-            tr("Option --%1 takes %2, not '%3'.")
-                .arg(QString::fromLatin1(pszName), tr(pszExpected), parser.value(QString::fromLatin1(pszName))));
-    };
-
-    QString strAction;
-    for (const SAction& action : g_arrActions)
-    {
-        const QString strName = QString::fromLatin1(action.pszName);
-        if (!parser.isSet(strName))
-        {
-            continue;
-        }
-        if (!strAction.isEmpty())
-        {
-            return fail(tr("Options --%1 and --%2 exclude each other.").arg(strAction, strName));
-        }
-        strAction = strName;
-        result.eAction = action.eAction;
-        result.strFile = action.bFile ? parser.value(strName) : QString();
-    }
-
-    for (const QString& strRight : parser.values(QStringLiteral("without-right")))
-    {
-        int nRight = 0;
-        if (!ParseNumber(strRight, 1, std::numeric_limits<int>::max(), nRight))
-        {
-            return bad("without-right", QT_TRANSLATE_NOOP("CommandLine", "a positive number"));
-        }
-        result.setMissingRights.insert(nRight);
-    }
-    if (parser.isSet(QStringLiteral("section")))
-    {
-        if (!ParseNumber(parser.value(QStringLiteral("section")), 0, g_nSectionCount - 1, result.nSection))
-        {
-            return bad("section", QT_TRANSLATE_NOOP("CommandLine", "a number from 0 to 8"));
-        }
-        if (result.nSection == g_nWallSection && result.setMissingRights.contains(g_nWallRight))
-        {
-            return fail(tr("Without right 26 there is no section 6."));
-        }
-        if (result.eAction != Screenshot && result.eAction != OpenWindow)
-        {
-            return fail(tr("Option --section belongs to the dialog."));
-        }
-    }
-    result.strSkin = parser.value(QStringLiteral("skin"));
-    if (!QStringList{QString(), QStringLiteral("DustyBlue"), QStringLiteral("White")}.contains(result.strSkin))
-    {
-        return bad("skin", QT_TRANSLATE_NOOP("CommandLine", "DustyBlue or White"));
-    }
-    result.strLanguage = parser.value(QStringLiteral("language"));
-    if (!QStringList{QString(), QStringLiteral("en"), QStringLiteral("zh_CN")}.contains(result.strLanguage))
-    {
-        return bad("language", QT_TRANSLATE_NOOP("CommandLine", "en or zh_CN"));
-    }
-    if (parser.isSet(QStringLiteral("platform")) &&
-        !ParseServer(parser.value(QStringLiteral("platform")), result.strHost, result.nPort))
-    {
-        return bad("platform", QT_TRANSLATE_NOOP("CommandLine", "HOST:PORT"));
-    }
-    result.strDataFolder = parser.value(QStringLiteral("data-dir"));
-    return true;
+    strError = (bUnderstood ? options.GetError() : parser.errorText()).simplified();
+    return false;
 }
 
 QString CommandLine::GetHelp()
