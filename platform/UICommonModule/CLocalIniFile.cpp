@@ -100,6 +100,96 @@ bool IsBlank(const QByteArray& line)
     return line.trimmed().isEmpty();
 }
 
+/// The text of an ini file, of which one key is changed and every other byte stays.
+class CIniText
+{
+public:
+    explicit CIniText(const QByteArray& content)
+        : m_byteOrderMark(content.startsWith("\xef\xbb\xbf") ? content.left(3) : QByteArray())
+        , m_lineEnd(content.contains("\r\n") ? "\r\n" : "\n")
+        , m_listLines(SplitLines(content.mid(m_byteOrderMark.size())))
+    {}
+
+    void SetKey(const QByteArray& group, const QByteArray& key, const QByteArray& value)
+    {
+        const QByteArray header = '[' + group + ']';
+        const QByteArray line = key + '=' + value + m_lineEnd;
+        if (ReplaceKey(header, key, line))
+        {
+            return;
+        }
+        EndLastLine();
+        const int nEnd = FindEnd(header);
+        m_listLines.insert(nEnd < 0 ? AddGroup(header) : nEnd, line);
+    }
+
+    QByteArray Join() const { return m_byteOrderMark + m_listLines.join(); }
+
+private:
+    /// Calls visit(line) for each line of a group, which may stand in several pieces; their headers count as theirs.
+    template <class Visitor>
+    void VisitGroup(const QByteArray& header, Visitor visit)
+    {
+        bool bInGroup = false;
+        for (int n = 0; n < m_listLines.size(); ++n)
+        {
+            if (IsGroup(m_listLines[n]))
+            {
+                bInGroup = m_listLines[n].trimmed() == header;
+            }
+            if (bInGroup)
+            {
+                visit(n);
+            }
+        }
+    }
+
+    /// The last of several equal keys is the one that counts for readers, so all of them are replaced.
+    bool ReplaceKey(const QByteArray& header, const QByteArray& key, const QByteArray& line)
+    {
+        bool bReplaced = false;
+        VisitGroup(header, [&](int n) {
+            if (IsKey(m_listLines[n], key))
+            {
+                m_listLines[n] = line;
+                bReplaced = true;
+            }
+        });
+        return bReplaced;
+    }
+
+    /// Behind the last line of a group that says something; -1 without the group.
+    int FindEnd(const QByteArray& header)
+    {
+        int nEnd = -1;
+        VisitGroup(header, [&](int n) { nEnd = IsBlank(m_listLines[n]) ? nEnd : n + 1; });
+        return nEnd;
+    }
+
+    void EndLastLine()
+    {
+        if (!m_listLines.isEmpty() && !m_listLines.last().endsWith('\n'))
+        {
+            m_listLines.last() += m_lineEnd;
+        }
+    }
+
+    /// Returns where the group's first line will stand.
+    int AddGroup(const QByteArray& header)
+    {
+        if (!m_listLines.isEmpty() && !IsBlank(m_listLines.last()))
+        {
+            m_listLines += m_lineEnd;
+        }
+        m_listLines += header + m_lineEnd;
+        return m_listLines.size();
+    }
+
+    QByteArray m_byteOrderMark;
+    QByteArray m_lineEnd;
+    QList<QByteArray> m_listLines;
+};
+
 } // namespace
 
 bool CLocalIniFile::WriteValue(const QString& strGroup, const QString& strKey, const QVariant& value,
@@ -118,52 +208,9 @@ bool CLocalIniFile::WriteValue(const QString& strGroup, const QString& strKey, c
         return false;
     }
 
-    const QByteArray byteOrderMark = content.startsWith("\xef\xbb\xbf") ? content.left(3) : QByteArray();
-    QList<QByteArray> listLines = SplitLines(content.mid(byteOrderMark.size()));
-    const QByteArray lineEnd = content.contains("\r\n") ? "\r\n" : "\n";
-    const QByteArray header = '[' + strGroup.toUtf8() + ']';
-    const QByteArray key = strKey.toUtf8();
-    const QByteArray newLine = key + '=' + Escape(text.toString()) + lineEnd;
-
-    int nInsert = -1; // behind the last line of the group that says something
-    bool bInGroup = false;
-    bool bDone = false;
-    // The last of several equal keys is the one that counts for readers.
-    for (int n = 0; n < listLines.size(); ++n)
-    {
-        if (IsGroup(listLines[n]))
-        {
-            bInGroup = listLines[n].trimmed() == header;
-        }
-        if (bInGroup && !IsBlank(listLines[n]))
-        {
-            nInsert = n + 1;
-        }
-        if (bInGroup && IsKey(listLines[n], key))
-        {
-            listLines[n] = newLine;
-            bDone = true;
-        }
-    }
-    if (!bDone)
-    {
-        if (!listLines.isEmpty() && !listLines.last().endsWith('\n'))
-        {
-            listLines.last() += lineEnd;
-        }
-        if (nInsert < 0)
-        {
-            if (!listLines.isEmpty() && !IsBlank(listLines.last()))
-            {
-                listLines += lineEnd;
-            }
-            listLines += header + lineEnd;
-            nInsert = listLines.size();
-        }
-        listLines.insert(nInsert, newLine);
-    }
-
-    const QByteArray changed = byteOrderMark + listLines.join();
+    CIniText ini(content);
+    ini.SetKey(strGroup.toUtf8(), strKey.toUtf8(), Escape(text.toString()));
+    const QByteArray changed = ini.Join();
     return changed == content || CAtomicFile::Write(strPath, changed) == CErrorCode::Success;
 }
 
