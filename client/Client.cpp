@@ -68,6 +68,15 @@ void ComplainAbout(const ConfigService& service)
     }
 }
 
+/// A PNG; empty when there is none to be had.
+QByteArray Draw(QWidget& widget)
+{
+    QByteArray content;
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::WriteOnly);
+    return widget.grab().save(&buffer, "PNG") ? content : QByteArray();
+}
+
 int WriteAutoStart(bool bEnable)
 {
     return AutoStart::Apply(bEnable, QCoreApplication::applicationName(), QCoreApplication::applicationFilePath());
@@ -180,35 +189,40 @@ int Client::RunWithoutDisplay()
     }
     SettleSkinAndLanguage();
     InstallTranslators();
+    return m_commandLine.eAction == CommandLine::Import ? ImportSettings() : WriteSettings();
+}
 
-    if (m_commandLine.eAction == CommandLine::Import)
+int Client::ImportSettings() const
+{
+    QByteArray content;
+    const int nRead = CAtomicFile::Read(m_commandLine.strFile, content);
+    if (nRead != CErrorCode::Success)
     {
-        QByteArray content;
-        const int nRead = CAtomicFile::Read(m_commandLine.strFile, content);
-        if (nRead != CErrorCode::Success)
-        {
-            return Fail(tr("Cannot read '%1'").arg(m_commandLine.strFile), nRead);
-        }
-        QString strError;
-        if (SettingsDocument().Parse(content, &strError) != SettingsDocument::Good)
-        {
-            Complain(tr("Cannot import '%1': %2").arg(m_commandLine.strFile, strError));
-            return g_nExitFailed;
-        }
-        if (!MakeDataFolder())
-        {
-            return g_nExitFailed;
-        }
-        ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadWrite);
-        const int nResult = service.Import(content, &strError);
-        if (nResult == CErrorCode::Success)
-        {
-            ComplainAbout(service);
-        }
-        return nResult == CErrorCode::Success ? g_nExitGood
-                                              : Fail(tr("Cannot import '%1'").arg(m_commandLine.strFile), nResult);
+        return Fail(tr("Cannot read '%1'").arg(m_commandLine.strFile), nRead);
     }
+    QString strError;
+    if (SettingsDocument().Parse(content, &strError) != SettingsDocument::Good)
+    {
+        Complain(tr("Cannot import '%1': %2").arg(m_commandLine.strFile, strError));
+        return g_nExitFailed;
+    }
+    if (!MakeDataFolder())
+    {
+        return g_nExitFailed;
+    }
+    ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadWrite);
+    const int nResult = service.Import(content, &strError);
+    if (nResult != CErrorCode::Success)
+    {
+        return Fail(tr("Cannot import '%1'").arg(m_commandLine.strFile), nResult);
+    }
+    ComplainAbout(service);
+    return g_nExitGood;
+}
 
+/// To the standard output, or to a file.
+int Client::WriteSettings() const
+{
     const ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadOnly);
     ComplainAbout(service);
     if (!service.IsReadable())
@@ -221,11 +235,13 @@ int Client::RunWithoutDisplay()
                    ? g_nExitGood
                    : Fail(tr("Cannot write '%1'").arg(QStringLiteral("stdout")), CErrorCode::IoError);
     }
-    if (!MayWriteFile(service))
-    {
-        return g_nExitFailed;
-    }
-    const int nWritten = CAtomicFile::Write(m_commandLine.strFile, service.Export());
+    return MayWriteFile(service) ? WriteFile(service.Export()) : g_nExitFailed;
+}
+
+int Client::WriteFile(const QByteArray& content) const
+{
+    const int nWritten =
+        content.isEmpty() ? int(CErrorCode::IoError) : CAtomicFile::Write(m_commandLine.strFile, content);
     return nWritten == CErrorCode::Success ? g_nExitGood
                                            : Fail(tr("Cannot write '%1'").arg(m_commandLine.strFile), nWritten);
 }
@@ -351,15 +367,10 @@ int Client::TakeScreenshot()
         dialog.findChild<KVGUI::KvToolListView*>()->SetCurrentIndex(m_commandLine.nSection);
     }
 
-    QByteArray content;
-    QBuffer buffer(&content);
-    buffer.open(QIODevice::WriteOnly);
-    const bool bDrawn = dialog.grab().save(&buffer, "PNG");
+    const QByteArray picture = Draw(dialog);
     dialog.hide();
     dialog.UnInitUI();
-    const int nWritten = bDrawn ? CAtomicFile::Write(m_commandLine.strFile, content) : int(CErrorCode::IoError);
-    return nWritten == CErrorCode::Success ? g_nExitGood
-                                           : Fail(tr("Cannot write '%1'").arg(m_commandLine.strFile), nWritten);
+    return WriteFile(picture);
 }
 
 } // namespace LocalConfigClient

@@ -37,6 +37,9 @@ private:
     bool EnterDataFolder();
     bool MakeDataFolder() const;
     bool MayWriteFile(const ConfigService& service) const;
+    int ImportSettings() const;
+    int WriteSettings() const;
+    int WriteFile(const QByteArray& content) const;
     void SettleSkinAndLanguage() const;
     static void InstallTranslators();
     static void ApplyLook(QApplication& application);
