@@ -76,6 +76,67 @@ int GetTextRoom(const QComboBox& combo)
     return combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo).width();
 }
 
+struct SControlText
+{
+    QString strText;
+    bool bTooWide = false;
+};
+
+/// What a control shows; nothing for a control of another kind.
+SControlText GetText(const QWidget& control)
+{
+    if (const auto* pButton = qobject_cast<const QAbstractButton*>(&control))
+    {
+        return {WithoutMnemonics(pButton->text()), pButton->sizeHint().width() > pButton->width()};
+    }
+    const auto text = [&control](const QString& strText, int nRoom) {
+        return SControlText{strText, control.fontMetrics().horizontalAdvance(strText) > nRoom};
+    };
+    if (const auto* pLabel = qobject_cast<const QLabel*>(&control))
+    {
+        return text(pLabel->buddy() ? WithoutMnemonics(pLabel->text()) : pLabel->text(),
+                    pLabel->contentsRect().width());
+    }
+    if (const auto* pEdit = qobject_cast<const QLineEdit*>(&control))
+    {
+        // A tip would tell a password.
+        return text(pEdit->echoMode() == QLineEdit::Normal ? pEdit->text() : QString(), GetTextRoom(*pEdit));
+    }
+    if (const auto* pCombo = qobject_cast<const QComboBox*>(&control))
+    {
+        return text(pCombo->currentText(), GetTextRoom(*pCombo));
+    }
+    if (const auto* pBox = qobject_cast<const QGroupBox*>(&control))
+    {
+        return text(WithoutMnemonics(pBox->title()), pBox->contentsRect().width());
+    }
+    return {};
+}
+
+void GiveToolTip(QWidget& control, const QString& strText)
+{
+    if (control.toolTip() != strText)
+    {
+        control.setToolTip(strText);
+        control.setProperty(g_szGivenToolTip, strText);
+    }
+}
+
+/// Only a tip that was given here is taken away again, whatever the text has become since; an owner's stays.
+void TakeToolTip(QWidget& control)
+{
+    const QString strGiven = control.property(g_szGivenToolTip).toString();
+    if (strGiven.isEmpty())
+    {
+        return;
+    }
+    if (control.toolTip() == strGiven)
+    {
+        control.setToolTip(QString());
+    }
+    control.setProperty(g_szGivenToolTip, QVariant());
+}
+
 } // namespace
 
 QString GetSkinPath(const QString& strFolder, const QString& strFile)
@@ -126,51 +187,14 @@ void QCommon::AddToolTipByControlWidth(QWidget* pControl)
     {
         return;
     }
-    QString strText;
-    bool bTooWide = false;
-    if (const auto* pButton = qobject_cast<const QAbstractButton*>(pControl))
+    const SControlText text = GetText(*pControl);
+    if (text.bTooWide && !text.strText.isEmpty())
     {
-        strText = WithoutMnemonics(pButton->text());
-        bTooWide = pButton->sizeHint().width() > pButton->width();
+        GiveToolTip(*pControl, text.strText);
     }
-    else if (const auto* pLabel = qobject_cast<const QLabel*>(pControl))
+    else
     {
-        strText = pLabel->buddy() ? WithoutMnemonics(pLabel->text()) : pLabel->text();
-        bTooWide = pLabel->fontMetrics().horizontalAdvance(strText) > pLabel->contentsRect().width();
-    }
-    else if (const auto* pEdit = qobject_cast<const QLineEdit*>(pControl))
-    {
-        strText = pEdit->echoMode() == QLineEdit::Normal ? pEdit->text() : QString(); // a tip would tell a password
-        bTooWide = pEdit->fontMetrics().horizontalAdvance(strText) > GetTextRoom(*pEdit);
-    }
-    else if (const auto* pCombo = qobject_cast<const QComboBox*>(pControl))
-    {
-        strText = pCombo->currentText();
-        bTooWide = pCombo->fontMetrics().horizontalAdvance(strText) > GetTextRoom(*pCombo);
-    }
-    else if (const auto* pBox = qobject_cast<const QGroupBox*>(pControl))
-    {
-        strText = WithoutMnemonics(pBox->title());
-        bTooWide = pBox->fontMetrics().horizontalAdvance(strText) > pBox->contentsRect().width();
-    }
-
-    // Only a tip that was given here is taken away again, whatever the text has become since; an owner's stays.
-    const QString strGiven = pControl->property(g_szGivenToolTip).toString();
-    if (bTooWide && !strText.isEmpty())
-    {
-        if (pControl->toolTip() != strText)
-        {
-            pControl->setToolTip(strText);
-            pControl->setProperty(g_szGivenToolTip, strText);
-        }
-    }
-    else if (!strGiven.isEmpty())
-    {
-        if (pControl->toolTip() == strGiven)
-        {
-            pControl->setToolTip(QString());
-        }
-        pControl->setProperty(g_szGivenToolTip, QVariant());
+        TakeToolTip(*pControl);
     }
 }
 
