@@ -2,9 +2,9 @@
 
 #include <UICommonModule/CAtomicFile.h>
 #include <UICommonModule/CErrorCode.h>
+#include <UICommonModule/CGrowingFile.h>
 
 #include <QDir>
-#include <QFile>
 #include <QStandardPaths>
 #include <QStringList>
 
@@ -12,6 +12,7 @@
 
 using UICommonMdl::CAtomicFile;
 using UICommonMdl::CErrorCode;
+using UICommonMdl::CGrowingFile;
 
 namespace LocalConfigClient
 {
@@ -92,7 +93,7 @@ int AutoStart::Apply(bool bEnable, const QString& strApplication, const QString&
     const QString strPath = config.filePath(QStringLiteral("autostart/%1.desktop").arg(strApplication));
     if (!bEnable)
     {
-        return !QFile::exists(strPath) || QFile::remove(strPath) ? CErrorCode::Success : CErrorCode::NoPermission;
+        return CAtomicFile::Remove(strPath);
     }
 
     QByteArray content;
@@ -101,9 +102,10 @@ int AutoStart::Apply(bool bEnable, const QString& strApplication, const QString&
     {
         return nRead;
     }
-    if (!config.mkpath(QStringLiteral("autostart")))
+    const int nFolder = CGrowingFile::MakeFolder(config.filePath(QStringLiteral("autostart")));
+    if (nFolder != CErrorCode::Success)
     {
-        return CErrorCode::NoPermission;
+        return nFolder;
     }
     QStringList listLines = QString::fromUtf8(content).remove(QLatin1Char('\r')).split(QLatin1Char('\n'));
     SetKey(listLines, QStringLiteral("Type"), QStringLiteral("Application"));

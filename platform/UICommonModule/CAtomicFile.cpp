@@ -3,7 +3,7 @@
 #include "CErrorCode.h"
 #include "FileSystem.h"
 
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
@@ -13,10 +13,6 @@ namespace UICommonMdl
 int CAtomicFile::Write(const QString& strFile, const QByteArray& content)
 {
     const QFileInfo info(strFile);
-    if (!info.absoluteDir().exists())
-    {
-        return CErrorCode::FolderMissing;
-    }
     if (info.exists() && !info.isFile())
     {
         return CErrorCode::IoError;
@@ -73,10 +69,20 @@ int CAtomicFile::Read(const QString& strFile, QByteArray& content)
     const QByteArray read = file.readAll();
     if (file.error() != QFileDevice::NoError)
     {
-        return CErrorCode::IoError;
+        return GetSystemError();
     }
     content = read;
     return CErrorCode::Success;
+}
+
+int CAtomicFile::Remove(const QString& strFile)
+{
+    if (!QFile::exists(strFile))
+    {
+        return CErrorCode::Success;
+    }
+    ClearSystemError();
+    return QFile::remove(strFile) ? int(CErrorCode::Success) : GetSystemError();
 }
 
 } // namespace UICommonMdl

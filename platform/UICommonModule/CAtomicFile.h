@@ -23,6 +23,10 @@ public:
     /// Reads a regular file; anything else (a folder, a device, a pipe) is not opened.
     /// \return CErrorCode::Success, or FileMissing, NoPermission, Unreadable, IoError; \a content is then empty
     static int Read(const QString& strFile, QByteArray& content);
+
+    /// Removes a file; a folder stays.
+    /// \return CErrorCode::Success, also when there is no such file, or NoPermission, IoError
+    static int Remove(const QString& strFile);
 };
 
 } // namespace UICommonMdl

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
+#include <QTemporaryFile>
 #include <QtTest>
 
 using LocalConfigClient::AutoStart;
@@ -52,6 +53,8 @@ private slots:
     void TheNameIsEscaped();
     void AnotherPathReplacesTheOld();
     void AReadOnlyFolderIsReported();
+    void AFileInPlaceOfTheFolderIsReported();
+    void AFolderInPlaceOfTheEntryIsReported();
 };
 
 void tst_AutoStart::initTestCase()
@@ -184,6 +187,25 @@ void tst_AutoStart::AReadOnlyFolderIsReported()
     QCOMPARE(nWritten, int(CErrorCode::NoPermission));
     QCOMPARE(nRemoved, int(CErrorCode::NoPermission));
     QCOMPARE(LocalConfig::ReadAutoStartCommand(g_strName), QString("\"/opt/old\""));
+}
+
+void tst_AutoStart::AFileInPlaceOfTheFolderIsReported()
+{
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(file.fileName()));
+    const int nResult = AutoStart::Apply(true, g_strName, "/opt/client");
+    qputenv("XDG_CONFIG_HOME", before);
+    QCOMPARE(nResult, int(CErrorCode::FolderMissing));
+}
+
+void tst_AutoStart::AFolderInPlaceOfTheEntryIsReported()
+{
+    QVERIFY(QDir().mkpath(EntryPath()));
+    const int nResult = AutoStart::Apply(false, g_strName, "/opt/client");
+    QVERIFY(QDir().rmdir(EntryPath()));
+    QCOMPARE(nResult, int(CErrorCode::IoError));
 }
 
 QTEST_GUILESS_MAIN(tst_AutoStart)

@@ -34,6 +34,7 @@ private slots:
     void AReadOnlyFolderIsReported();
     void AReadOnlyFileIsReported();
     void AFolderInPlaceOfTheFileIsReported();
+    void AFolderBehindAClosedOneIsNotMissing();
     void ALimitOfSizeCountsAsFull();
     void FaultsLoseNothing_data();
     void FaultsLoseNothing();
@@ -44,6 +45,11 @@ private slots:
     void AFolderIsNotRead();
     void APipeIsNotOpened();
     void AFileInAClosedFolderIsNotMissing();
+
+    void RemovesAFile();
+    void RemovingAMissingFileIsNoError();
+    void AFileOfAReadOnlyFolderIsNotRemoved();
+    void AFolderIsNotRemoved();
 
 private:
     QString Path(const char* pszName = "file.txt") const { return m_pFolder->filePath(pszName); }
@@ -157,6 +163,15 @@ void tst_AtomicFile::AFolderInPlaceOfTheFileIsReported()
     QVERIFY(QFileInfo(Path()).isDir());
 }
 
+void tst_AtomicFile::AFolderBehindAClosedOneIsNotMissing()
+{
+    QVERIFY(QDir().mkpath(Path("closed/folder")));
+    QVERIFY(QFile::setPermissions(Path("closed"), QFile::Permissions()));
+    const int nResult = CAtomicFile::Write(Path("closed/folder/file.txt"), "new");
+    QFile::setPermissions(Path("closed"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QCOMPARE(nResult, int(CErrorCode::NoPermission));
+}
+
 void tst_AtomicFile::ALimitOfSizeCountsAsFull()
 {
     Put("old");
@@ -245,6 +260,36 @@ void tst_AtomicFile::AFileInAClosedFolderIsNotMissing()
     const int nResult = CAtomicFile::Read(Path("closed/file.txt"), content);
     QFile::setPermissions(Path("closed"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QCOMPARE(nResult, int(CErrorCode::NoPermission));
+}
+
+void tst_AtomicFile::RemovesAFile()
+{
+    Put("old");
+    QCOMPARE(CAtomicFile::Remove(Path()), int(CErrorCode::Success));
+    QVERIFY(Names().isEmpty());
+}
+
+void tst_AtomicFile::RemovingAMissingFileIsNoError()
+{
+    QCOMPARE(CAtomicFile::Remove(Path()), int(CErrorCode::Success));
+    QCOMPARE(CAtomicFile::Remove(Path("none/file.txt")), int(CErrorCode::Success));
+}
+
+void tst_AtomicFile::AFileOfAReadOnlyFolderIsNotRemoved()
+{
+    Put("old");
+    QVERIFY(QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
+    const int nResult = CAtomicFile::Remove(Path());
+    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QCOMPARE(nResult, int(CErrorCode::NoPermission));
+    QCOMPARE(Get(), QByteArray("old"));
+}
+
+void tst_AtomicFile::AFolderIsNotRemoved()
+{
+    QVERIFY(QDir().mkpath(Path()));
+    QCOMPARE(CAtomicFile::Remove(Path()), int(CErrorCode::IoError));
+    QCOMPARE(Names(), QStringList("file.txt"));
 }
 
 QTEST_GUILESS_MAIN(tst_AtomicFile)
