@@ -9,7 +9,7 @@
 
 /// A section that notes its calls and keeps one record.
 template <class Interface, class Record>
-class CFakeSection : public Interface
+class CFakeSection final : public Interface
 {
 public:
     explicit CFakeSection(CJournal& journal)
@@ -40,7 +40,7 @@ private:
 };
 
 /// A Basic section that notes its calls and keeps one record.
-class CFakeBasicSection : public LocalConfigLogical::IBasicSection
+class CFakeBasicSection final : public LocalConfigLogical::IBasicSection
 {
 public:
     explicit CFakeBasicSection(CJournal& journal)
@@ -81,7 +81,7 @@ private:
 };
 
 /// An Alarm section that notes its calls and keeps one record.
-class CFakeAlarmSection : public LocalConfigLogical::IAlarmSection
+class CFakeAlarmSection final : public LocalConfigLogical::IAlarmSection
 {
 public:
     explicit CFakeAlarmSection(CJournal& journal)
