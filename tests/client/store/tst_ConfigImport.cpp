@@ -1,0 +1,73 @@
+#include "support/ChangedSettings.h"
+#include "support/StoreFixture.h"
+
+#include <UICommonModule/CErrorCode.h>
+
+using namespace LocalConfigClient;
+using UICommonMdl::CErrorCode;
+
+class tst_ConfigImport : public CStoreTest
+{
+    Q_OBJECT
+
+private slots:
+    void init() { Reset(); }
+
+    void ImportReplacesEverything();
+    void ImportKeepsUnknownKeys();
+    void ImportOfADamagedDocumentChangesNothing();
+    void AFailedImportChangesNothing();
+};
+
+void tst_ConfigImport::ImportKeepsUnknownKeys()
+{
+    Put(R"({"version": 1, "mine": 42, "sections": {"basic": {"later": true}}})");
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    QCOMPARE(
+        service.Import(R"({"version": 1, "theirs": 7, "sections": {"basic": {"newer": 1, "clientSize": 3}}})", nullptr),
+        1);
+    for (const char* pszKey : {"mine", "later", "theirs", "newer"})
+    {
+        QVERIFY2(GetFile().contains(pszKey), pszKey);
+    }
+    QCOMPARE(SavedClientSize(), 3);
+}
+
+void tst_ConfigImport::ImportReplacesEverything()
+{
+    SettingsDocument document;
+    document.SetSettings(ChangedSettings());
+    {
+        ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+        QCOMPARE(service.Import(document.Serialize(), nullptr), 1);
+        QVERIFY(service.GetStored() == ChangedSettings());
+        QCOMPARE(service.Export(), document.Serialize());
+    }
+    const ConfigService service(m_pFolder->path(), ConfigService::ReadOnly);
+    QVERIFY(service.GetStored() == ChangedSettings());
+}
+
+void tst_ConfigImport::ImportOfADamagedDocumentChangesNothing()
+{
+    Put(Document(1));
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    QString strError;
+    QCOMPARE(service.Import("{", &strError), int(CErrorCode::Damaged));
+    QVERIFY(!strError.isEmpty());
+    QCOMPARE(GetBasic(service).clientSize, 1);
+    QCOMPARE(GetFile(), Document(1));
+}
+
+void tst_ConfigImport::AFailedImportChangesNothing()
+{
+    Put(Document(1));
+    const ConfigService first(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService second(m_pFolder->path(), ConfigService::ReadWrite);
+    QCOMPARE(second.Import(Document(3), nullptr), int(CErrorCode::Locked));
+    QCOMPARE(GetBasic(second).clientSize, 1);
+    QCOMPARE(GetFile(), Document(1));
+}
+
+QTEST_GUILESS_MAIN(tst_ConfigImport)
+
+#include "tst_ConfigImport.moc"

@@ -1,0 +1,71 @@
+#include "support/StoreFixture.h"
+
+#include <UICommonModule/CErrorCode.h>
+
+using namespace LocalConfigClient;
+using UICommonMdl::CErrorCode;
+
+class tst_ConfigLock : public CStoreTest
+{
+    Q_OBJECT
+
+private slots:
+    void init() { Reset(); }
+
+    void ASecondClientCannotSave();
+    void ASecondClientSavesOnceTheFirstHasGone();
+    void ASecondClientDoesNotOverwriteTheFirst();
+    void LookingOnlyTakesNoLock();
+};
+
+void tst_ConfigLock::ASecondClientCannotSave()
+{
+    ConfigService first(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService second(m_pFolder->path(), ConfigService::ReadWrite);
+    QCOMPARE(first.GetProblems(), QStringList());
+    QCOMPARE(second.GetProblems().size(), 1);
+    SetClientSize(second, 0);
+    QCOMPARE(second.SaveAll(), int(CErrorCode::Locked));
+    QCOMPARE(GetBasic(second).clientSize, 0);
+    SetClientSize(first, 1);
+    QCOMPARE(first.SaveAll(), 1);
+    QCOMPARE(SavedClientSize(), 1);
+}
+
+void tst_ConfigLock::ASecondClientSavesOnceTheFirstHasGone()
+{
+    QScopedPointer<ConfigService> pFirst(new ConfigService(m_pFolder->path(), ConfigService::ReadWrite));
+    ConfigService second(m_pFolder->path(), ConfigService::ReadWrite);
+    pFirst.reset();
+    SetClientSize(second, 0);
+    QCOMPARE(second.SaveAll(), 1);
+    QCOMPARE(SavedClientSize(), 0);
+}
+
+void tst_ConfigLock::ASecondClientDoesNotOverwriteTheFirst()
+{
+    QScopedPointer<ConfigService> pFirst(new ConfigService(m_pFolder->path(), ConfigService::ReadWrite));
+    ConfigService second(m_pFolder->path(), ConfigService::ReadWrite);
+    SetClientSize(*pFirst, 1);
+    QCOMPARE(pFirst->SaveAll(), 1);
+    pFirst.reset();
+    SetClientSize(second, 0);
+    QCOMPARE(second.SaveAll(), int(CErrorCode::ChangedElsewhere));
+    QCOMPARE(SavedClientSize(), 1);
+}
+
+void tst_ConfigLock::LookingOnlyTakesNoLock()
+{
+    Put("damaged");
+    ConfigService looking(m_pFolder->path(), ConfigService::ReadOnly);
+    QCOMPARE(looking.GetProblems().size(), 1);
+    QCOMPARE(Names(), QStringList{"settings.json"});
+    QCOMPARE(looking.SaveAll(), int(CErrorCode::NoPermission));
+    QCOMPARE(GetFile(), QByteArray("damaged"));
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    QCOMPARE(SetAside().size(), 1);
+}
+
+QTEST_GUILESS_MAIN(tst_ConfigLock)
+
+#include "tst_ConfigLock.moc"

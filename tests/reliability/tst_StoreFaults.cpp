@@ -1,0 +1,121 @@
+// A full or failing disk comes from the preloaded library "FaultFs", see support/FaultFs.cpp.
+
+#include "support/StoreFixture.h"
+
+#include <UICommonModule/CErrorCode.h>
+
+using namespace LocalConfigClient;
+using UICommonMdl::CErrorCode;
+
+class tst_StoreFaults : public CStoreTest
+{
+    Q_OBJECT
+
+private slots:
+    void init() { Reset(); }
+    void cleanup() { qunsetenv("KV_FAULT"); }
+
+    void AReadOnlyFolder();
+    void AFullDisk_data();
+    void AFullDisk();
+    void AFullDiskForTheLock();
+    void SavedHandlerHearsOnlySuccess();
+    void ALockThatCameLateDoesNotOverwrite();
+};
+
+void tst_StoreFaults::AReadOnlyFolder()
+{
+    Put(Document(1));
+    QVERIFY(QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
+    int nResult = 0;
+    QStringList listProblems;
+    int nWorking = 0;
+    {
+        ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+        listProblems = service.GetProblems();
+        SetClientSize(service, 0);
+        nResult = service.SaveAll();
+        nWorking = GetBasic(service).clientSize;
+    }
+    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QCOMPARE(nResult, int(CErrorCode::NoPermission));
+    QCOMPARE(listProblems.size(), 1);
+    QCOMPARE(nWorking, 0);
+    QCOMPARE(GetFile(), Document(1));
+}
+
+void tst_StoreFaults::AFullDisk_data()
+{
+    QTest::addColumn<QByteArray>("fault");
+    QTest::addColumn<int>("nResult");
+    QTest::newRow("write") << QByteArray("write:ENOSPC:") << int(CErrorCode::DiskFull);
+    QTest::newRow("flush") << QByteArray("fsync:ENOSPC:") << int(CErrorCode::DiskFull);
+    QTest::newRow("device") << QByteArray("write:EIO:") << int(CErrorCode::IoError);
+    QTest::newRow("rename") << QByteArray("rename:EIO:") << int(CErrorCode::IoError);
+}
+
+void tst_StoreFaults::AFullDisk()
+{
+    QFETCH(QByteArray, fault);
+    QFETCH(int, nResult);
+    Put(Document(1));
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    SetClientSize(service, 0);
+    qputenv("KV_FAULT", fault + m_pFolder->path().toLocal8Bit());
+    QCOMPARE(service.SaveAll(), nResult);
+    qunsetenv("KV_FAULT");
+    QCOMPARE(GetFile(), Document(1));
+    QCOMPARE(GetBasic(service).clientSize, 0);
+    QCOMPARE(service.GetStored().basic.clientSize, 1);
+
+    QCOMPARE(service.SaveAll(), 1);
+    QCOMPARE(SavedClientSize(), 0);
+}
+
+void tst_StoreFaults::AFullDiskForTheLock()
+{
+    Put(Document(1));
+    qputenv("KV_FAULT", "write:ENOSPC:" + m_pFolder->path().toLocal8Bit());
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    QCOMPARE(service.GetProblems().size(), 1);
+    SetClientSize(service, 0);
+    QCOMPARE(service.SaveAll(), int(CErrorCode::DiskFull));
+    qunsetenv("KV_FAULT");
+    QCOMPARE(GetFile(), Document(1));
+    QCOMPARE(service.SaveAll(), 1);
+    QCOMPARE(SavedClientSize(), 0);
+}
+
+void tst_StoreFaults::SavedHandlerHearsOnlySuccess()
+{
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    int nSaved = 0;
+    service.SetSavedHandler([&] { ++nSaved; });
+    SetClientSize(service, 0);
+    qputenv("KV_FAULT", "write:ENOSPC:" + m_pFolder->path().toLocal8Bit());
+    service.SaveAll();
+    qunsetenv("KV_FAULT");
+    QCOMPARE(nSaved, 0);
+    service.SaveAll();
+    QCOMPARE(nSaved, 1);
+}
+
+void tst_StoreFaults::ALockThatCameLateDoesNotOverwrite()
+{
+    // The first attempt at the lock fails for another reason than a second client; meanwhile one comes and saves.
+    qputenv("KV_FAULT", "write:ENOSPC:" + m_pFolder->path().toLocal8Bit());
+    ConfigService late(m_pFolder->path(), ConfigService::ReadWrite);
+    qunsetenv("KV_FAULT");
+    {
+        ConfigService other(m_pFolder->path(), ConfigService::ReadWrite);
+        SetClientSize(other, 1);
+        QCOMPARE(other.SaveAll(), 1);
+    }
+    SetClientSize(late, 0);
+    QCOMPARE(late.SaveAll(), int(CErrorCode::ChangedElsewhere));
+    QCOMPARE(SavedClientSize(), 1);
+}
+
+QTEST_GUILESS_MAIN(tst_StoreFaults)
+
+#include "tst_StoreFaults.moc"
