@@ -148,7 +148,7 @@ void tst_DialogHost::TranslationContext()
     QCOMPARE(d.Button("btnOk")->text(), QString("<Save>"));
     QCOMPARE(d.Button("btnOther")->text(), QString("<Default>"));
     QCOMPARE(d.Button("btnCancel")->text(), QString("<Cancel>"));
-    NOTIFICATIONS;
+    CNotificationSpy notifications;
     SFakePages::Instance().mapSaveResults[0] = -1;
     d.dialog.show();
     d.Click("btnOk");

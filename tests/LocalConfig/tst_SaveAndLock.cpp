@@ -43,7 +43,7 @@ void tst_SaveAndLock::SaveStoresEveryPageThenAll()
 {
     DIALOG;
     d.InitAndShow();
-    NOTIFICATIONS;
+    CNotificationSpy notifications;
     d.Click("btnOk");
     QCOMPARE(host.journal.Take(), Each(g_listPageOrder, "SaveConfig") + QStringList{"SaveAll"});
     QVERIFY(!d.dialog.isVisible());
@@ -57,7 +57,7 @@ void tst_SaveAndLock::SaveErrorIsShownAndTheDialogCloses()
         DIALOG;
         host.localConfig.m_nSaveResult = nResult;
         d.InitAndShow();
-        NOTIFICATIONS;
+        CNotificationSpy notifications;
         d.Click("btnOk");
         QVERIFY(!d.dialog.isVisible());
         QCOMPARE(host.journal.Take(), Each(g_listPageOrder, "SaveConfig") + QStringList{"SaveAll"});
@@ -74,7 +74,7 @@ void tst_SaveAndLock::ARefusedPageKeepsTheDialogOpen()
     DIALOG;
     SFakePages::Instance().mapSaveResults[0] = -1;
     d.InitAndShow();
-    NOTIFICATIONS;
+    CNotificationSpy notifications;
     d.Click("btnOk");
     QCOMPARE(host.journal.Take(), Each(g_listPageOrder, "SaveConfig") + Each(g_listRefusedOrder, "LoadConfig false"));
     QVERIFY(d.dialog.isVisible());
@@ -106,7 +106,7 @@ void tst_SaveAndLock::KeptInput()
     DIALOG;
     SFakePages::Instance().mapSaveResults = {{3, nSnapshot}, {4, nRecord}};
     d.InitAndShow();
-    NOTIFICATIONS;
+    CNotificationSpy notifications;
     d.Click("btnOk");
     QVERIFY(d.dialog.isVisible());
     QCOMPARE(notifications.size(), 1);
@@ -140,7 +140,7 @@ void tst_SaveAndLock::DefaultReloadsWithDefaults()
 {
     DIALOG;
     d.InitAndShow();
-    NOTIFICATIONS;
+    CNotificationSpy notifications;
     d.Click("btnOther");
     QCOMPARE(host.journal.Take(), Each(g_listPageOrder, "LoadConfig true"));
     QVERIFY(d.dialog.isVisible());

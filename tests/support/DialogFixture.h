@@ -2,8 +2,8 @@
 
 #include "FakeHost.h"
 #include "FakePages.h"
+#include "Notifications.h"
 
-#include <KvGui/KvMessageNotify.h>
 #include <KvGui/KvToolListView.h>
 #include <LocalConfig/CGroupBox.h>
 #include <LocalConfig/CLocalConfig.h>
@@ -13,7 +13,6 @@
 #include <QDesktopWidget>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QtTest>
 
 struct SBox
@@ -139,8 +138,3 @@ inline void ResetFakePages()
     SFakeHost host;                                                                                                    \
     SFakePages::Instance().pJournal = &host.journal;                                                                   \
     SDialog d(host)
-
-/// A spy "notifications" on the client's notification bar.
-#define NOTIFICATIONS                                                                                                  \
-    QSignalSpy notifications(KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance(),                                   \
-                             &KVGUI::KvMessageNotify::SignalTextNotificationAdded)

@@ -1,14 +1,13 @@
 // A client that comes without its alarm catalogue.
 
-#include <UICommonModule/CAlarmType.h>
+#include "support/Notifications.h"
 
-#include <KvGui/KvMessageNotify.h>
 #include <LocalConfig/pages/CAlarmConfig.h>
 
+#include <UICommonModule/CAlarmType.h>
 #include <UICommonModule/CAlarmTypeCombox.h>
 
 #include <QDir>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -33,8 +32,7 @@ private:
 
 void tst_MissingCatalogue::TheOperatorIsToldOnce()
 {
-    QSignalSpy notifications(KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance(),
-                             &KVGUI::KvMessageNotify::SignalTextNotificationAdded);
+    CNotificationSpy notifications;
     QCOMPARE(CAlarmType::Instance()->GetAlarmTypeCount(), 0);
     QCOMPARE(notifications.size(), 0);
     QTRY_COMPARE(notifications.size(), 1);

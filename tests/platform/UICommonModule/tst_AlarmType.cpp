@@ -1,8 +1,8 @@
+#include "support/Notifications.h"
+
 #include <UICommonModule/CAlarmType.h>
 #include <UICommonModule/CErrorCode.h>
 #include <UICommonModule/CGlobalInfo.h>
-
-#include <KvGui/KvMessageNotify.h>
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -316,8 +316,7 @@ void tst_AlarmType::BadFilesGiveAnEmptyCatalogue()
 {
     QFETCH(QByteArray, content);
     LoadSmall();
-    QSignalSpy notifications(KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance(),
-                             &KVGUI::KvMessageNotify::SignalTextNotificationAdded);
+    CNotificationSpy notifications;
     QCOMPARE(Catalogue().Load(Put(content)), int(CErrorCode::Damaged));
     QCOMPARE(Catalogue().GetAlarmTypeCount(), 0);
     QCOMPARE(Catalogue().GetCategoryIds(), QList<int>());
@@ -331,8 +330,7 @@ void tst_AlarmType::BadFilesGiveAnEmptyCatalogue()
 void tst_AlarmType::AMissingFileGivesAnEmptyCatalogue()
 {
     LoadSmall();
-    QSignalSpy notifications(KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance(),
-                             &KVGUI::KvMessageNotify::SignalTextNotificationAdded);
+    CNotificationSpy notifications;
     QCOMPARE(Catalogue().Load(m_pFolder->filePath("none.xml")), int(CErrorCode::FileMissing));
     QCOMPARE(Catalogue().GetAlarmTypeCount(), 0);
     QCOMPARE(notifications.size(), 1);
