@@ -1,21 +1,15 @@
+#include "support/ClientWindow.h"
 #include "support/SoundServer.h"
 
-#include <client/MainWindow.h>
 #include <client/alarm/AlarmCenter.h>
 #include <client/alarm/AlarmSounds.h>
 #include <client/alarm/MapView.h>
 #include <client/live/SplitView.h>
-#include <client/session/UserManager.h>
-#include <client/store/ConfigService.h>
-#include <client/store/SettingsDocument.h>
 
 #include <UICommonModule/CAlarmType.h>
 #include <UICommonModule/CAlarmTypeCombox.h>
 #include <UICommonModule/CAudioOutput.h>
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
 #include <QLabel>
 
 using namespace LocalConfigClient;
@@ -63,13 +57,13 @@ struct SClient
     QScopedPointer<MainWindow> pWindow;
 };
 
-class tst_AlarmCenter : public QObject
+class tst_AlarmCenter : public CClientTest
 {
     Q_OBJECT
 
 private slots:
     void initTestCase() { m_server.Start(); }
-    void init();
+    void init() { Reset(); }
 
     void ATestAlarmDoesAllThree();
     void AcknowledgingEndsEverything();
@@ -86,14 +80,6 @@ private slots:
     void ACustomSoundIsHeard();
 
 private:
-    void Store(const Settings& settings) const
-    {
-        SettingsDocument document;
-        document.SetSettings(settings);
-        QFile file("settings.json");
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(document.Serialize());
-    }
     QString Put(const QString& strName, const QByteArray& content) const
     {
         QFile file(strName);
@@ -105,14 +91,7 @@ private:
     }
 
     CSoundServer m_server;
-    QScopedPointer<QTemporaryDir> m_pFolder;
 };
-
-void tst_AlarmCenter::init()
-{
-    m_pFolder.reset(new QTemporaryDir);
-    QVERIFY(QDir::setCurrent(m_pFolder->path()));
-}
 
 void tst_AlarmCenter::ATestAlarmDoesAllThree()
 {
