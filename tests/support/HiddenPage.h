@@ -29,12 +29,13 @@ protected:
         m_journal.Take();
     }
 
-    /// Hands the page the section with this record in it.
+    /// Hands the page the section with this record in it, which the page reads once.
     void Load(const Record& record)
     {
         m_pSection->m_record = record;
-        QCOMPARE(m_pPage->SetConfigSection(m_pSection.data()), 0);
         m_journal.Take();
+        QCOMPARE(m_pPage->SetConfigSection(m_pSection.data()), 0);
+        QCOMPARE(m_journal.Take(), QStringList{"GetConfig"});
     }
 
     void Show()

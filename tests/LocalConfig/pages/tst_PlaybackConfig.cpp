@@ -1,4 +1,4 @@
-#include "support/FakeSections.h"
+#include "support/HiddenPage.h"
 
 #include <LocalConfig/interfaces/IPlaybackSection.h>
 #include <LocalConfig/pages/CPlaybackConfig.h>
@@ -8,18 +8,17 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLayout>
-#include <QtTest>
 
 using namespace LocalConfig;
 using LocalConfigLogical::IPlaybackSection;
 using LocalConfigLogical::PlaybackConfigInfo;
 
-class tst_PlaybackConfig : public QObject
+class tst_PlaybackConfig : public CHiddenPageTest<CPlaybackConfig, CFakeSection<IPlaybackSection, PlaybackConfigInfo>>
 {
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { Reset(QSize(662, 168)); }
 
     void Form();
     void Items();
@@ -34,26 +33,9 @@ private slots:
     void UnInitForgetsTheSection();
 
 private:
-    QComboBox* Stream() const { return m_pPage->findChild<QComboBox*>("devStreamCmbBox"); }
-    KVGUI::KvCheckBox* Adjust() const { return m_pPage->findChild<KVGUI::KvCheckBox*>("enableLargePicAdjustment"); }
-    void Load(const PlaybackConfigInfo& record)
-    {
-        m_pSection->m_record = record;
-        QCOMPARE(m_pPage->SetConfigSection(m_pSection.data()), 0);
-        QCOMPARE(m_journal.Take(), QStringList{"GetConfig"});
-    }
-
-    CJournal m_journal;
-    QScopedPointer<CFakeSection<IPlaybackSection, PlaybackConfigInfo>> m_pSection;
-    QScopedPointer<CPlaybackConfig> m_pPage;
+    QComboBox* Stream() const { return Find<QComboBox>("devStreamCmbBox"); }
+    KVGUI::KvCheckBox* Adjust() const { return Find<KVGUI::KvCheckBox>("enableLargePicAdjustment"); }
 };
-
-void tst_PlaybackConfig::init()
-{
-    m_pSection.reset(new CFakeSection<IPlaybackSection, PlaybackConfigInfo>(m_journal));
-    m_pPage.reset(new CPlaybackConfig(nullptr));
-    m_journal.Take();
-}
 
 void tst_PlaybackConfig::Form()
 {

@@ -1,4 +1,4 @@
-#include "support/FakeSections.h"
+#include "support/HiddenPage.h"
 #include "support/Patterns.h"
 
 #include <LocalConfig/interfaces/ITvWallSection.h>
@@ -19,12 +19,12 @@ using namespace LocalConfig;
 using LocalConfigLogical::ITvWallSection;
 using LocalConfigLogical::TvWallConfigInfo;
 
-class tst_TvWallConfig : public QObject
+class tst_TvWallConfig : public CHiddenPageTest<CTvWallConfig, CFakeSection<ITvWallSection, TvWallConfigInfo>>
 {
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { Reset(QSize(662, 390)); }
 
     void Captions_data();
     void Captions();
@@ -56,14 +56,11 @@ private slots:
     void UnInitForgetsTheSection();
 
 private:
-    QComboBox* Combo(const char* pszName) const { return m_pPage->findChild<QComboBox*>(pszName); }
-    KVGUI::KvLineEdit* Stay() const { return m_pPage->findChild<KVGUI::KvLineEdit*>("lineeditStayTime"); }
-    KVGUI::KvRadioButton* Radio(const char* pszName) const
-    {
-        return m_pPage->findChild<KVGUI::KvRadioButton*>(pszName);
-    }
-    KVGUI::KvCheckBox* Check() const { return m_pPage->findChild<KVGUI::KvCheckBox*>("chkboxChangeStreamType"); }
-    QLabel* Error() const { return m_pPage->findChild<QLabel*>("labelError"); }
+    QComboBox* Combo(const char* pszName) const { return Find<QComboBox>(pszName); }
+    KVGUI::KvLineEdit* Stay() const { return Find<KVGUI::KvLineEdit>("lineeditStayTime"); }
+    KVGUI::KvRadioButton* Radio(const char* pszName) const { return Find<KVGUI::KvRadioButton>(pszName); }
+    KVGUI::KvCheckBox* Check() const { return Find<KVGUI::KvCheckBox>("chkboxChangeStreamType"); }
+    QLabel* Error() const { return Find<QLabel>("labelError"); }
     QString CheckedRadio() const
     {
         QStringList listChecked;
@@ -76,31 +73,7 @@ private:
         }
         return listChecked.join(' ');
     }
-    void Load(const TvWallConfigInfo& record)
-    {
-        m_pSection->m_record = record;
-        QCOMPARE(m_pPage->SetConfigSection(m_pSection.data()), 0);
-        QCOMPARE(m_journal.Take(), QStringList{"GetConfig"});
-    }
-    void Show()
-    {
-        m_pPage->show();
-        QApplication::setActiveWindow(m_pPage.data());
-        QVERIFY(QTest::qWaitForWindowActive(m_pPage.data()));
-    }
-
-    CJournal m_journal;
-    QScopedPointer<CFakeSection<ITvWallSection, TvWallConfigInfo>> m_pSection;
-    QScopedPointer<CTvWallConfig> m_pPage;
 };
-
-void tst_TvWallConfig::init()
-{
-    m_pSection.reset(new CFakeSection<ITvWallSection, TvWallConfigInfo>(m_journal));
-    m_pPage.reset(new CTvWallConfig(nullptr));
-    m_pPage->resize(662, 390);
-    m_journal.Take();
-}
 
 void tst_TvWallConfig::Captions_data()
 {
