@@ -1,7 +1,7 @@
 #include "support/DialogFixture.h"
+#include "support/Marker.h"
 
 #include <QMetaMethod>
-#include <QTranslator>
 
 using namespace LocalConfig;
 
@@ -132,16 +132,7 @@ void tst_DialogHost::UnInitTwiceRemovesTheObserverOnce()
 
 void tst_DialogHost::TranslationContext()
 {
-    class CTranslator : public QTranslator
-    {
-    public:
-        QString translate(const char* pszContext, const char* pszText, const char*, int) const override
-        {
-            return qstrcmp(pszContext, "CLocalConfig") == 0 ? QStringLiteral("<%1>").arg(pszText) : QString();
-        }
-        bool isEmpty() const override { return false; }
-    } translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const CContextMarker marker("CLocalConfig");
     DIALOG;
     d.Init();
     QCOMPARE(d.dialog.windowTitle(), QString("<Local Config>"));

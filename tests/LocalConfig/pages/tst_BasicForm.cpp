@@ -1,8 +1,8 @@
 #include "support/BasicPage.h"
+#include "support/Marker.h"
 
 #include <QLabel>
 #include <QLayout>
-#include <QTranslator>
 
 using namespace LocalConfig;
 using KVGUI::KvCheckBox;
@@ -106,16 +106,7 @@ void tst_BasicForm::ClientSizeItems()
 
 void tst_BasicForm::TextsAreTranslated()
 {
-    class CTranslator : public QTranslator
-    {
-    public:
-        QString translate(const char* pszContext, const char* pszText, const char*, int) const override
-        {
-            return qstrcmp(pszContext, "CBasicConfig") == 0 ? QStringLiteral("<%1>").arg(pszText) : QString();
-        }
-        bool isEmpty() const override { return false; }
-    } translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
+    const CContextMarker marker("CBasicConfig");
     const CBasicConfig page(nullptr);
     for (const SCheckBox& expected : g_arrCheckBoxes)
     {
