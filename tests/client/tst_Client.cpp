@@ -1,62 +1,12 @@
-// The real client, started as an operator or a script starts it, on a real data folder.
-
 #include "support/ChangedSettings.h"
+#include "support/ClientProcess.h"
 
-#include <client/store/SettingsDocument.h>
-
-#include <QDir>
 #include <QImage>
-#include <QLockFile>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QtTest>
 
 using namespace LocalConfigClient;
 
 namespace
 {
-
-struct SRun
-{
-    int nExitCode = -1;
-    QByteArray output;
-    QStringList listErrors;
-};
-
-SRun Run(const QStringList& listArguments, const QProcessEnvironment& environment, const QString& strFolder = {})
-{
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(strFolder.isEmpty() ? QDir::currentPath() : strFolder);
-    process.start(QString::fromLocal8Bit(qgetenv("KV_CLIENT")), listArguments);
-    SRun run;
-    if (process.waitForFinished(100000) && process.exitStatus() == QProcess::NormalExit)
-    {
-        run.nExitCode = process.exitCode();
-    }
-    run.output = process.readAllStandardOutput();
-    run.listErrors = QString::fromLocal8Bit(process.readAllStandardError()).split('\n', Qt::SkipEmptyParts);
-    return run;
-}
-
-QByteArray Document(const Settings& settings)
-{
-    SettingsDocument document;
-    document.SetSettings(settings);
-    return document.Serialize();
-}
-
-/// Every file of a folder with its content.
-QMap<QString, QByteArray> Snapshot(const QString& strFolder)
-{
-    QMap<QString, QByteArray> mapFiles;
-    for (const QString& strName : QDir(strFolder).entryList(QDir::Files | QDir::Hidden))
-    {
-        QFile file(QDir(strFolder).filePath(strName));
-        mapFiles.insert(strName, file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)"));
-    }
-    return mapFiles;
-}
 
 int Colors(const QString& strPicture)
 {
@@ -74,12 +24,12 @@ int Colors(const QString& strPicture)
 
 } // namespace
 
-class tst_Client : public QObject
+class tst_Client : public CClientProcessTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { Reset(); }
 
     void DumpShowsDefaultsAtFirst();
     void ImportDumpExport();
@@ -108,39 +58,8 @@ private slots:
     void MessagesAreInTheLanguageOfTheIniFile();
     void ADumpThatCannotBePrintedFails();
     void RightsOfTheDocument();
-    void AReadOnlyFolderLosesNothing();
-    void AFullDiskLosesNothing();
-    void ASecondClientLosesNothing();
     void WithoutADisplayTheWindowSaysSo();
-
-private:
-    SRun Client(QStringList listArguments) const
-    {
-        return Run(listArguments << "--data-dir" << m_pFolder->path(), m_environment);
-    }
-    QString Path(const QString& strName) const
-    {
-        return m_pFolder->filePath(strName);
-    }
-    void Put(const QString& strPath, const QByteArray& content) const
-    {
-        QFile file(strPath);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-
-    QProcessEnvironment m_environment;
-    QScopedPointer<QTemporaryDir> m_pFolder;
-    QScopedPointer<QTemporaryDir> m_pOther; // for files that are not the client's own
 };
-
-void tst_Client::init()
-{
-    m_environment = QProcessEnvironment::systemEnvironment();
-    m_environment.insert("QT_LOGGING_RULES", "default.warning=false"); // the offscreen plug-in's own words
-    m_pFolder.reset(new QTemporaryDir);
-    m_pOther.reset(new QTemporaryDir);
-}
 
 void tst_Client::DumpShowsDefaultsAtFirst()
 {
@@ -432,53 +351,6 @@ void tst_Client::RightsOfTheDocument()
     QVERIFY(!with.isNull());
     QCOMPARE(without.size(), with.size());
     QVERIFY(without != with);
-}
-
-void tst_Client::AReadOnlyFolderLosesNothing()
-{
-    Put(Path("settings.json"), Document(ChangedSettings()));
-    Put(m_pOther->filePath("in.json"), Document(Settings()));
-    const QMap<QString, QByteArray> mapBefore = Snapshot(m_pFolder->path());
-    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner);
-    const SRun run = Client({"--import", m_pOther->filePath("in.json")});
-    const SRun dump = Client({"--dump"});
-    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    QCOMPARE(run.nExitCode, 1);
-    QCOMPARE(run.listErrors.size(), 1);
-    QVERIFY(run.listErrors.first().contains("permission"));
-    QCOMPARE(dump.output, Document(ChangedSettings()));
-    QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
-}
-
-void tst_Client::AFullDiskLosesNothing()
-{
-    Put(Path("settings.json"), Document(ChangedSettings()));
-    Put(m_pOther->filePath("in.json"), Document(Settings()));
-    const QMap<QString, QByteArray> mapBefore = Snapshot(m_pFolder->path());
-    m_environment.insert("LD_PRELOAD", QString::fromLocal8Bit(qgetenv("KV_FAULT_LIBRARY")));
-    m_environment.insert("ASAN_OPTIONS", "verify_asan_link_order=0");
-    m_environment.insert("KV_FAULT", "write:ENOSPC:" + m_pFolder->path());
-    const SRun run = Client({"--import", m_pOther->filePath("in.json")});
-    QCOMPARE(run.nExitCode, 1);
-    QCOMPARE(run.listErrors.size(), 1);
-    QVERIFY2(run.listErrors.first().contains("the disk is full"), qPrintable(run.listErrors.first()));
-    QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
-}
-
-void tst_Client::ASecondClientLosesNothing()
-{
-    Put(Path("settings.json"), Document(ChangedSettings()));
-    Put(m_pOther->filePath("in.json"), Document(Settings()));
-    QLockFile lock(Path("settings.lock"));
-    lock.setStaleLockTime(0);
-    QVERIFY(lock.tryLock(0));
-    const QMap<QString, QByteArray> mapBefore = Snapshot(m_pFolder->path());
-    const SRun run = Client({"--import", m_pOther->filePath("in.json")});
-    QCOMPARE(run.nExitCode, 1);
-    QCOMPARE(run.listErrors.size(), 1);
-    QVERIFY(run.listErrors.first().contains("another client"));
-    QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
-    QCOMPARE(Client({"--dump"}).output, Document(ChangedSettings()));
 }
 
 void tst_Client::WithoutADisplayTheWindowSaysSo()

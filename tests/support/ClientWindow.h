@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Documents.h"
 #include "Notifications.h"
 
 #include <client/MainWindow.h>
@@ -60,11 +61,9 @@ protected:
     /// The settings that the next client finds.
     static void Store(const LocalConfigClient::Settings& settings)
     {
-        LocalConfigClient::SettingsDocument document;
-        document.SetSettings(settings);
         QFile file("settings.json");
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(document.Serialize());
+        file.write(Document(settings));
     }
 
     QScopedPointer<QTemporaryDir> m_pFolder;

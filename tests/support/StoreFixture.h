@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Documents.h"
+
 #include <client/store/ConfigService.h>
 
 #include <QDir>
@@ -39,9 +41,7 @@ inline QByteArray Document(int nClientSize)
 {
     LocalConfigClient::Settings settings;
     settings.basic.clientSize = nClientSize;
-    LocalConfigClient::SettingsDocument document;
-    document.SetSettings(settings);
-    return document.Serialize();
+    return Document(settings);
 }
 
 /// The base of tests of the client's settings in a data folder of their own.

@@ -42,9 +42,7 @@ void tst_ConfigAutoStart::AutoStartFollowsASave()
     QFETCH(QString, strCall);
     Settings settings;
     settings.basic.autoRun = bStored;
-    SettingsDocument document;
-    document.SetSettings(settings);
-    Put(document.Serialize());
+    Put(Document(settings));
 
     QStringList listCalls;
     ConfigService service(m_pFolder->path(), ConfigService::ReadWrite, [&](bool bEnable) {

@@ -35,13 +35,12 @@ void tst_ConfigImport::ImportKeepsUnknownKeys()
 
 void tst_ConfigImport::ImportReplacesEverything()
 {
-    SettingsDocument document;
-    document.SetSettings(ChangedSettings());
+    const QByteArray document = Document(ChangedSettings());
     {
         ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
-        QCOMPARE(service.Import(document.Serialize(), nullptr), 1);
+        QCOMPARE(service.Import(document, nullptr), 1);
         QVERIFY(service.GetStored() == ChangedSettings());
-        QCOMPARE(service.Export(), document.Serialize());
+        QCOMPARE(service.Export(), document);
     }
     const ConfigService service(m_pFolder->path(), ConfigService::ReadOnly);
     QVERIFY(service.GetStored() == ChangedSettings());
