@@ -6,7 +6,6 @@
 
 #include <QBuffer>
 #include <QDir>
-#include <QFileInfo>
 #include <QRunnable>
 #include <QStringList>
 
@@ -34,16 +33,36 @@ QByteArray Encode(const QImage& image, const char* pszFormat)
     return content;
 }
 
-/// A path in the folder that no file has yet.
-QString GetFreePath(const QString& strFolder, const QString& strBaseName, const QString& strSuffix)
+/// Makes a file in the folder under the first name that nobody has.
+/// \param make  makes a file of a path; FileExists from it asks for the next name
+/// \param strPath  gets the path
+template <class Make>
+int MakeFile(const QString& strFolder, const QString& strBaseName, const QString& strSuffix, const Make& make,
+             QString& strPath)
 {
     const QDir folder(strFolder);
-    QString strPath = folder.filePath(QStringLiteral("%1.%2").arg(strBaseName, strSuffix));
-    for (int n = 2; QFileInfo::exists(strPath); ++n)
+    strPath = folder.filePath(QStringLiteral("%1.%2").arg(strBaseName, strSuffix));
+    int nResult = make(strPath);
+    for (int n = 2; nResult == CErrorCode::FileExists; ++n)
     {
-        strPath = folder.filePath(QStringLiteral("%1-%2.%3").arg(strBaseName).arg(n).arg(strSuffix));
+        strPath = folder.filePath(QStringLiteral("%1-%2.%3").arg(strBaseName, QString::number(n), strSuffix));
+        nResult = make(strPath);
     }
-    return strPath;
+    return nResult;
+}
+
+int WritePicture(const QString& strFolder, bool bBmp, const MediaWriter::Picture& picture)
+{
+    const QByteArray content = Encode(picture.image, bBmp ? "BMP" : "JPG");
+    if (content.isEmpty())
+    {
+        return CErrorCode::IoError;
+    }
+    QString strPath;
+    return MakeFile(
+        strFolder, picture.name.GetBaseName(), bBmp ? QStringLiteral("bmp") : QStringLiteral("jpg"),
+        [&content](const QString& strFile) { return CAtomicFile::Write(strFile, content, CAtomicFile::NewName); },
+        strPath);
 }
 
 int WritePictures(const QString& strFolder, int nImageFormat, const QVector<MediaWriter::Picture>& listPictures)
@@ -56,10 +75,7 @@ int WritePictures(const QString& strFolder, int nImageFormat, const QVector<Medi
         {
             break;
         }
-        const QString strPath =
-            GetFreePath(strFolder, picture.name.GetBaseName(), bBmp ? QStringLiteral("bmp") : QStringLiteral("jpg"));
-        const QByteArray content = Encode(picture.image, bBmp ? "BMP" : "JPG");
-        nResult = content.isEmpty() ? int(CErrorCode::IoError) : CAtomicFile::Write(strPath, content);
+        nResult = WritePicture(strFolder, bBmp, picture);
     }
     return nResult;
 }
@@ -106,16 +122,22 @@ public:
         if (m_listFiles.isEmpty() || bFull)
         {
             m_name.time = QDateTime::currentDateTime();
-            const QString strPath =
-                GetFreePath(m_strFolder, m_name.GetBaseName(), QString::fromLatin1(g_szRecordingSuffix));
-            m_nResult = m_file.Create(strPath);
+            QString strPath;
+            m_nResult = MakeFile(
+                m_strFolder, m_name.GetBaseName(), QString::fromLatin1(g_szRecordingSuffix),
+                [this](const QString& strFile) { return m_file.Create(strFile); }, strPath);
             if (m_nResult != CErrorCode::Success)
             {
                 return m_nResult;
             }
             m_listFiles += strPath;
         }
-        return m_nResult = m_file.Append(content);
+        m_nResult = m_file.Append(content);
+        if (HasFailed())
+        {
+            m_file.RemoveIfEmpty();
+        }
+        return m_nResult;
     }
 
 private:

@@ -3,68 +3,178 @@
 #include "CErrorCode.h"
 #include "FileSystem.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QRandomGenerator>
 
 namespace UICommonMdl
 {
 
-int CAtomicFile::Write(const QString& strFile, const QByteArray& content)
+namespace
 {
-    const QFileInfo info(strFile);
-    if (info.exists() && !info.isFile())
-    {
-        return CErrorCode::IoError;
-    }
 
-    // Unbuffered, so that the system's error is the one of the call that failed.
-    QSaveFile file(strFile);
-    ClearSystemError();
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+constexpr char g_szTemporary[] = ".tmp-";
+constexpr int g_nNumberWidth = 8;
+constexpr int g_nMaxLinks = 40; // as many as the system itself follows
+
+QString GetTemporaryName(const QString& strFile)
+{
+    const quint32 nNumber = QRandomGenerator::global()->generate();
+    return strFile + QLatin1String(g_szTemporary) +
+           QStringLiteral("%1").arg(nNumber, g_nNumberWidth, 16, QLatin1Char('0'));
+}
+
+/// Where a chain of links ends, whether or not something is there.
+QString ResolveLinks(const QString& strFile)
+{
+    QString strResolved = strFile;
+    for (int n = 0; n < g_nMaxLinks && QFileInfo(strResolved).isSymLink(); ++n)
     {
-        return GetSystemError();
+        strResolved = QFileInfo(strResolved).symLinkTarget();
     }
-    const int nWritten = WriteAll(file, content);
-    if (nWritten != CErrorCode::Success)
+    return strResolved;
+}
+
+/// Whether a name may be written over.
+int CheckTarget(const QString& strTarget)
+{
+    const QFileInfo info(strTarget);
+    if (!info.exists())
     {
-        file.cancelWriting();
-        return nWritten;
+        return CErrorCode::Success;
     }
-    if (!FlushFile(file.handle()))
+    if (!info.isFile())
     {
-        const int nError = GetSystemError();
-        file.cancelWriting();
-        return nError;
+        return CErrorCode::NotAFile;
     }
-    if (!file.commit())
+    return info.isWritable() ? CErrorCode::Success : CErrorCode::NoPermission;
+}
+
+/// A complete and flushed file under a name of its own beside the target, with the attributes of a model that need not
+/// exist.
+int WriteTemporary(const QString& strTarget, const QString& strModel, const QByteArray& content, QString& strTemporary)
+{
+    QFile file;
+    int nResult = CErrorCode::FileExists;
+    while (nResult == CErrorCode::FileExists)
     {
-        return GetSystemError();
+        strTemporary = GetTemporaryName(strTarget);
+        nResult = OpenNew(strTemporary, file);
     }
-    // The new file is complete; only its name may not be on the disk yet.
-    return FlushFolder(QFileInfo(QFileInfo(strFile).canonicalFilePath()).path()) ? int(CErrorCode::Success)
-                                                                                 : GetSystemError();
+    if (nResult != CErrorCode::Success)
+    {
+        return nResult;
+    }
+    if (QFileInfo(strModel).isFile())
+    {
+        nResult = CopyAttributes(strModel, file);
+    }
+    if (nResult == CErrorCode::Success)
+    {
+        nResult = WriteAll(file, content);
+    }
+    if (nResult == CErrorCode::Success && !FlushFile(file.handle()))
+    {
+        nResult = GetSystemError();
+    }
+    if (nResult != CErrorCode::Success)
+    {
+        file.close();
+        QFile::remove(strTemporary);
+    }
+    return nResult;
+}
+
+/// Takes a name that nobody has, so that it may be written over.
+int ReserveName(const QString& strName)
+{
+    QFile file;
+    return OpenNew(strName, file);
+}
+
+int MoveToTarget(const QString& strTemporary, const QString& strTarget, CAtomicFile::Target eTarget)
+{
+    const bool bReserve = eTarget == CAtomicFile::NewName;
+    int nResult = bReserve ? ReserveName(strTarget) : int(CErrorCode::Success);
+    if (nResult == CErrorCode::Success)
+    {
+        nResult = MoveOver(strTemporary, strTarget);
+        if (nResult != CErrorCode::Success && bReserve)
+        {
+            QFile::remove(strTarget);
+        }
+    }
+    if (nResult != CErrorCode::Success)
+    {
+        QFile::remove(strTemporary);
+    }
+    return nResult;
+}
+
+int Place(const QString& strTarget, const QString& strModel, const QByteArray& content, CAtomicFile::Target eTarget)
+{
+    QString strTemporary;
+    const int nResult = WriteTemporary(strTarget, strModel, content, strTemporary);
+    return nResult == CErrorCode::Success ? MoveToTarget(strTemporary, strTarget, eTarget) : nResult;
+}
+
+} // namespace
+
+int CAtomicFile::Write(const QString& strFile, const QByteArray& content, Target eTarget)
+{
+    const QString strTarget = eTarget == FollowLink ? ResolveLinks(strFile) : strFile;
+    int nResult = eTarget == FollowLink ? CheckTarget(strTarget) : int(CErrorCode::Success);
+    if (nResult == CErrorCode::Success)
+    {
+        // A link that is to go says nothing of what comes in its place.
+        nResult = Place(strTarget, eTarget == FollowLink ? strTarget : QString(), content, eTarget);
+    }
+    return nResult == CErrorCode::Success ? Flush(strTarget) : nResult;
+}
+
+int CAtomicFile::Keep(const QString& strFile, const QByteArray& content, const QString& strName)
+{
+    const QString strTarget = ResolveLinks(strFile);
+    {
+        QFile file;
+        const int nResult = OpenToRead(strTarget, file);
+        if (nResult != CErrorCode::Success)
+        {
+            return nResult;
+        }
+        if (!FlushFile(file.handle()))
+        {
+            return GetSystemError();
+        }
+    }
+    const QString strTemporary = GetTemporaryName(strName);
+    if (Link(strTarget, strTemporary) != CErrorCode::Success)
+    {
+        return Place(strName, strTarget, content, ReplaceName);
+    }
+    const int nResult = MoveOver(strTemporary, strName);
+    QFile::remove(strTemporary); // which is still there, too, where both names stand for one file already
+    return nResult;
+}
+
+int CAtomicFile::Flush(const QString& strFile)
+{
+    return FlushFolder(QFileInfo(ResolveLinks(strFile)).absolutePath()) ? CErrorCode::Success : CErrorCode::NotYetSafe;
 }
 
 int CAtomicFile::Read(const QString& strFile, QByteArray& content)
 {
     content.clear();
-    const QFileInfo info(strFile);
-    if (!info.exists())
+    QFile file;
+    const int nOpened = OpenToRead(strFile, file);
+    if (nOpened != CErrorCode::Success)
     {
-        // A file behind a folder that may not be entered is not a missing one.
-        return info.isSymLink() || CanSeeInto(info.absolutePath()) ? CErrorCode::FileMissing : CErrorCode::NoPermission;
+        return nOpened;
     }
-    if (!info.isFile())
+    if (file.size() > g_nMaxSize)
     {
-        return CErrorCode::Unreadable;
-    }
-    QFile file(strFile);
-    ClearSystemError();
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-    {
-        const int nError = GetSystemError();
-        return nError == CErrorCode::FolderMissing ? int(CErrorCode::FileMissing) : nError; // it has gone meanwhile
+        return CErrorCode::TooLarge;
     }
     const QByteArray read = file.readAll();
     if (file.error() != QFileDevice::NoError)
@@ -83,6 +193,20 @@ int CAtomicFile::Remove(const QString& strFile)
     }
     ClearSystemError();
     return QFile::remove(strFile) ? int(CErrorCode::Success) : GetSystemError();
+}
+
+void CAtomicFile::RemoveLeftovers(const QString& strFile)
+{
+    const QFileInfo info(ResolveLinks(strFile));
+    const QDir folder = info.absoluteDir();
+    const QString strBegin = info.fileName() + QLatin1String(g_szTemporary);
+    for (const QString& strName : folder.entryList(QDir::Files | QDir::Hidden | QDir::System))
+    {
+        if (strName.startsWith(strBegin) && strName.size() == strBegin.size() + g_nNumberWidth)
+        {
+            QFile::remove(folder.filePath(strName));
+        }
+    }
 }
 
 } // namespace UICommonMdl

@@ -12,21 +12,47 @@ namespace UICommonMdl
 class UICOMMONMODULE_EXPORT CAtomicFile
 {
 public:
+    /// What a file that is to be written may take the place of.
+    enum Target
+    {
+        FollowLink,  ///< a file, or the file that a link of that name leads to; the link stays
+        ReplaceName, ///< whatever has that name, a link itself included
+        NewName      ///< nothing
+    };
+
+    /// The largest file that Read takes, in bytes.
+    static constexpr qint64 g_nMaxSize = 64 * 1024 * 1024;
+
     /// Replaces a file, or makes a new one: temporary file in the same folder, flush to the disk, rename over the old
-    /// file, flush of the folder. An existing file keeps its permissions; a symbolic link keeps pointing at it.
-    /// After a failure the old file is as it was and no temporary file is left; only where the very last step fails,
-    /// the flush of the folder, the new file stands there already.
+    /// file, flush of the folder. An existing file keeps its permissions, and its owner where the system lets this
+    /// user. After a failure the old file is as it was and no temporary file is left.
     ///
-    /// \return CErrorCode::Success, or DiskFull, NoPermission, FolderMissing, IoError
-    static int Write(const QString& strFile, const QByteArray& content);
+    /// \return CErrorCode::Success, or DiskFull, NoPermission, FolderMissing, IoError, NotAFile, FileExists (of
+    /// NewName);
+    ///         NotYetSafe when the new file stands there and only its name may not be on the disk yet
+    static int Write(const QString& strFile, const QByteArray& content, Target eTarget = FollowLink);
+
+    /// Makes a file's content stay under a second name, which loses what it stood for, when the file is replaced by
+    /// Write. The content is on the disk then; the name is with the next flush of the folder, such as that of Write.
+    /// \param content  the content, for file systems where a file has one name
+    /// \return as Write
+    static int Keep(const QString& strFile, const QByteArray& content, const QString& strName);
+
+    /// Waits until what a Write with NotYetSafe has left is on the disk.
+    /// \return CErrorCode::Success or NotYetSafe
+    static int Flush(const QString& strFile);
 
     /// Reads a regular file; anything else (a folder, a device, a pipe) is not opened.
-    /// \return CErrorCode::Success, or FileMissing, NoPermission, Unreadable, IoError; \a content is then empty
+    /// \return CErrorCode::Success, or NoPermission, Unreadable, IoError, TooLarge; FileMissing only where nothing of
+    ///         that name exists. \a content is then empty
     static int Read(const QString& strFile, QByteArray& content);
 
     /// Removes a file; a folder stays.
-    /// \return CErrorCode::Success, also when there is no such file, or NoPermission, IoError
+    /// \return CErrorCode::Success, also when there is no such file, or NoPermission, IoError, NotAFile
     static int Remove(const QString& strFile);
+
+    /// Removes what killed writers of a file have left beside it. For a caller who knows that nobody is writing now.
+    static void RemoveLeftovers(const QString& strFile);
 };
 
 } // namespace UICommonMdl

@@ -23,6 +23,10 @@ constexpr SDescription g_arrDescriptions[] = {
     {CErrorCode::Unreadable, QT_TRANSLATE_NOOP("CErrorCode", "the file cannot be read and is left as it is")},
     {CErrorCode::ChangedElsewhere, QT_TRANSLATE_NOOP("CErrorCode", "the file was changed by another program")},
     {CErrorCode::FileMissing, QT_TRANSLATE_NOOP("CErrorCode", "the file does not exist")},
+    {CErrorCode::NotYetSafe, QT_TRANSLATE_NOOP("CErrorCode", "written, but not yet safe from a power cut")},
+    {CErrorCode::TooLarge, QT_TRANSLATE_NOOP("CErrorCode", "the file is too large")},
+    {CErrorCode::FileExists, QT_TRANSLATE_NOOP("CErrorCode", "there is a file of that name already")},
+    {CErrorCode::NotAFile, QT_TRANSLATE_NOOP("CErrorCode", "a folder or device has the name of the file")},
 };
 
 } // namespace

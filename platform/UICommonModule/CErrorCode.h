@@ -26,7 +26,11 @@ public:
         Damaged = 7,          ///< the document cannot be understood
         Unreadable = 8,       ///< the document exists but cannot be read, so it must not be overwritten
         ChangedElsewhere = 9, ///< another program has changed the document since it was read
-        FileMissing = 10      ///< the file does not exist
+        FileMissing = 10,     ///< the file does not exist
+        NotYetSafe = 11,      ///< the file is written, but a power cut may still undo that
+        TooLarge = 12,        ///< the file is larger than any that the client would write
+        FileExists = 13,      ///< there is a file of that name already
+        NotAFile = 14         ///< a folder or a device has the name that a file should have
     };
 
     /// A text extended by what is known of a code: "Failed to save config: the disk is full (code 2)".

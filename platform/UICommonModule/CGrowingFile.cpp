@@ -17,11 +17,17 @@ int CGrowingFile::MakeFolder(const QString& strFolder)
 int CGrowingFile::Create(const QString& strFile)
 {
     m_file.close();
-    m_file.setFileName(strFile);
     m_nSize = 0;
-    ClearSystemError();
-    return m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered) ? int(CErrorCode::Success)
-                                                                                          : GetSystemError();
+    const int nResult = OpenNew(strFile, m_file);
+    m_strPath = nResult == CErrorCode::Success ? strFile : QString();
+    return nResult;
+}
+
+int CGrowingFile::RemoveIfEmpty()
+{
+    const bool bEmpty = m_file.isOpen() && m_nSize == 0;
+    m_file.close();
+    return !bEmpty || QFile::remove(m_strPath) ? CErrorCode::Success : CErrorCode::IoError;
 }
 
 int CGrowingFile::Append(const QByteArray& content)

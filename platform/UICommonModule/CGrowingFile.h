@@ -19,20 +19,25 @@ public:
     static int MakeFolder(const QString& strFolder);
 
     /// Makes the file, and closes the one before. A file of that name is never touched.
-    /// \return as MakeFolder; IoError where there is such a file
+    /// \return as MakeFolder; FileExists where there is such a file, or a link of that name
     int Create(const QString& strFile);
 
     /// \return as MakeFolder; IoError without a file
     int Append(const QByteArray& content);
 
+    /// Closes the file, and removes it when nothing has been appended.
+    /// \return CErrorCode::Success or IoError
+    int RemoveIfEmpty();
+
     /// Bytes that have been appended since Create.
     qint64 GetSize() const { return m_nSize; }
 
     /// Path of the file; empty without one.
-    QString GetPath() const { return m_file.fileName(); }
+    QString GetPath() const { return m_strPath; }
 
 private:
     QFile m_file;
+    QString m_strPath;
     qint64 m_nSize = 0;
 };
 

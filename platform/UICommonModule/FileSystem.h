@@ -3,17 +3,43 @@
 #include <QByteArray>
 #include <QString>
 
+class QFile;
 class QFileDevice;
 
 namespace UICommonMdl
 {
 
-/// What the operating systems do differently below CAtomicFile and CGrowingFile.
+/// What the operating systems do differently below CAtomicFile and CGrowingFile. Every int is a CErrorCode. A file that
+/// is opened here does not know its name.
 
 void ClearSystemError();
 
 /// The last failure as a CErrorCode; never Success.
 int GetSystemError();
+
+/// Opens a regular file, unbuffered. Never waits: a pipe or a device is not opened.
+/// \return Success; FileMissing only where nothing of that name exists; Unreadable for anything that is no regular
+///         file, a link to nothing included; else what GetSystemError makes of the failure
+int OpenToRead(const QString& strFile, QFile& file);
+
+/// Makes an empty file under a name that nobody has yet, unbuffered; a link of that name is not followed.
+/// \return Success, FileExists, or what GetSystemError makes of the failure
+int OpenNew(const QString& strFile, QFile& file);
+
+/// Opens a file, made when it is missing, and takes the system's lock on it, which goes when the file is closed.
+/// A link or a pipe of that name, on which nobody can hold a lock, is replaced.
+/// \return Success; Locked when another process, or this one, holds it; else what GetSystemError makes of the failure
+int OpenLocked(const QString& strFile, QFile& file);
+
+/// Gives an open file the mode of another one, and its owner where the system lets this user.
+int CopyAttributes(const QString& strModel, QFile& file);
+
+/// Gives a file a name in the same folder, from which an older file of that name goes. A link of that name is replaced
+/// and not followed.
+int MoveOver(const QString& strFrom, const QString& strTo);
+
+/// Gives a file's content a second name that nobody has yet.
+int Link(const QString& strFile, const QString& strName);
 
 /// Writes all of it to an unbuffered file.
 /// \return CErrorCode::Success or what GetSystemError makes of the failure
@@ -24,8 +50,5 @@ bool FlushFile(int nHandle);
 
 /// Waits until the names in a folder are on the disk.
 bool FlushFolder(const QString& strFolder);
-
-/// Whether a folder's entries can be told apart from missing ones.
-bool CanSeeInto(const QString& strFolder);
 
 } // namespace UICommonMdl

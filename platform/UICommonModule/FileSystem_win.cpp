@@ -1,6 +1,10 @@
 #include "CErrorCode.h"
 #include "FileSystem.h"
 
+#include <QDir>
+#include <QFile>
+
+#include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 
@@ -11,6 +15,46 @@ namespace
 {
 
 constexpr DWORD g_nQuotaExceeded = 1295; // ERROR_DISK_QUOTA_EXCEEDED, which some SDKs do not declare
+
+std::wstring Native(const QString& strPath)
+{
+    return QDir::toNativeSeparators(strPath).toStdWString();
+}
+
+int Adopt(HANDLE hFile, int nFlags, QIODevice::OpenMode eMode, QFile& file)
+{
+    const int nHandle = ::_open_osfhandle(reinterpret_cast<intptr_t>(hFile), nFlags);
+    if (nHandle < 0)
+    {
+        ::CloseHandle(hFile);
+        return CErrorCode::IoError;
+    }
+    if (!file.open(nHandle, eMode | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle))
+    {
+        ::_close(nHandle);
+        return CErrorCode::IoError;
+    }
+    return CErrorCode::Success;
+}
+
+/// Why a file could not be opened to be read.
+int GetReadError(const std::wstring& path)
+{
+    const DWORD nError = ::GetLastError();
+    if (nError == ERROR_FILE_NOT_FOUND || nError == ERROR_PATH_NOT_FOUND)
+    {
+        // A link that leads nowhere is there all the same.
+        return ::GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES ? CErrorCode::FileMissing
+                                                                             : CErrorCode::Unreadable;
+    }
+    const DWORD nAttributes = ::GetFileAttributesW(path.c_str());
+    if (nAttributes != INVALID_FILE_ATTRIBUTES && (nAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+    {
+        return CErrorCode::Unreadable;
+    }
+    ::SetLastError(nError);
+    return GetSystemError();
+}
 
 } // namespace
 
@@ -34,9 +78,75 @@ int GetSystemError()
     case ERROR_PATH_NOT_FOUND:
     case ERROR_FILE_NOT_FOUND:
         return CErrorCode::FolderMissing;
+    case ERROR_FILE_EXISTS:
+    case ERROR_ALREADY_EXISTS:
+        return CErrorCode::FileExists;
     default:
         return CErrorCode::IoError;
     }
+}
+
+int OpenToRead(const QString& strFile, QFile& file)
+{
+    const std::wstring path = Native(strFile);
+    const HANDLE hFile =
+        ::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (hFile == INVALID_HANDLE_VALUE)
+    {
+        return GetReadError(path);
+    }
+    if (::GetFileType(hFile) != FILE_TYPE_DISK)
+    {
+        ::CloseHandle(hFile);
+        return CErrorCode::Unreadable;
+    }
+    return Adopt(hFile, _O_RDONLY | _O_BINARY, QIODevice::ReadOnly, file);
+}
+
+int OpenNew(const QString& strFile, QFile& file)
+{
+    const HANDLE hFile = ::CreateFileW(Native(strFile).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
+                                       FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (hFile == INVALID_HANDLE_VALUE)
+    {
+        return GetSystemError();
+    }
+    return Adopt(hFile, _O_WRONLY | _O_BINARY, QIODevice::WriteOnly, file);
+}
+
+int OpenLocked(const QString& strFile, QFile& file)
+{
+    // Others may look who holds it; opening it to write, as everybody does who wants the lock, is what they may not.
+    const HANDLE hFile = ::CreateFileW(Native(strFile).c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                       OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (hFile == INVALID_HANDLE_VALUE)
+    {
+        return ::GetLastError() == ERROR_SHARING_VIOLATION ? int(CErrorCode::Locked) : GetSystemError();
+    }
+    return Adopt(hFile, _O_RDWR | _O_BINARY, QIODevice::ReadWrite, file);
+}
+
+int CopyAttributes(const QString& /*strModel*/, QFile& /*file*/)
+{
+    return CErrorCode::Success; // MoveOver leaves the access list that stands there
+}
+
+int MoveOver(const QString& strFrom, const QString& strTo)
+{
+    const std::wstring from = Native(strFrom);
+    const std::wstring to = Native(strTo);
+    const DWORD nFlags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    const bool bMoved =
+        ::ReplaceFileW(to.c_str(), from.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) != 0 ||
+        ::MoveFileExW(from.c_str(), to.c_str(), nFlags) != 0;
+    return bMoved ? int(CErrorCode::Success) : GetSystemError();
+}
+
+int Link(const QString& strFile, const QString& strName)
+{
+    return ::CreateHardLinkW(Native(strName).c_str(), Native(strFile).c_str(), nullptr) != 0 ? int(CErrorCode::Success)
+                                                                                             : GetSystemError();
 }
 
 bool FlushFile(int nHandle)
@@ -47,11 +157,6 @@ bool FlushFile(int nHandle)
 bool FlushFolder(const QString& /*strFolder*/)
 {
     return true; // the journal of the file system does this
-}
-
-bool CanSeeInto(const QString& /*strFolder*/)
-{
-    return true;
 }
 
 } // namespace UICommonMdl

@@ -1,35 +1,76 @@
 // A disk that fails, for programs that this library is preloaded into (LD_PRELOAD).
 //
-// KV_FAULT="<call>:<errno>:<text>" makes write, fsync or rename fail with ENOSPC or EIO for every file whose path
-// contains the text.
+// KV_FAULT="<call>:<error>:<text>[:<n>]" makes a call fail for every file whose path contains the text, or only the
+// n-th time, counted from 1. A text that ends in "$" must stand at the path's end. Calls: write, fsync, rename, link,
+// fchmod, flock. Errors: ENOSPC, EIO, EPERM, ENOLCK.
 
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
+#include <map>
+#include <sstream>
 #include <string>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
 namespace
 {
 
+std::vector<std::string> Split(const std::string& strText)
+{
+    std::vector<std::string> listParts;
+    std::istringstream stream(strText);
+    for (std::string strPart; std::getline(stream, strPart, ':');)
+    {
+        listParts.push_back(strPart);
+    }
+    return listParts;
+}
+
+bool Matches(const std::string& strPath, std::string strText)
+{
+    if (!strText.empty() && strText.back() == '$')
+    {
+        strText.pop_back();
+        return strPath.size() >= strText.size() &&
+               strPath.compare(strPath.size() - strText.size(), std::string::npos, strText) == 0;
+    }
+    return strPath.find(strText) != std::string::npos;
+}
+
+int ErrorOf(const std::string& strName)
+{
+    static const std::map<std::string, int> mapErrors = {
+        {"ENOSPC", ENOSPC}, {"EIO", EIO}, {"EPERM", EPERM}, {"ENOLCK", ENOLCK}};
+    return mapErrors.at(strName);
+}
+
 bool Fails(const char* pszCall, const std::string& strPath)
 {
+    static std::string strCounted; // the fault whose calls are counted
+    static int nCalls = 0;
+
     const char* pszFault = std::getenv("KV_FAULT");
-    if (!pszFault)
+    const std::vector<std::string> listParts = Split(pszFault ? pszFault : "");
+    if (listParts.size() < 3 || listParts[0] != pszCall || !Matches(strPath, listParts[2]))
     {
         return false;
     }
-    const std::string strFault = pszFault;
-    const std::size_t nFirst = strFault.find(':');
-    const std::size_t nSecond = strFault.find(':', nFirst + 1);
-    if (nSecond == std::string::npos || strFault.substr(0, nFirst) != pszCall ||
-        strPath.find(strFault.substr(nSecond + 1)) == std::string::npos)
+    if (strCounted != pszFault)
+    {
+        strCounted = pszFault;
+        nCalls = 0;
+    }
+    ++nCalls;
+    if (listParts.size() > 3 && nCalls != std::stoi(listParts[3]))
     {
         return false;
     }
-    errno = strFault.substr(nFirst + 1, nSecond - nFirst - 1) == "ENOSPC" ? ENOSPC : EIO;
+    errno = ErrorOf(listParts[1]);
     return true;
 }
 
@@ -71,4 +112,22 @@ VISIBLE int rename(const char* pszOld, const char* pszNew) noexcept
 {
     static const auto next = Next<int (*)(const char*, const char*)>("rename");
     return Fails("rename", pszNew) ? -1 : next(pszOld, pszNew);
+}
+
+VISIBLE int link(const char* pszFile, const char* pszName) noexcept
+{
+    static const auto next = Next<int (*)(const char*, const char*)>("link");
+    return Fails("link", pszName) ? -1 : next(pszFile, pszName);
+}
+
+VISIBLE int fchmod(int nHandle, mode_t nMode) noexcept
+{
+    static const auto next = Next<int (*)(int, mode_t)>("fchmod");
+    return Fails("fchmod", PathOf(nHandle)) ? -1 : next(nHandle, nMode);
+}
+
+VISIBLE int flock(int nHandle, int nOperation) noexcept
+{
+    static const auto next = Next<int (*)(int, int)>("flock");
+    return Fails("flock", PathOf(nHandle)) ? -1 : next(nHandle, nOperation);
 }

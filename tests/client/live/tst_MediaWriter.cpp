@@ -71,6 +71,7 @@ private slots:
     void PicturesLandInTheFolder();
     void SeveralPicturesAreReportedOnce();
     void ANameInUseIsNotOverwritten();
+    void ALinkInTheWayIsNotWrittenThrough();
     void PictureFailures_data();
     void PictureFailures();
 
@@ -80,6 +81,7 @@ private slots:
     void FramesWithoutARecordingAreIgnored();
     void ANewRecordingEndsTheOneBefore();
     void AFailedRecordingKeepsWhatWasWritten();
+    void ARecordingThatNeverGotAByteLeavesNoFile();
     void ARecordingFailsInAReadOnlyFolder();
     void WhatIsWaitingIsWrittenAtTheEnd();
 
@@ -188,6 +190,18 @@ void tst_MediaWriter::ANameInUseIsNotOverwritten()
     QTRY_COMPARE(saved.size(), 3);
     QCOMPARE(Files(), (QStringList{"01_20261121-030405-067-2.jpg", "01_20261121-030405-067-3.jpg",
                                    "01_20261121-030405-067.jpg"}));
+}
+
+void tst_MediaWriter::ALinkInTheWayIsNotWrittenThrough()
+{
+    // A link to a file that does not exist yet would be made by whoever writes to it.
+    const QString strVictim = m_pFolder->filePath("victim");
+    QVERIFY(QFile::link(strVictim, m_pFolder->filePath("01_20261121-030405-067.jpg")));
+    QSignalSpy pictures(m_pWriter.data(), &MediaWriter::SignalPicturesSaved);
+    m_pWriter->SavePictures(m_pFolder->path(), 1, {MakePicture()});
+    QTRY_COMPARE(pictures.size(), 1);
+    QVERIFY(!QFileInfo::exists(strVictim));
+    QVERIFY(Files().contains("01_20261121-030405-067-2.jpg"));
 }
 
 void tst_MediaWriter::PictureFailures_data()
@@ -318,6 +332,16 @@ void tst_MediaWriter::AFailedRecordingKeepsWhatWasWritten()
     QCOMPARE(saved.size(), 0);
     QCOMPARE(Files().size(), 1);
     QCOMPARE(ReadFrames(m_pFolder->filePath(Files().first())).size(), 1);
+}
+
+void tst_MediaWriter::ARecordingThatNeverGotAByteLeavesNoFile()
+{
+    qputenv("KV_FAULT", "write:ENOSPC:" + m_pFolder->path().toLocal8Bit());
+    QSignalSpy failed(m_pWriter.data(), &MediaWriter::SignalRecordingFailed);
+    m_pWriter->StartRecording(m_pFolder->path(), Name(), 1'000'000);
+    m_pWriter->AddFrame(Picture(Qt::red));
+    QTRY_COMPARE(failed.size(), 1);
+    QCOMPARE(Files(), QStringList());
 }
 
 void tst_MediaWriter::ARecordingFailsInAReadOnlyFolder()

@@ -11,6 +11,7 @@
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using UICommonMdl::CAtomicFile;
 using UICommonMdl::CErrorCode;
@@ -38,6 +39,17 @@ private slots:
     void ALimitOfSizeCountsAsFull();
     void FaultsLoseNothing_data();
     void FaultsLoseNothing();
+    void AFolderThatIsNotFlushedIsTold();
+    void TheOwnerStaysWhenRootWrites();
+    void ATakenNameIsLeftAlone_data();
+    void ATakenNameIsLeftAlone();
+    void ALinkIsReplacedWhereANameIsMeant();
+
+    void KeepingSurvivesTheNextWrite();
+    void KeepingTwiceLeavesNoTemporaryFile();
+    void KeepingCopiesWhereAFileHasOneName();
+    void AFolderInTheWayOfKeepingIsReported();
+    void LeftoversOfKilledWritersGo();
 
     void ReadsAFile();
     void AMissingFileIsReported();
@@ -45,6 +57,9 @@ private slots:
     void AFolderIsNotRead();
     void APipeIsNotOpened();
     void AFileInAClosedFolderIsNotMissing();
+    void ALinkToNothingIsNotMissing();
+    void ALinkToItselfIsNotMissing();
+    void ATooLargeFileIsNotRead();
 
     void RemovesAFile();
     void RemovingAMissingFileIsNoError();
@@ -66,7 +81,7 @@ private:
     }
     QStringList Names() const
     {
-        return QDir(m_pFolder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        return QDir(m_pFolder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     }
 
     QScopedPointer<QTemporaryDir> m_pFolder;
@@ -159,7 +174,7 @@ void tst_AtomicFile::AReadOnlyFileIsReported()
 void tst_AtomicFile::AFolderInPlaceOfTheFileIsReported()
 {
     QVERIFY(QDir().mkpath(Path()));
-    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::IoError));
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::NotAFile));
     QVERIFY(QFileInfo(Path()).isDir());
 }
 
@@ -288,8 +303,142 @@ void tst_AtomicFile::AFileOfAReadOnlyFolderIsNotRemoved()
 void tst_AtomicFile::AFolderIsNotRemoved()
 {
     QVERIFY(QDir().mkpath(Path()));
-    QCOMPARE(CAtomicFile::Remove(Path()), int(CErrorCode::IoError));
+    QCOMPARE(CAtomicFile::Remove(Path()), int(CErrorCode::NotAFile));
     QCOMPARE(Names(), QStringList("file.txt"));
+void tst_AtomicFile::AFolderThatIsNotFlushedIsTold()
+{
+    Put("old");
+    qputenv("KV_FAULT", "fsync:EIO:" + m_pFolder->path().toLocal8Bit() + '$');
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::NotYetSafe));
+    QCOMPARE(Get(), QByteArray("new"));
+    QCOMPARE(CAtomicFile::Flush(Path()), int(CErrorCode::NotYetSafe));
+    qunsetenv("KV_FAULT");
+    QCOMPARE(CAtomicFile::Flush(Path()), int(CErrorCode::Success));
+}
+
+void tst_AtomicFile::TheOwnerStaysWhenRootWrites()
+{
+    if (geteuid() != 0)
+    {
+        QSKIP("only root can write a file that stays another user's");
+    }
+    constexpr uid_t nUser = 12345;
+    Put("old");
+    QCOMPARE(chown(qPrintable(Path()), nUser, nUser), 0);
+    QVERIFY(QFile::setPermissions(Path(), QFile::ReadOwner | QFile::WriteOwner | QFile::WriteOther));
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::Success));
+    const QFileInfo info(Path());
+    QCOMPARE(info.ownerId(), uint(nUser));
+    QCOMPARE(info.groupId(), uint(nUser));
+    QVERIFY(info.permission(QFile::WriteOther));
+}
+
+void tst_AtomicFile::ATakenNameIsLeftAlone_data()
+{
+    QTest::addColumn<bool>("bLink");
+    QTest::newRow("a file") << false;
+    QTest::newRow("a link to nothing") << true;
+}
+
+void tst_AtomicFile::ATakenNameIsLeftAlone()
+{
+    QFETCH(bool, bLink);
+    if (bLink)
+    {
+        QVERIFY(QFile::link("elsewhere.txt", Path()));
+    }
+    else
+    {
+        Put("old");
+    }
+    QCOMPARE(CAtomicFile::Write(Path(), "new", CAtomicFile::NewName), int(CErrorCode::FileExists));
+    QCOMPARE(Get(), QByteArray(bLink ? "(none)" : "old"));
+    QCOMPARE(Names(), QStringList{"file.txt"});
+    QCOMPARE(CAtomicFile::Write(Path("free.txt"), "new", CAtomicFile::NewName), int(CErrorCode::Success));
+    QCOMPARE(Get("free.txt"), QByteArray("new"));
+}
+
+void tst_AtomicFile::ALinkIsReplacedWhereANameIsMeant()
+{
+    Put("old", "target.txt");
+    QVERIFY(QFile::link("target.txt", Path()));
+    QCOMPARE(CAtomicFile::Write(Path(), "new", CAtomicFile::ReplaceName), int(CErrorCode::Success));
+    QCOMPARE(Get("target.txt"), QByteArray("old"));
+    QVERIFY(!QFileInfo(Path()).isSymLink());
+    QCOMPARE(Get(), QByteArray("new"));
+}
+
+void tst_AtomicFile::KeepingSurvivesTheNextWrite()
+{
+    Put("old");
+    QCOMPARE(CAtomicFile::Keep(Path(), "old", Path("kept.txt")), int(CErrorCode::Success));
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::Success));
+    QCOMPARE(Get("kept.txt"), QByteArray("old"));
+    QCOMPARE(Get(), QByteArray("new"));
+    QCOMPARE(Names(), (QStringList{"file.txt", "kept.txt"}));
+}
+
+void tst_AtomicFile::KeepingTwiceLeavesNoTemporaryFile()
+{
+    Put("old");
+    QCOMPARE(CAtomicFile::Keep(Path(), "old", Path("kept.txt")), int(CErrorCode::Success));
+    QCOMPARE(CAtomicFile::Keep(Path(), "old", Path("kept.txt")), int(CErrorCode::Success));
+    QCOMPARE(Names(), (QStringList{"file.txt", "kept.txt"}));
+}
+
+void tst_AtomicFile::KeepingCopiesWhereAFileHasOneName()
+{
+    Put("old");
+    QVERIFY(QFile::setPermissions(Path(), QFile::ReadOwner | QFile::WriteOwner));
+    qputenv("KV_FAULT", "link:EPERM:" + m_pFolder->path().toLocal8Bit());
+    QCOMPARE(CAtomicFile::Keep(Path(), "old", Path("kept.txt")), int(CErrorCode::Success));
+    QCOMPARE(Get("kept.txt"), QByteArray("old"));
+    QCOMPARE(QFile::permissions(Path("kept.txt")), QFile::permissions(Path()));
+    QCOMPARE(Names(), (QStringList{"file.txt", "kept.txt"}));
+}
+
+void tst_AtomicFile::AFolderInTheWayOfKeepingIsReported()
+{
+    Put("old");
+    QVERIFY(QDir().mkpath(Path("kept.txt")));
+    QCOMPARE(CAtomicFile::Keep(Path(), "old", Path("kept.txt")), int(CErrorCode::NotAFile));
+    QCOMPARE(Names(), (QStringList{"file.txt", "kept.txt"}));
+}
+
+void tst_AtomicFile::LeftoversOfKilledWritersGo()
+{
+    Put("mine");
+    for (const char* pszName : {"file.txt.tmp-0123abcd", "file.txt.tmp-notes.txt", "other.txt.tmp-0123abcd"})
+    {
+        Put("left", pszName);
+    }
+    CAtomicFile::RemoveLeftovers(Path());
+    QCOMPARE(Names(), (QStringList{"file.txt", "file.txt.tmp-notes.txt", "other.txt.tmp-0123abcd"}));
+}
+
+void tst_AtomicFile::ALinkToNothingIsNotMissing()
+{
+    QVERIFY(QFile::link(Path("unmounted/file.txt"), Path()));
+    QByteArray content;
+    QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::Unreadable));
+}
+
+void tst_AtomicFile::ALinkToItselfIsNotMissing()
+{
+    QVERIFY(QFile::link("file.txt", Path()));
+    QByteArray content;
+    QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::Unreadable));
+}
+
+void tst_AtomicFile::ATooLargeFileIsNotRead()
+{
+    Put("");
+    QVERIFY(QFile::resize(Path(), CAtomicFile::g_nMaxSize + 1));
+    QByteArray content;
+    QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::TooLarge));
+    QVERIFY(QFile::resize(Path(), CAtomicFile::g_nMaxSize));
+    QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::Success));
+    QCOMPARE(content.size(), int(CAtomicFile::g_nMaxSize));
 }
 
 QTEST_GUILESS_MAIN(tst_AtomicFile)

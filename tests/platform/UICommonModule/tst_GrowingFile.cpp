@@ -57,7 +57,7 @@ void tst_GrowingFile::AFileOfThatNameIsNotTouched()
     QCOMPARE(first.Create(Path()), int(CErrorCode::Success));
     QCOMPARE(first.Append("kept"), int(CErrorCode::Success));
     CGrowingFile second;
-    QCOMPARE(second.Create(Path()), int(CErrorCode::IoError));
+    QCOMPARE(second.Create(Path()), int(CErrorCode::FileExists));
     QCOMPARE(second.Append("lost"), int(CErrorCode::IoError));
     QCOMPARE(Get(), QByteArray("kept"));
 }
