@@ -62,7 +62,7 @@ bool Print(const QByteArray& content)
 
 void ComplainAbout(const ConfigService& service)
 {
-    for (const QString& strProblem : service.GetProblems())
+    for (const QString& strProblem : service.GetFile().GetProblems())
     {
         Client::Complain(strProblem);
     }
@@ -171,7 +171,7 @@ bool Client::MakeDataFolder() const
 
 bool Client::MayWriteFile(const ConfigService& service) const
 {
-    const bool bOwn = service.IsOwnFile(m_commandLine.strFile);
+    const bool bOwn = service.GetFile().IsOwnFile(m_commandLine.strFile);
     if (bOwn)
     {
         Complain(tr("'%1' is the client's own file.").arg(m_commandLine.strFile));
@@ -210,7 +210,7 @@ int Client::ImportSettings() const
     {
         return g_nExitFailed;
     }
-    ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadWrite);
+    ConfigService service(m_commandLine.strDataFolder, SettingsFile::ReadWrite);
     const int nResult = service.Import(content, &strError);
     if (nResult != CErrorCode::Success)
     {
@@ -223,9 +223,9 @@ int Client::ImportSettings() const
 /// To the standard output, or to a file.
 int Client::WriteSettings() const
 {
-    const ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadOnly);
+    const ConfigService service(m_commandLine.strDataFolder, SettingsFile::ReadOnly);
     ComplainAbout(service);
-    if (!service.IsReadable())
+    if (service.GetFile().StandsIn())
     {
         return g_nExitFailed; // what stands in for the settings must not be taken for them
     }
@@ -316,7 +316,7 @@ int Client::Run(QApplication& application)
 
 int Client::OpenWindow()
 {
-    ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadWrite, &WriteAutoStart);
+    ConfigService service(m_commandLine.strDataFolder, SettingsFile::ReadWrite, &WriteAutoStart);
     service.SeedAlarms(*CAlarmType::Instance());
     if (!ProvideSounds())
     {
@@ -331,7 +331,7 @@ int Client::OpenWindow()
     QTimer::singleShot(0, &window, [this, &window] { window.OpenSettings(m_commandLine.nSection); });
     // Over the dialog, where the operator looks, and not behind it.
     QTimer::singleShot(g_nLayoutTime, &window, [&service] {
-        for (const QString& strProblem : service.GetProblems())
+        for (const QString& strProblem : service.GetFile().GetProblems())
         {
             KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(strProblem);
         }
@@ -341,7 +341,7 @@ int Client::OpenWindow()
 
 int Client::TakeScreenshot()
 {
-    ConfigService service(m_commandLine.strDataFolder, ConfigService::ReadOnly);
+    ConfigService service(m_commandLine.strDataFolder, SettingsFile::ReadOnly);
     if (!MayWriteFile(service))
     {
         return g_nExitFailed;

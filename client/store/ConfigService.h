@@ -1,13 +1,11 @@
 #pragma once
 
 #include "Sections.h"
-#include "SettingsDocument.h"
+#include "SettingsFile.h"
 
 #include <LocalConfig/interfaces/ILocalConfig.h>
 
 #include <QCoreApplication>
-#include <QLockFile>
-#include <QStringList>
 
 #include <functional>
 
@@ -19,11 +17,8 @@ class CAlarmType;
 namespace LocalConfigClient
 {
 
-/// The client's configuration service: nine sections, kept in one document of the data folder.
-///
-/// A save is all or nothing. The document is replaced as a whole, the one before it is kept beside it as the last good
-/// generation, and a lock keeps a second client of the same folder from writing. A damaged document is set aside under
-/// another name; one that cannot be read is never overwritten.
+/// The client's configuration service: nine sections, kept in one document of the data folder, see SettingsFile. A save
+/// is all or nothing.
 class ConfigService : public LocalConfigLogical::ILocalConfig
 {
     Q_DECLARE_TR_FUNCTIONS(ConfigService)
@@ -32,27 +27,16 @@ public:
     /// Writes or removes the system's auto-start entry; returns a CErrorCode.
     using AutoStartWriter = std::function<int(bool bEnable)>;
 
-    enum Mode
-    {
-        ReadOnly, ///< looks only; takes no lock, sets nothing aside, refuses to save
-        ReadWrite
-    };
-
-    /// Loads the document; GetProblems tells what was wrong with it.
-    ConfigService(const QString& strFolder, Mode eMode, AutoStartWriter autoStartWriter = {});
-    ~ConfigService();
+    /// Loads the document; GetFile tells what was wrong with it.
+    ConfigService(const QString& strFolder, SettingsFile::Mode eMode, AutoStartWriter autoStartWriter = {});
 
     LocalConfigLogical::IConfigSection* GetSection(int nSectionType) override;
 
-    /// \return CErrorCode::Success, or DiskFull, NoPermission, FolderMissing, IoError, Locked, Unreadable,
-    ///         ChangedElsewhere; the sections keep their records in any case
+    /// \return as SettingsFile::Save; the sections keep their records in any case
     int SaveAll() override;
 
-    /// Whether the records are those of the document, and not only stand in for one that cannot be read.
-    bool IsReadable() const { return m_eState == Usable; }
-
-    /// Whether a file is one that the client keeps in the data folder, and so no place for anything else.
-    bool IsOwnFile(const QString& strPath) const;
+    /// The document on the disk.
+    const SettingsFile& GetFile() const { return m_file; }
 
     /// Drops what the sections have taken but nobody has saved.
     void Revert();
@@ -62,7 +46,7 @@ public:
     void SeedAlarms(const UICommonMdl::CAlarmType& catalogue);
 
     /// The rights that the document takes from the user.
-    QSet<int> GetMissingRights() const { return m_document.GetMissingRights(); }
+    QSet<int> GetMissingRights() const { return m_file.GetDocument().GetMissingRights(); }
 
     /// How often a save was tried.
     int GetSaveAttempts() const { return m_nSaveAttempts; }
@@ -78,46 +62,20 @@ public:
     /// What is stored, as far as this process knows.
     const Settings& GetStored() const { return m_stored; }
 
-    /// What is wrong with the data folder, one translated line each.
-    const QStringList& GetProblems() const { return m_listProblems; }
-
     /// Called after a successful save, and for every problem that turns up later.
     void SetSavedHandler(std::function<void()> handler) { m_savedHandler = std::move(handler); }
-    void SetProblemHandler(std::function<void(const QString&)> handler) { m_problemHandler = std::move(handler); }
+    void SetProblemHandler(SettingsFile::ProblemHandler handler) { m_file.SetProblemHandler(std::move(handler)); }
 
 private:
-    enum State
-    {
-        Usable,
-        Unreadable ///< there is a document that must not be overwritten
-    };
-
-    void Load();
-    bool LoadLastGood();
-    bool SetAside();
-    int TakeLock();
     int Save(const SettingsDocument* pImported);
-    int WriteGenerations(const SettingsDocument* pImported);
-    int TakeOverFromDisk(QByteArray& onDisk);
-    QByteArray Compose(const SettingsDocument* pImported);
     void ApplyAutoStart(bool bBefore);
-    void Report(const QString& strProblem);
-    QString GetPath(const char* pszName) const;
 
-    QString m_strFolder;
-    Mode m_eMode;
+    SettingsFile m_file;
     AutoStartWriter m_autoStartWriter;
-    QLockFile m_lock;
-    State m_eState = Usable;
-    bool m_bLoadedWithoutLock = false; // so that somebody else may have written since
     int m_nSaveAttempts = 0;
-    SettingsDocument m_document;
-    QByteArray m_onDisk; // the document as it was last read or written
     Settings m_stored;
     Settings m_working;
-    QStringList m_listProblems;
     std::function<void()> m_savedHandler;
-    std::function<void(const QString&)> m_problemHandler;
 
     BasicSection m_basic{m_working.basic};
     RecordSection<LocalConfigLogical::IVideoSection, LocalConfigLogical::VideoConfigInfo> m_video{m_working.video};

@@ -154,44 +154,15 @@
 <context>
     <name>ConfigService</name>
     <message>
-        <source>Another client uses this data folder; changes cannot be saved meanwhile.</source>
-        <translation>另一个客户端正在使用此数据文件夹，在此期间无法保存更改。</translation>
-    </message>
-    <message>
-        <source>The data folder cannot be written: %1. Changes cannot be saved.</source>
-        <translation>无法写入数据文件夹：%1。更改无法保存。</translation>
-    </message>
-    <message>
-        <source>The settings file is missing; the last good settings are used.</source>
-        <translation>设置文件丢失，已使用最近一次的正常设置。</translation>
-    </message>
-    <message>
-        <source>The settings file cannot be read: %1. Changes cannot be saved.</source>
-        <translation>无法读取设置文件：%1。更改无法保存。</translation>
-    </message>
-    <message>
-        <source>The settings file is from a newer version. Changes cannot be saved.</source>
-        <translation>设置文件来自更新的版本。更改无法保存。</translation>
-    </message>
-    <message>
-        <source>The settings file is damaged (%1); the last good settings are used. %2</source>
-        <translation>设置文件已损坏（%1），已使用最近一次的正常设置。%2</translation>
-    </message>
-    <message>
-        <source>The settings file is damaged (%1); the default settings are used. %2</source>
-        <translation>设置文件已损坏（%1），已使用默认设置。%2</translation>
-    </message>
-    <message>
-        <source>It was set aside.</source>
-        <translation>该文件已另存。</translation>
-    </message>
-    <message>
         <source>The auto-start entry could not be changed: %1.</source>
         <translation>无法更改自动启动项：%1。</translation>
     </message>
+</context>
+<context>
+    <name>FolderLock</name>
     <message>
-        <source>The settings file was damaged meanwhile and was set aside.</source>
-        <translation>设置文件期间已损坏，已另存。</translation>
+        <source>process %1 on %2</source>
+        <translation>%2 上的进程 %1</translation>
     </message>
 </context>
 <context>
@@ -342,6 +313,53 @@
     <message>
         <source>impossible value of %1</source>
         <translation>%1 的值不合法</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsFile</name>
+    <message>
+        <source>Another client uses this data folder; changes cannot be saved meanwhile.</source>
+        <translation>另一个客户端正在使用此数据文件夹，在此期间无法保存更改。</translation>
+    </message>
+    <message>
+        <source>Another client (%1) uses this data folder; changes cannot be saved meanwhile.</source>
+        <translation>另一个客户端（%1）正在使用此数据文件夹，在此期间无法保存更改。</translation>
+    </message>
+    <message>
+        <source>The data folder cannot be written: %1. Changes cannot be saved.</source>
+        <translation>无法写入数据文件夹：%1。更改无法保存。</translation>
+    </message>
+    <message>
+        <source>The settings file is missing; the last good settings are used.</source>
+        <translation>设置文件丢失，已使用最近一次的正常设置。</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be read: %1. Changes cannot be saved.</source>
+        <translation>无法读取设置文件：%1。更改无法保存。</translation>
+    </message>
+    <message>
+        <source>The settings file is from a newer version. Changes cannot be saved.</source>
+        <translation>设置文件来自更新的版本。更改无法保存。</translation>
+    </message>
+    <message>
+        <source>The settings file is damaged (%1); the last good settings are used. %2</source>
+        <translation>设置文件已损坏（%1），已使用最近一次的正常设置。%2</translation>
+    </message>
+    <message>
+        <source>The settings file is damaged (%1); the default settings are used. %2</source>
+        <translation>设置文件已损坏（%1），已使用默认设置。%2</translation>
+    </message>
+    <message>
+        <source>It was set aside.</source>
+        <translation>该文件已另存。</translation>
+    </message>
+    <message>
+        <source>The settings file was damaged meanwhile and was set aside.</source>
+        <translation>设置文件期间已损坏，已另存。</translation>
+    </message>
+    <message>
+        <source>The settings file is missing and the last good settings cannot be used; the default settings are used.</source>
+        <translation>设置文件丢失，最近一次的正常设置也无法使用，已使用默认设置。</translation>
     </message>
 </context>
 </TS>

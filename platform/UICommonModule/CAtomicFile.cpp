@@ -25,17 +25,6 @@ QString GetTemporaryName(const QString& strFile)
            QStringLiteral("%1").arg(nNumber, g_nNumberWidth, 16, QLatin1Char('0'));
 }
 
-/// Where a chain of links ends, whether or not something is there.
-QString ResolveLinks(const QString& strFile)
-{
-    QString strResolved = strFile;
-    for (int n = 0; n < g_nMaxLinks && QFileInfo(strResolved).isSymLink(); ++n)
-    {
-        strResolved = QFileInfo(strResolved).symLinkTarget();
-    }
-    return strResolved;
-}
-
 /// Whether a name may be written over.
 int CheckTarget(const QString& strTarget)
 {
@@ -123,7 +112,7 @@ int Place(const QString& strTarget, const QString& strModel, const QByteArray& c
 
 int CAtomicFile::Write(const QString& strFile, const QByteArray& content, Target eTarget)
 {
-    const QString strTarget = eTarget == FollowLink ? ResolveLinks(strFile) : strFile;
+    const QString strTarget = eTarget == FollowLink ? GetTarget(strFile) : strFile;
     int nResult = eTarget == FollowLink ? CheckTarget(strTarget) : int(CErrorCode::Success);
     if (nResult == CErrorCode::Success)
     {
@@ -135,7 +124,7 @@ int CAtomicFile::Write(const QString& strFile, const QByteArray& content, Target
 
 int CAtomicFile::Keep(const QString& strFile, const QByteArray& content, const QString& strName)
 {
-    const QString strTarget = ResolveLinks(strFile);
+    const QString strTarget = GetTarget(strFile);
     {
         QFile file;
         const int nResult = OpenToRead(strTarget, file);
@@ -160,7 +149,17 @@ int CAtomicFile::Keep(const QString& strFile, const QByteArray& content, const Q
 
 int CAtomicFile::Flush(const QString& strFile)
 {
-    return FlushFolder(QFileInfo(ResolveLinks(strFile)).absolutePath()) ? CErrorCode::Success : CErrorCode::NotYetSafe;
+    return FlushFolder(QFileInfo(GetTarget(strFile)).absolutePath()) ? CErrorCode::Success : CErrorCode::NotYetSafe;
+}
+
+QString CAtomicFile::GetTarget(const QString& strFile)
+{
+    QString strTarget = strFile;
+    for (int n = 0; n < g_nMaxLinks && QFileInfo(strTarget).isSymLink(); ++n)
+    {
+        strTarget = QFileInfo(strTarget).symLinkTarget();
+    }
+    return strTarget;
 }
 
 int CAtomicFile::Read(const QString& strFile, QByteArray& content)
@@ -197,7 +196,7 @@ int CAtomicFile::Remove(const QString& strFile)
 
 void CAtomicFile::RemoveLeftovers(const QString& strFile)
 {
-    const QFileInfo info(ResolveLinks(strFile));
+    const QFileInfo info(GetTarget(strFile));
     const QDir folder = info.absoluteDir();
     const QString strBegin = info.fileName() + QLatin1String(g_szTemporary);
     for (const QString& strName : folder.entryList(QDir::Files | QDir::Hidden | QDir::System))

@@ -51,6 +51,9 @@ public:
     /// \return CErrorCode::Success, also when there is no such file, or NoPermission, IoError, NotAFile
     static int Remove(const QString& strFile);
 
+    /// Where a chain of links ends, whether or not something is there; a file that is no link is its own target.
+    static QString GetTarget(const QString& strFile);
+
     /// Removes what killed writers of a file have left beside it. For a caller who knows that nobody is writing now.
     static void RemoveLeftovers(const QString& strFile);
 };

@@ -41,7 +41,7 @@ void tst_MainWindow::SavingShowsSplitAndScaleAtOnce()
         QCOMPARE(window.findChild<SplitView*>()->GetSplit(), 13);
         QCOMPARE(window.findChild<SplitView*>()->GetDisplayScale(), 0);
     }
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     UserManager users({}, nullptr);
     const MainWindow window(service, users);
     QCOMPARE(window.findChild<SplitView*>()->GetSplit(), 13);
@@ -50,7 +50,7 @@ void tst_MainWindow::SavingShowsSplitAndScaleAtOnce()
 
 void tst_MainWindow::TheWindowShowsTheSettings()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     UserManager users({}, nullptr);
     MainWindow window(service, users);
     QCOMPARE(window.findChild<SplitView*>()->GetSplit(), 4);
@@ -71,7 +71,7 @@ void tst_MainWindow::TheTimeZoneIsShownWhenAskedFor()
     Settings settings;
     settings.basic.showTimeZone = bShow;
     Store(settings);
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     UserManager users({}, nullptr);
     const MainWindow window(service, users);
     QCOMPARE(window.findChild<QLabel*>("timeZone")->text().startsWith("UTC"), bShow);

@@ -218,8 +218,8 @@ void tst_SettingsInTheClient::CancelKeepsWhatIsStored()
 
 void tst_SettingsInTheClient::ASecondClientIsToldOnSaving()
 {
-    const ConfigService first(m_pFolder->path(), ConfigService::ReadWrite);
-    ConfigService second(m_pFolder->path(), ConfigService::ReadWrite);
+    const ConfigService first(m_pFolder->path(), SettingsFile::ReadWrite);
+    ConfigService second(m_pFolder->path(), SettingsFile::ReadWrite);
     UserManager users({}, nullptr);
     MainWindow window(second, users);
     window.show();
@@ -238,7 +238,7 @@ void tst_SettingsInTheClient::TheDialogLocksAndUnlocksWithTheConnection()
     LoginManager loginManager("127.0.0.1", nPort, LoginManager::BackOff{10, 40});
     QTRY_VERIFY(server.hasPendingConnections());
 
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     UserManager users({}, &loginManager);
     MainWindow window(service, users);
     window.show();
@@ -263,7 +263,7 @@ void tst_SettingsInTheClient::TheDialogOpensLockedWhileDisconnected()
     const quint16 nPort = server.serverPort();
     server.close();
     LoginManager loginManager("127.0.0.1", nPort, LoginManager::BackOff{10, 40});
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     UserManager users({}, &loginManager);
     MainWindow window(service, users);
     window.show();
@@ -276,7 +276,7 @@ void tst_SettingsInTheClient::TheDialogOpensLockedWhileDisconnected()
 
 void tst_SettingsInTheClient::WithoutTheWallRight()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     UserManager users({26}, nullptr);
     MainWindow window(service, users);
     window.show();

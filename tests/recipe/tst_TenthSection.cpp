@@ -249,11 +249,11 @@ void tst_TenthSection::TheClientKeepsIt()
     NetworkConfigInfo record;
     record.useProxy = true;
     {
-        ConfigService service(folder.path(), ConfigService::ReadWrite);
+        ConfigService service(folder.path(), SettingsFile::ReadWrite);
         static_cast<INetworkSection*>(service.GetSection(SectionNetwork))->SetConfig(record);
         QCOMPARE(service.SaveAll(), 1);
     }
-    ConfigService service(folder.path(), ConfigService::ReadWrite);
+    ConfigService service(folder.path(), SettingsFile::ReadWrite);
     NetworkConfigInfo stored;
     static_cast<INetworkSection*>(service.GetSection(SectionNetwork))->GetConfig(stored);
     QVERIFY(stored.useProxy);

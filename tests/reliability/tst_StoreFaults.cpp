@@ -31,8 +31,8 @@ void tst_StoreFaults::AReadOnlyFolder()
     QStringList listProblems;
     int nWorking = 0;
     {
-        ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
-        listProblems = service.GetProblems();
+        ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+        listProblems = service.GetFile().GetProblems();
         SetClientSize(service, 0);
         nResult = service.SaveAll();
         nWorking = GetBasic(service).clientSize;
@@ -59,7 +59,7 @@ void tst_StoreFaults::AFullDisk()
     QFETCH(QByteArray, fault);
     QFETCH(int, nResult);
     Put(Document(1));
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     SetClientSize(service, 0);
     qputenv("KV_FAULT", fault + m_pFolder->path().toLocal8Bit());
     QCOMPARE(service.SaveAll(), nResult);
@@ -76,8 +76,8 @@ void tst_StoreFaults::AFullDiskForTheLock()
 {
     Put(Document(1));
     qputenv("KV_FAULT", "write:ENOSPC:" + m_pFolder->path().toLocal8Bit());
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
-    QCOMPARE(service.GetProblems().size(), 1);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(service.GetFile().GetProblems().size(), 1);
     SetClientSize(service, 0);
     QCOMPARE(service.SaveAll(), int(CErrorCode::DiskFull));
     qunsetenv("KV_FAULT");
@@ -88,7 +88,7 @@ void tst_StoreFaults::AFullDiskForTheLock()
 
 void tst_StoreFaults::SavedHandlerHearsOnlySuccess()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     int nSaved = 0;
     service.SetSavedHandler([&] { ++nSaved; });
     SetClientSize(service, 0);
@@ -104,10 +104,10 @@ void tst_StoreFaults::ALockThatCameLateDoesNotOverwrite()
 {
     // The first attempt at the lock fails for another reason than a second client; meanwhile one comes and saves.
     qputenv("KV_FAULT", "write:ENOSPC:" + m_pFolder->path().toLocal8Bit());
-    ConfigService late(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService late(m_pFolder->path(), SettingsFile::ReadWrite);
     qunsetenv("KV_FAULT");
     {
-        ConfigService other(m_pFolder->path(), ConfigService::ReadWrite);
+        ConfigService other(m_pFolder->path(), SettingsFile::ReadWrite);
         SetClientSize(other, 1);
         QCOMPARE(other.SaveAll(), 1);
     }

@@ -21,8 +21,8 @@ void tst_StoreKills::ACrashBetweenTheGenerations()
     // The last generation has been written, the document not: both are the old document then.
     Put(Document(1));
     Put(Document(1), "settings.json.bak");
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
-    QCOMPARE(service.GetProblems(), QStringList());
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(service.GetFile().GetProblems(), QStringList());
     QCOMPARE(GetBasic(service).clientSize, 1);
 }
 
@@ -33,14 +33,14 @@ void tst_StoreKills::TheLockOfADeadClientIsTakenOver()
     child.start(QCoreApplication::applicationFilePath(), {"--hold", Path("settings.lock")});
     QVERIFY(child.waitForReadyRead());
     {
-        const ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
-        QCOMPARE(service.GetProblems().size(), 1);
+        const ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+        QCOMPARE(service.GetFile().GetProblems().size(), 1);
     }
     child.kill();
     QVERIFY(child.waitForFinished());
     QVERIFY(QFile::exists(Path("settings.lock")));
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
-    QCOMPARE(service.GetProblems(), QStringList());
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(service.GetFile().GetProblems(), QStringList());
     SetClientSize(service, 0);
     QCOMPARE(service.SaveAll(), 1);
 }

@@ -65,7 +65,7 @@ protected:
     QStringList SetAside() const { return QDir(m_pFolder->path()).entryList({"settings.json.damaged-*"}, QDir::Files); }
     int SavedClientSize() const
     {
-        LocalConfigClient::ConfigService service(m_pFolder->path(), LocalConfigClient::ConfigService::ReadOnly);
+        LocalConfigClient::ConfigService service(m_pFolder->path(), LocalConfigClient::SettingsFile::ReadOnly);
         return GetBasic(service).clientSize;
     }
 

@@ -44,6 +44,22 @@
         <translation>文件不存在</translation>
     </message>
     <message>
+        <source>written, but not yet safe from a power cut</source>
+        <translation>已写入，但断电时仍可能丢失</translation>
+    </message>
+    <message>
+        <source>the file is too large</source>
+        <translation>文件过大</translation>
+    </message>
+    <message>
+        <source>there is a file of that name already</source>
+        <translation>已有同名文件</translation>
+    </message>
+    <message>
+        <source>a folder or device has the name of the file</source>
+        <translation>同名的文件夹或设备已存在</translation>
+    </message>
+    <message>
         <source>%1: %2 (code %3)</source>
         <translation>%1：%2（代码 %3）</translation>
     </message>

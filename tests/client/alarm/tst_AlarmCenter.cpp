@@ -26,7 +26,7 @@ constexpr int g_nMotion = 304; // of category 3
 struct SClient
 {
     explicit SClient(const QString& strFolder)
-        : service(strFolder, ConfigService::ReadWrite)
+        : service(strFolder, SettingsFile::ReadWrite)
         , users({}, nullptr)
     {
         service.SeedAlarms(*CAlarmType::Instance());

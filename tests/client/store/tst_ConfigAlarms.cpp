@@ -21,7 +21,7 @@ private slots:
 
 void tst_ConfigAlarms::AlarmSectionKeepsAWorkingRecord()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     auto* pAlarm = static_cast<IAlarmSection*>(service.GetSection(SectionAlarm));
     const auto loop = [pAlarm] {
         AlarmConfigInfo record;
@@ -44,7 +44,7 @@ void tst_ConfigAlarms::AlarmSectionKeepsAWorkingRecord()
 
 void tst_ConfigAlarms::AlarmDefaultsKeepTheKeys()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     auto* pAlarm = static_cast<IAlarmSection*>(service.GetSection(SectionAlarm));
     const AlarmConfigInfo changed = ChangedSettings().alarm;
     pAlarm->SetConfig(changed, true);
@@ -68,7 +68,7 @@ void tst_ConfigAlarms::AlarmDefaultsKeepTheKeys()
 
 void tst_ConfigAlarms::AlarmsThatAreToPersistOutsideASaveAreStored()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     auto* pAlarm = static_cast<IAlarmSection*>(service.GetSection(SectionAlarm));
     AlarmConfigInfo record;
     record.alarmSound = false;
@@ -84,7 +84,7 @@ void tst_ConfigAlarms::AlarmsThatAreToPersistOutsideASaveAreStored()
 
 void tst_ConfigAlarms::SeedsKeepWhatIsStored()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     auto* pAlarm = static_cast<IAlarmSection*>(service.GetSection(SectionAlarm));
     AlarmConfigInfo record;
     record.flashCategories = {{3, false}, {999, true}};
@@ -107,7 +107,7 @@ void tst_ConfigAlarms::SeedsKeepWhatIsStored()
     QCOMPARE(record.alarmSounds.count(3115), std::size_t(0)); // 2
     QCOMPARE(record.alarmSounds.at(2).defaultSound, std::string("analysis.wav"));
     QCOMPARE(service.SaveAll(), 1);
-    const ConfigService later(m_pFolder->path(), ConfigService::ReadOnly);
+    const ConfigService later(m_pFolder->path(), SettingsFile::ReadOnly);
     QCOMPARE(later.GetStored().alarm.alarmSounds.size(), record.alarmSounds.size());
 }
 

@@ -45,7 +45,7 @@ void tst_ConfigAutoStart::AutoStartFollowsASave()
     Put(Document(settings));
 
     QStringList listCalls;
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite, [&](bool bEnable) {
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite, [&](bool bEnable) {
         listCalls += bEnable ? "on" : "off";
         return int(CErrorCode::Success);
     });
@@ -66,7 +66,7 @@ void tst_ConfigAutoStart::AutoStartFollowsASave()
 
 void tst_ConfigAutoStart::AutoStartFailureIsTold()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite,
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite,
                           [](bool) { return int(CErrorCode::NoPermission); });
     QStringList listProblems;
     service.SetProblemHandler([&](const QString& strProblem) { listProblems += strProblem; });

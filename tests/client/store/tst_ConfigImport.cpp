@@ -22,7 +22,7 @@ private slots:
 void tst_ConfigImport::ImportKeepsUnknownKeys()
 {
     Put(R"({"version": 1, "mine": 42, "sections": {"basic": {"later": true}}})");
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     QCOMPARE(
         service.Import(R"({"version": 1, "theirs": 7, "sections": {"basic": {"newer": 1, "clientSize": 3}}})", nullptr),
         1);
@@ -37,19 +37,19 @@ void tst_ConfigImport::ImportReplacesEverything()
 {
     const QByteArray document = Document(ChangedSettings());
     {
-        ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+        ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
         QCOMPARE(service.Import(document, nullptr), 1);
         QVERIFY(service.GetStored() == ChangedSettings());
         QCOMPARE(service.Export(), document);
     }
-    const ConfigService service(m_pFolder->path(), ConfigService::ReadOnly);
+    const ConfigService service(m_pFolder->path(), SettingsFile::ReadOnly);
     QVERIFY(service.GetStored() == ChangedSettings());
 }
 
 void tst_ConfigImport::ImportOfADamagedDocumentChangesNothing()
 {
     Put(Document(1));
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     QString strError;
     QCOMPARE(service.Import("{", &strError), int(CErrorCode::Damaged));
     QVERIFY(!strError.isEmpty());
@@ -60,8 +60,8 @@ void tst_ConfigImport::ImportOfADamagedDocumentChangesNothing()
 void tst_ConfigImport::AFailedImportChangesNothing()
 {
     Put(Document(1));
-    const ConfigService first(m_pFolder->path(), ConfigService::ReadWrite);
-    ConfigService second(m_pFolder->path(), ConfigService::ReadWrite);
+    const ConfigService first(m_pFolder->path(), SettingsFile::ReadWrite);
+    ConfigService second(m_pFolder->path(), SettingsFile::ReadWrite);
     QCOMPARE(second.Import(Document(3), nullptr), int(CErrorCode::Locked));
     QCOMPARE(GetBasic(second).clientSize, 1);
     QCOMPARE(GetFile(), Document(1));

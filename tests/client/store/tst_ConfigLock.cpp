@@ -20,10 +20,10 @@ private slots:
 
 void tst_ConfigLock::ASecondClientCannotSave()
 {
-    ConfigService first(m_pFolder->path(), ConfigService::ReadWrite);
-    ConfigService second(m_pFolder->path(), ConfigService::ReadWrite);
-    QCOMPARE(first.GetProblems(), QStringList());
-    QCOMPARE(second.GetProblems().size(), 1);
+    ConfigService first(m_pFolder->path(), SettingsFile::ReadWrite);
+    ConfigService second(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(first.GetFile().GetProblems(), QStringList());
+    QCOMPARE(second.GetFile().GetProblems().size(), 1);
     SetClientSize(second, 0);
     QCOMPARE(second.SaveAll(), int(CErrorCode::Locked));
     QCOMPARE(GetBasic(second).clientSize, 0);
@@ -34,8 +34,8 @@ void tst_ConfigLock::ASecondClientCannotSave()
 
 void tst_ConfigLock::ASecondClientSavesOnceTheFirstHasGone()
 {
-    QScopedPointer<ConfigService> pFirst(new ConfigService(m_pFolder->path(), ConfigService::ReadWrite));
-    ConfigService second(m_pFolder->path(), ConfigService::ReadWrite);
+    QScopedPointer<ConfigService> pFirst(new ConfigService(m_pFolder->path(), SettingsFile::ReadWrite));
+    ConfigService second(m_pFolder->path(), SettingsFile::ReadWrite);
     pFirst.reset();
     SetClientSize(second, 0);
     QCOMPARE(second.SaveAll(), 1);
@@ -44,8 +44,8 @@ void tst_ConfigLock::ASecondClientSavesOnceTheFirstHasGone()
 
 void tst_ConfigLock::ASecondClientDoesNotOverwriteTheFirst()
 {
-    QScopedPointer<ConfigService> pFirst(new ConfigService(m_pFolder->path(), ConfigService::ReadWrite));
-    ConfigService second(m_pFolder->path(), ConfigService::ReadWrite);
+    QScopedPointer<ConfigService> pFirst(new ConfigService(m_pFolder->path(), SettingsFile::ReadWrite));
+    ConfigService second(m_pFolder->path(), SettingsFile::ReadWrite);
     SetClientSize(*pFirst, 1);
     QCOMPARE(pFirst->SaveAll(), 1);
     pFirst.reset();
@@ -57,12 +57,12 @@ void tst_ConfigLock::ASecondClientDoesNotOverwriteTheFirst()
 void tst_ConfigLock::LookingOnlyTakesNoLock()
 {
     Put("damaged");
-    ConfigService looking(m_pFolder->path(), ConfigService::ReadOnly);
-    QCOMPARE(looking.GetProblems().size(), 1);
+    ConfigService looking(m_pFolder->path(), SettingsFile::ReadOnly);
+    QCOMPARE(looking.GetFile().GetProblems().size(), 1);
     QCOMPARE(Names(), QStringList{"settings.json"});
     QCOMPARE(looking.SaveAll(), int(CErrorCode::NoPermission));
     QCOMPARE(GetFile(), QByteArray("damaged"));
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     QCOMPARE(SetAside().size(), 1);
 }
 

@@ -28,17 +28,17 @@ private slots:
 
 void tst_ConfigRecovery::AMissingDocumentStartsFromDefaults()
 {
-    ConfigService service(Path("new"), ConfigService::ReadOnly);
+    ConfigService service(Path("new"), SettingsFile::ReadOnly);
     QVERIFY(service.GetStored() == Settings());
-    QCOMPARE(service.GetProblems(), QStringList());
+    QCOMPARE(service.GetFile().GetProblems(), QStringList());
 }
 
 void tst_ConfigRecovery::AMissingDocumentWithALastGenerationUsesThat()
 {
     Put(Document(1), "settings.json.bak");
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     QCOMPARE(GetBasic(service).clientSize, 1);
-    QCOMPARE(service.GetProblems().size(), 1);
+    QCOMPARE(service.GetFile().GetProblems().size(), 1);
     SetClientSize(service, 3);
     QCOMPARE(service.SaveAll(), 1);
     QCOMPARE(SavedClientSize(), 3);
@@ -59,26 +59,26 @@ void tst_ConfigRecovery::ADamagedDocumentIsSetAside()
     Put(content);
     Put(Document(1), "settings.json.bak");
     {
-        ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+        ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
         QCOMPARE(GetBasic(service).clientSize, 1);
-        QCOMPARE(service.GetProblems().size(), 1);
-        QVERIFY(!service.GetProblems().first().contains('\n'));
+        QCOMPARE(service.GetFile().GetProblems().size(), 1);
+        QVERIFY(!service.GetFile().GetProblems().first().contains('\n'));
     }
     QCOMPARE(SetAside().size(), 1);
     QCOMPARE(GetFile(SetAside().first()), content);
     QCOMPARE(GetFile(), Document(1));
 
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
-    QCOMPARE(service.GetProblems(), QStringList());
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(service.GetFile().GetProblems(), QStringList());
     QCOMPARE(GetBasic(service).clientSize, 1);
 }
 
 void tst_ConfigRecovery::ADamagedDocumentWithoutALastGenerationUsesDefaults()
 {
     Put("damaged");
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     QVERIFY(service.GetStored() == Settings());
-    QCOMPARE(service.GetProblems().size(), 1);
+    QCOMPARE(service.GetFile().GetProblems().size(), 1);
     QCOMPARE(GetFile(SetAside().value(0)), QByteArray("damaged"));
     SetClientSize(service, 3);
     QCOMPARE(service.SaveAll(), 1);
@@ -90,7 +90,7 @@ void tst_ConfigRecovery::SettingAsideTwiceKeepsBoth()
     for (const char* pszContent : {"first", "second"})
     {
         Put(pszContent);
-        const ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+        const ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     }
     QSet<QByteArray> setContents;
     for (const QString& strName : SetAside())
@@ -104,7 +104,7 @@ void tst_ConfigRecovery::ADamagedDocumentIsNeverTheLastGeneration()
 {
     Put("damaged");
     Put(Document(1), "settings.json.bak");
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     SetClientSize(service, 3);
     QCOMPARE(service.SaveAll(), 1);
     QCOMPARE(GetFile("settings.json.bak"), Document(1));
@@ -113,7 +113,7 @@ void tst_ConfigRecovery::ADamagedDocumentIsNeverTheLastGeneration()
 void tst_ConfigRecovery::DamageWhileRunningIsSetAside()
 {
     Put(Document(1));
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     SetClientSize(service, 0);
     QCOMPARE(service.SaveAll(), 1); // keeps Document(1) as the last generation
     Put(QByteArray());
@@ -122,14 +122,14 @@ void tst_ConfigRecovery::DamageWhileRunningIsSetAside()
     QCOMPARE(SavedClientSize(), 3);
     QCOMPARE(SetAside().size(), 1);
     QCOMPARE(GetFile("settings.json.bak"), Document(1));
-    QCOMPARE(service.GetProblems().size(), 1);
+    QCOMPARE(service.GetFile().GetProblems().size(), 1);
 }
 
 void tst_ConfigRecovery::ADamagedLastGenerationIsNotUsed()
 {
     Put("damaged");
     Put("damaged, too", "settings.json.bak");
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     QVERIFY(service.GetStored() == Settings());
     QCOMPARE(GetFile("settings.json.bak"), QByteArray("damaged, too"));
 }
@@ -153,8 +153,8 @@ void tst_ConfigRecovery::AnUnreadableDocumentIsNotOverwritten()
         Put(Document(3));
         QVERIFY(QFile::setPermissions(Path("settings.json"), QFile::WriteOwner));
     }
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
-    QCOMPARE(service.GetProblems().size(), 1);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(service.GetFile().GetProblems().size(), 1);
     SetClientSize(service, 0);
     QCOMPARE(service.SaveAll(), int(CErrorCode::Unreadable));
     QCOMPARE(GetBasic(service).clientSize, 0);
@@ -169,8 +169,8 @@ void tst_ConfigRecovery::ANewerDocumentIsNotOverwritten()
 {
     const QByteArray newer = R"({"version": 2, "sections": {"basic": "elsewhere"}})";
     Put(newer);
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
-    QCOMPARE(service.GetProblems().size(), 1);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(service.GetFile().GetProblems().size(), 1);
     SetClientSize(service, 0);
     QCOMPARE(service.SaveAll(), int(CErrorCode::Unreadable));
     QCOMPARE(GetFile(), newer);

@@ -44,15 +44,15 @@ private slots:
 
 void tst_ConfigService::StartsWithDefaults()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     QVERIFY(service.GetStored() == Settings());
-    QCOMPARE(service.GetProblems(), QStringList());
+    QCOMPARE(service.GetFile().GetProblems(), QStringList());
     QVERIFY2(!QFile::exists(Path("settings.json")), "looking writes nothing");
 }
 
 void tst_ConfigService::EverySectionIsThere()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadOnly);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadOnly);
     QSet<IConfigSection*> setSections;
     for (int nType = SectionBasic; nType <= SectionSecurity; ++nType)
     {
@@ -69,12 +69,12 @@ void tst_ConfigService::EverySectionIsThere()
 void tst_ConfigService::ASaveOutlivesTheService()
 {
     {
-        ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+        ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
         SetAll(service, ChangedSettings());
         QCOMPARE(service.SaveAll(), 1);
         QVERIFY(service.GetStored() == ChangedSettings());
     }
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     QVERIFY(service.GetStored() == ChangedSettings());
     QCOMPARE(GetBasic(service).clientSize, ChangedSettings().basic.clientSize);
     QCOMPARE((Get<IRecordSection, RecordConfigInfo>(service, SectionRecord).recordPath),
@@ -83,7 +83,7 @@ void tst_ConfigService::ASaveOutlivesTheService()
 
 void tst_ConfigService::SetConfigAloneIsNotPersisted()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     SetClientSize(service, 0);
     QCOMPARE(GetBasic(service).clientSize, 0);
     QCOMPARE(SavedClientSize(), 2);
@@ -93,7 +93,7 @@ void tst_ConfigService::SetConfigAloneIsNotPersisted()
 void tst_ConfigService::ASaveWritesOneDocument()
 {
     {
-        ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+        ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
         SetClientSize(service, 0);
         QCOMPARE(service.SaveAll(), 1);
     }
@@ -102,7 +102,7 @@ void tst_ConfigService::ASaveWritesOneDocument()
 
 void tst_ConfigService::TheLastGenerationIsKept()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     SetClientSize(service, 0);
     service.SaveAll();
     const QByteArray first = GetFile();
@@ -114,7 +114,7 @@ void tst_ConfigService::TheLastGenerationIsKept()
 
 void tst_ConfigService::ASaveWithoutAChangeWritesNothing()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     SetClientSize(service, 0);
     service.SaveAll();
     SetClientSize(service, 1);
@@ -127,7 +127,7 @@ void tst_ConfigService::ASaveWithoutAChangeWritesNothing()
 void tst_ConfigService::UnknownKeysSurvive()
 {
     Put(R"({"version": 1, "mine": 42, "sections": {"basic": {"clientSize": 1, "later": true}}})");
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     SetClientSize(service, 3);
     QCOMPARE(service.SaveAll(), 1);
     QVERIFY(GetFile().contains("\"mine\": 42"));
@@ -137,7 +137,7 @@ void tst_ConfigService::UnknownKeysSurvive()
 
 void tst_ConfigService::KeysOfOthersThatComeMeanwhileSurvive()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     Put(R"({"version": 1, "theirs": 7, "sections": {}})");
     SetClientSize(service, 3);
     QCOMPARE(service.SaveAll(), 1);
@@ -147,7 +147,7 @@ void tst_ConfigService::KeysOfOthersThatComeMeanwhileSurvive()
 
 void tst_ConfigService::RevertDropsWhatNobodySaved()
 {
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     auto* pAlarm = static_cast<IAlarmSection*>(service.GetSection(SectionAlarm));
     AlarmConfigInfo record;
     record.loopSound = true;
