@@ -212,6 +212,13 @@ int Client::ImportSettings() const
     }
     ConfigService service(m_commandLine.strDataFolder, SettingsFile::ReadWrite);
     const int nResult = service.Import(content, &strError);
+    const QStringList& listProblems = service.GetFile().GetProblems();
+    if (nResult != CErrorCode::Success && !listProblems.isEmpty())
+    {
+        // What is wrong with the data folder says more than the code: who holds the lock, or which file cannot be read.
+        Complain(tr("Cannot import '%1': %2").arg(m_commandLine.strFile, listProblems.last()));
+        return g_nExitFailed;
+    }
     if (nResult != CErrorCode::Success)
     {
         return Fail(tr("Cannot import '%1'").arg(m_commandLine.strFile), nResult);

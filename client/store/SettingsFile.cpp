@@ -307,13 +307,9 @@ int SettingsFile::WriteGenerations(const QByteArray& onDisk, const QByteArray& c
     {
         return m_bNotYetSafe ? CAtomicFile::Flush(strDocument) : int(CErrorCode::Success);
     }
-    const int nKept =
-        onDisk.isEmpty() ? int(CErrorCode::Success) : CAtomicFile::Keep(strDocument, onDisk, GetPath(g_szLastGood));
-    if (nKept != CErrorCode::Success)
-    {
-        return nKept;
-    }
-    const int nWritten = CAtomicFile::Write(strDocument, content);
+    const int nWritten = onDisk.isEmpty()
+                             ? CAtomicFile::Write(strDocument, content)
+                             : CAtomicFile::WriteAndKeep(strDocument, content, GetPath(g_szLastGood), onDisk);
     if (IsStored(nWritten))
     {
         m_onDisk = content;

@@ -122,6 +122,31 @@ int CAtomicFile::Write(const QString& strFile, const QByteArray& content, Target
     return nResult == CErrorCode::Success ? Flush(strTarget) : nResult;
 }
 
+int CAtomicFile::WriteAndKeep(const QString& strFile, const QByteArray& content, const QString& strName,
+                              const QByteArray& before)
+{
+    // The step that a full disk refuses comes first, so that a refused write leaves both files as they were.
+    const QString strTarget = GetTarget(strFile);
+    int nResult = CheckTarget(strTarget);
+    QString strTemporary;
+    if (nResult == CErrorCode::Success)
+    {
+        nResult = WriteTemporary(strTarget, strTarget, content, strTemporary);
+    }
+    if (nResult != CErrorCode::Success)
+    {
+        return nResult;
+    }
+    nResult = Keep(strTarget, before, strName);
+    if (nResult != CErrorCode::Success)
+    {
+        QFile::remove(strTemporary);
+        return nResult;
+    }
+    nResult = MoveToTarget(strTemporary, strTarget, FollowLink);
+    return nResult == CErrorCode::Success ? Flush(strTarget) : nResult;
+}
+
 int CAtomicFile::Keep(const QString& strFile, const QByteArray& content, const QString& strName)
 {
     const QString strTarget = GetTarget(strFile);

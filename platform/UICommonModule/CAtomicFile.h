@@ -32,6 +32,12 @@ public:
     ///         NotYetSafe when the new file stands there and only its name may not be on the disk yet
     static int Write(const QString& strFile, const QByteArray& content, Target eTarget = FollowLink);
 
+    /// Write with FollowLink, whereby the file that is replaced stays under a second name. That name loses what it
+    /// stood for only when the new file is complete. \param before  the content that is replaced, see Keep \return as
+    /// Write
+    static int WriteAndKeep(const QString& strFile, const QByteArray& content, const QString& strName,
+                            const QByteArray& before);
+
     /// Makes a file's content stay under a second name, which loses what it stood for, when the file is replaced by
     /// Write. The content is on the disk then; the name is with the next flush of the folder, such as that of Write.
     /// \param content  the content, for file systems where a file has one name

@@ -245,6 +245,7 @@ void tst_TenthSection::ItsTextsAreTranslated()
 void tst_TenthSection::TheClientKeepsIt()
 {
     using LocalConfigClient::ConfigService;
+    using LocalConfigClient::SettingsFile;
     const QTemporaryDir folder;
     NetworkConfigInfo record;
     record.useProxy = true;

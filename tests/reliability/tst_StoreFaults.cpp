@@ -21,6 +21,8 @@ private slots:
     void AFullDiskForTheLock();
     void SavedHandlerHearsOnlySuccess();
     void ALockThatCameLateDoesNotOverwrite();
+    void AFolderThatIsNotFlushedIsToldAndFlushedNextTime();
+    void ASaveFlushesWhatItNeedsAndNoMore();
 };
 
 void tst_StoreFaults::AReadOnlyFolder()
@@ -74,14 +76,17 @@ void tst_StoreFaults::AFullDisk()
 
 void tst_StoreFaults::AFullDiskForTheLock()
 {
+    // Only who holds the lock cannot be written; that it is held counts all the same.
     Put(Document(1));
     qputenv("KV_FAULT", "write:ENOSPC:" + m_pFolder->path().toLocal8Bit());
     ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
-    QCOMPARE(service.GetFile().GetProblems().size(), 1);
+    QCOMPARE(service.GetFile().GetProblems(), QStringList());
     SetClientSize(service, 0);
     QCOMPARE(service.SaveAll(), int(CErrorCode::DiskFull));
     qunsetenv("KV_FAULT");
     QCOMPARE(GetFile(), Document(1));
+    ConfigService second(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(second.SaveAll(), int(CErrorCode::Locked));
     QCOMPARE(service.SaveAll(), 1);
     QCOMPARE(SavedClientSize(), 0);
 }
@@ -103,7 +108,7 @@ void tst_StoreFaults::SavedHandlerHearsOnlySuccess()
 void tst_StoreFaults::ALockThatCameLateDoesNotOverwrite()
 {
     // The first attempt at the lock fails for another reason than a second client; meanwhile one comes and saves.
-    qputenv("KV_FAULT", "write:ENOSPC:" + m_pFolder->path().toLocal8Bit());
+    qputenv("KV_FAULT", "flock:ENOLCK:" + m_pFolder->path().toLocal8Bit());
     ConfigService late(m_pFolder->path(), SettingsFile::ReadWrite);
     qunsetenv("KV_FAULT");
     {
@@ -114,6 +119,35 @@ void tst_StoreFaults::ALockThatCameLateDoesNotOverwrite()
     SetClientSize(late, 0);
     QCOMPARE(late.SaveAll(), int(CErrorCode::ChangedElsewhere));
     QCOMPARE(SavedClientSize(), 1);
+}
+
+void tst_StoreFaults::AFolderThatIsNotFlushedIsToldAndFlushedNextTime()
+{
+    Put(Document(1));
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    SetClientSize(service, 0);
+    qputenv("KV_FAULT", "fsync:EIO:" + m_pFolder->path().toLocal8Bit() + '$');
+    QCOMPARE(service.SaveAll(), int(CErrorCode::NotYetSafe));
+    // The document is there, and nobody thinks otherwise.
+    QCOMPARE(GetFile(), Document(0));
+    QCOMPARE(service.GetStored().basic.clientSize, 0);
+    QCOMPARE(service.SaveAll(), int(CErrorCode::NotYetSafe));
+    qunsetenv("KV_FAULT");
+    QCOMPARE(service.SaveAll(), 1);
+}
+
+void tst_StoreFaults::ASaveFlushesWhatItNeedsAndNoMore()
+{
+    // The last good generation, the document, the names of both.
+    for (int nFlush = 1; nFlush <= 4; ++nFlush)
+    {
+        Reset();
+        Put(Document(1));
+        ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+        SetClientSize(service, 0);
+        qputenv("KV_FAULT", "fsync:EIO:" + m_pFolder->path().toLocal8Bit() + ':' + QByteArray::number(nFlush));
+        QCOMPARE(service.SaveAll() == CErrorCode::Success, nFlush > 3);
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_StoreFaults)

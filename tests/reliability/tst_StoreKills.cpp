@@ -1,6 +1,7 @@
 #include "support/StoreFixture.h"
 
-#include <QLockFile>
+#include <UICommonModule/CErrorCode.h>
+
 #include <QProcess>
 
 using namespace LocalConfigClient;
@@ -32,6 +33,7 @@ void tst_StoreKills::TheLockOfADeadClientIsTakenOver()
     QProcess child;
     child.start(QCoreApplication::applicationFilePath(), {"--hold", Path("settings.lock")});
     QVERIFY(child.waitForReadyRead());
+    QCOMPARE(child.readLine(), QByteArray("held\n"));
     {
         const ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
         QCOMPARE(service.GetFile().GetProblems().size(), 1);
@@ -51,9 +53,8 @@ int main(int argc, char* argv[])
     const int nHold = application.arguments().indexOf("--hold");
     if (nHold > 0)
     {
-        QLockFile lock(application.arguments().value(nHold + 1));
-        lock.setStaleLockTime(0);
-        QTextStream(stdout) << (lock.tryLock(0) ? "held" : "failed") << Qt::endl;
+        FolderLock lock(application.arguments().value(nHold + 1));
+        QTextStream(stdout) << (lock.Take() == UICommonMdl::CErrorCode::Success ? "held" : "failed") << Qt::endl;
         return application.exec();
     }
     tst_StoreKills test;

@@ -205,7 +205,7 @@ void tst_AutoStart::AFolderInPlaceOfTheEntryIsReported()
     QVERIFY(QDir().mkpath(EntryPath()));
     const int nResult = AutoStart::Apply(false, g_strName, "/opt/client");
     QVERIFY(QDir().rmdir(EntryPath()));
-    QCOMPARE(nResult, int(CErrorCode::IoError));
+    QCOMPARE(nResult, int(CErrorCode::NotAFile));
 }
 
 QTEST_GUILESS_MAIN(tst_AutoStart)

@@ -2,6 +2,8 @@
 
 #include <UICommonModule/CErrorCode.h>
 
+#include <QSysInfo>
+
 using namespace LocalConfigClient;
 using UICommonMdl::CErrorCode;
 
@@ -23,7 +25,10 @@ void tst_ConfigLock::ASecondClientCannotSave()
     ConfigService first(m_pFolder->path(), SettingsFile::ReadWrite);
     ConfigService second(m_pFolder->path(), SettingsFile::ReadWrite);
     QCOMPARE(first.GetFile().GetProblems(), QStringList());
-    QCOMPARE(second.GetFile().GetProblems().size(), 1);
+    QCOMPARE(second.GetFile().GetProblems(),
+             QStringList(QString("Another client (process %1 on %2) uses this data folder; changes cannot be saved "
+                                 "meanwhile.")
+                             .arg(QString::number(QCoreApplication::applicationPid()), QSysInfo::machineHostName())));
     SetClientSize(second, 0);
     QCOMPARE(second.SaveAll(), int(CErrorCode::Locked));
     QCOMPARE(GetBasic(second).clientSize, 0);

@@ -97,7 +97,7 @@ void tst_ConfigService::ASaveWritesOneDocument()
         SetClientSize(service, 0);
         QCOMPARE(service.SaveAll(), 1);
     }
-    QCOMPARE(Names(), QStringList{"settings.json"});
+    QCOMPARE(Names(), (QStringList{"settings.json", "settings.lock"}));
 }
 
 void tst_ConfigService::TheLastGenerationIsKept()

@@ -305,6 +305,8 @@ void tst_AtomicFile::AFolderIsNotRemoved()
     QVERIFY(QDir().mkpath(Path()));
     QCOMPARE(CAtomicFile::Remove(Path()), int(CErrorCode::NotAFile));
     QCOMPARE(Names(), QStringList("file.txt"));
+}
+
 void tst_AtomicFile::AFolderThatIsNotFlushedIsTold()
 {
     Put("old");

@@ -1,0 +1,223 @@
+// The files of the data folder: what they are, whose they are, and what must never be written through.
+
+#include "support/StoreFixture.h"
+
+#include <UICommonModule/CErrorCode.h>
+
+using namespace LocalConfigClient;
+using UICommonMdl::CErrorCode;
+
+class tst_SettingsFile : public CStoreTest
+{
+    Q_OBJECT
+
+private slots:
+    void init() { Reset(); }
+
+    void ADocumentBehindALinkToNothingIsNotMissing();
+    void ADocumentThatIsMissingWithAnUnusableLastGenerationIsTold();
+    void DefaultsThatStandInAreKnown_data();
+    void DefaultsThatStandInAreKnown();
+    void ASavedDocumentNoLongerStandsIn();
+    void ADocumentThatIsALinkStaysOne_data();
+    void ADocumentThatIsALinkStaysOne();
+    void ADamagedDocumentBehindALinkIsKept();
+    void GenerationsKeepTheMode();
+    void ALinkInPlaceOfTheLastGenerationIsNotWrittenThrough();
+    void AFolderInPlaceOfTheLastGenerationRefusesTheSave();
+    void LeftoversOfKilledSavesGoAtTheNextStart();
+    void LeftoversStayWhileAnotherClientMayBeWriting();
+    void OwnFilesAreKnownBehindLinks_data();
+    void OwnFilesAreKnownBehindLinks();
+
+private:
+    QFile::Permissions Mode(const QString& strName) const { return QFile::permissions(Path(strName)); }
+};
+
+void tst_SettingsFile::ADocumentBehindALinkToNothingIsNotMissing()
+{
+    // The link may lead to a share that is not there now.
+    QVERIFY(QFile::link(Path("share/settings.json"), Path("settings.json")));
+    Put(Document(1), "settings.json.bak");
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(service.GetFile().GetProblems().size(), 1);
+    QVERIFY(service.GetFile().StandsIn());
+    QCOMPARE(GetBasic(service).clientSize, 1);
+    SetClientSize(service, 0);
+    QCOMPARE(service.SaveAll(), int(CErrorCode::Unreadable));
+    QVERIFY(QFileInfo(Path("settings.json")).isSymLink());
+    QVERIFY(!QFileInfo::exists(Path("settings.json")));
+}
+
+void tst_SettingsFile::ADocumentThatIsMissingWithAnUnusableLastGenerationIsTold()
+{
+    Put("damaged", "settings.json.bak");
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(service.GetFile().GetProblems().size(), 1);
+    QVERIFY(service.GetFile().GetProblems().first().contains("the last good settings cannot be used"));
+}
+
+void tst_SettingsFile::DefaultsThatStandInAreKnown_data()
+{
+    QTest::addColumn<QByteArray>("document");
+    QTest::addColumn<QByteArray>("lastGood");
+    QTest::addColumn<bool>("bStandsIn");
+    QTest::newRow("a first start") << QByteArray() << QByteArray() << false;
+    QTest::newRow("a good document") << Document(1) << QByteArray() << false;
+    QTest::newRow("missing, good before") << QByteArray() << Document(1) << false;
+    QTest::newRow("missing, damaged before") << QByteArray() << QByteArray("damaged") << true;
+    QTest::newRow("damaged, good before") << QByteArray("damaged") << Document(1) << false;
+    QTest::newRow("damaged, nothing before") << QByteArray("damaged") << QByteArray() << true;
+    QTest::newRow("damaged, damaged before") << QByteArray("damaged") << QByteArray("damaged") << true;
+}
+
+void tst_SettingsFile::DefaultsThatStandInAreKnown()
+{
+    QFETCH(QByteArray, document);
+    QFETCH(QByteArray, lastGood);
+    QFETCH(bool, bStandsIn);
+    if (!document.isEmpty())
+    {
+        Put(document);
+    }
+    if (!lastGood.isEmpty())
+    {
+        Put(lastGood, "settings.json.bak");
+    }
+    QCOMPARE(ConfigService(m_pFolder->path(), SettingsFile::ReadOnly).GetFile().StandsIn(), bStandsIn);
+    QCOMPARE(ConfigService(m_pFolder->path(), SettingsFile::ReadWrite).GetFile().StandsIn(), bStandsIn);
+}
+
+void tst_SettingsFile::ASavedDocumentNoLongerStandsIn()
+{
+    Put("damaged");
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QVERIFY(service.GetFile().StandsIn());
+    QCOMPARE(service.SaveAll(), 1);
+    QVERIFY(!service.GetFile().StandsIn());
+}
+
+void tst_SettingsFile::ADocumentThatIsALinkStaysOne_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("good") << Document(1);
+    QTest::newRow("damaged") << QByteArray("damaged");
+}
+
+void tst_SettingsFile::ADocumentThatIsALinkStaysOne()
+{
+    QFETCH(QByteArray, content);
+    QVERIFY(QDir().mkpath(Path("elsewhere")));
+    Put(content, "elsewhere/real.json");
+    QVERIFY(QFile::link("elsewhere/real.json", Path("settings.json")));
+    {
+        ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+        SetClientSize(service, 0);
+        QCOMPARE(service.SaveAll(), 1);
+    }
+    QVERIFY(QFileInfo(Path("settings.json")).isSymLink());
+    QCOMPARE(GetFile("elsewhere/real.json"), Document(0));
+    QCOMPARE(QDir(Path("elsewhere")).entryList(QDir::Files), QStringList{"real.json"});
+}
+
+void tst_SettingsFile::ADamagedDocumentBehindALinkIsKept()
+{
+    Put("damaged", "real.json");
+    QVERIFY(QFile::link("real.json", Path("settings.json")));
+    const ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(SetAside().size(), 1);
+    QCOMPARE(GetFile(SetAside().first()), QByteArray("damaged"));
+    QCOMPARE(GetFile("real.json"), Document(Settings()));
+}
+
+void tst_SettingsFile::GenerationsKeepTheMode()
+{
+    for (const QFile::Permissions mode :
+         {QFile::ReadOwner | QFile::WriteOwner, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup})
+    {
+        Reset();
+        Put(Document(1));
+        QVERIFY(QFile::setPermissions(Path("settings.json"), mode));
+        const QFile::Permissions before = Mode("settings.json");
+        {
+            ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+            SetClientSize(service, 0);
+            QCOMPARE(service.SaveAll(), 1);
+        }
+        QCOMPARE(Mode("settings.json"), before);
+        QCOMPARE(Mode("settings.json.bak"), before);
+        Put("damaged");
+        const ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+        QCOMPARE(Mode(SetAside().first()), before);
+    }
+}
+
+void tst_SettingsFile::ALinkInPlaceOfTheLastGenerationIsNotWrittenThrough()
+{
+    Put(Document(1));
+    Put("precious", "victim.txt");
+    QVERIFY(QFile::link("victim.txt", Path("settings.json.bak")));
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    SetClientSize(service, 0);
+    QCOMPARE(service.SaveAll(), 1);
+    QCOMPARE(GetFile("victim.txt"), QByteArray("precious"));
+    QCOMPARE(GetFile("settings.json.bak"), Document(1));
+}
+
+void tst_SettingsFile::AFolderInPlaceOfTheLastGenerationRefusesTheSave()
+{
+    Put(Document(1));
+    QVERIFY(QDir().mkpath(Path("settings.json.bak")));
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    SetClientSize(service, 0);
+    QCOMPARE(service.SaveAll(), int(CErrorCode::NotAFile));
+    QCOMPARE(GetFile(), Document(1));
+}
+
+void tst_SettingsFile::LeftoversOfKilledSavesGoAtTheNextStart()
+{
+    Put(Document(1));
+    for (const char* pszName :
+         {"settings.json.tmp-01234567", "settings.json.bak.tmp-89abcdef", "Localcfg.ini.tmp-00000000"})
+    {
+        Put("half a", pszName);
+    }
+    Put("mine", "settings.json.tmp-notes.txt");
+    const ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(Names(), (QStringList{"settings.json", "settings.json.tmp-notes.txt", "settings.lock"}));
+}
+
+void tst_SettingsFile::LeftoversStayWhileAnotherClientMayBeWriting()
+{
+    const ConfigService first(m_pFolder->path(), SettingsFile::ReadWrite);
+    Put("half a", "settings.json.tmp-01234567");
+    const ConfigService second(m_pFolder->path(), SettingsFile::ReadWrite);
+    QVERIFY(Names().contains("settings.json.tmp-01234567"));
+}
+
+void tst_SettingsFile::OwnFilesAreKnownBehindLinks_data()
+{
+    QTest::addColumn<QString>("strTarget");
+    QTest::addColumn<bool>("bOwn");
+    QTest::newRow("the document") << "settings.json" << true;
+    QTest::newRow("a document that is not there yet") << "settings.json.bak" << true;
+    QTest::newRow("the lock") << "settings.lock" << true;
+    QTest::newRow("a file of the user's") << "notes.json" << false;
+}
+
+void tst_SettingsFile::OwnFilesAreKnownBehindLinks()
+{
+    QFETCH(QString, strTarget);
+    QFETCH(bool, bOwn);
+    Put(Document(1));
+    const ConfigService service(m_pFolder->path(), SettingsFile::ReadOnly);
+    QCOMPARE(service.GetFile().IsOwnFile(Path(strTarget)), bOwn);
+    QTemporaryDir other;
+    QVERIFY(QFile::link(Path(strTarget), other.filePath("one")));
+    QVERIFY(QFile::link("one", other.filePath("two")));
+    QCOMPARE(service.GetFile().IsOwnFile(other.filePath("two")), bOwn);
+}
+
+QTEST_GUILESS_MAIN(tst_SettingsFile)
+
+#include "tst_SettingsFile.moc"
