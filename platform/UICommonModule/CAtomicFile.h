@@ -21,7 +21,7 @@ public:
     };
 
     /// The largest file that Read takes, in bytes.
-    static constexpr qint64 g_nMaxSize = 64 * 1024 * 1024;
+    static constexpr qint64 g_nMaxSize = qint64(64) * 1024 * 1024;
 
     /// Replaces a file, or makes a new one: temporary file in the same folder, flush to the disk, rename over the old
     /// file, flush of the folder. An existing file keeps its permissions, and its owner where the system lets this
