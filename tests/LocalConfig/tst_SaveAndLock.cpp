@@ -5,7 +5,6 @@
 #include <thread>
 
 using namespace LocalConfig;
-using KVGUI::KvToolListView;
 
 class tst_SaveAndLock : public QObject
 {

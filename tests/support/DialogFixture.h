@@ -18,24 +18,24 @@
 struct SBox
 {
     int nIndex;
+    int nMinimumHeight;
     const char* pszBox;
     const char* pszLayout;
-    int nMinimumHeight;
     const char* pszText;
     const char* pszPage;
     int nSectionType;
 };
 
 inline const SBox g_arrBoxes[] = {
-    {0, "m_gBBasic", "horizontalLayout_2", 462, "Basic", "m_pBasic", 1},
-    {1, "m_gBVideo", "horizontalLayout_3", 841, "Video", "m_pVideo", 2},
-    {2, "m_gBPlayback", "horizontalLayout_4", 168, "Record Playback", "m_pPlayback", 3},
-    {3, "m_gBCapture", "horizontalLayout_5", 446, "Snapshot", "m_pCapture", 4},
-    {4, "m_gBRecord", "horizontalLayout_6", 286, "Recording", "m_pRecord", 5},
-    {5, "m_gBAlarm", "horizontalLayout_8", 522, "Alarm", "m_pAlarm", 6},
-    {6, "m_gBTvwall", "horizontalLayout_9", 390, "Video Wall", "m_pTvWall", 8},
-    {7, "m_gBSecurity", "horizontalLayout_10", 84, "Security", "m_pSecurity", 9},
-    {8, "m_gShortcutKey", "horizontalLayout_7", 790, "Shortcut Keys", "m_pKey", 7},
+    {0, 462, "m_gBBasic", "horizontalLayout_2", "Basic", "m_pBasic", 1},
+    {1, 841, "m_gBVideo", "horizontalLayout_3", "Video", "m_pVideo", 2},
+    {2, 168, "m_gBPlayback", "horizontalLayout_4", "Record Playback", "m_pPlayback", 3},
+    {3, 446, "m_gBCapture", "horizontalLayout_5", "Snapshot", "m_pCapture", 4},
+    {4, 286, "m_gBRecord", "horizontalLayout_6", "Recording", "m_pRecord", 5},
+    {5, 522, "m_gBAlarm", "horizontalLayout_8", "Alarm", "m_pAlarm", 6},
+    {6, 390, "m_gBTvwall", "horizontalLayout_9", "Video Wall", "m_pTvWall", 8},
+    {7, 84, "m_gBSecurity", "horizontalLayout_10", "Security", "m_pSecurity", 9},
+    {8, 790, "m_gShortcutKey", "horizontalLayout_7", "Shortcut Keys", "m_pKey", 7},
 };
 
 inline const QStringList g_listPageOrder = {"Basic", "Video",       "Playback", "Snapshot", "Record",

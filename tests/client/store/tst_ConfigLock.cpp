@@ -4,6 +4,8 @@
 
 #include <QSysInfo>
 
+#include <optional>
+
 using namespace LocalConfigClient;
 using UICommonMdl::CErrorCode;
 
@@ -39,9 +41,9 @@ void tst_ConfigLock::ASecondClientCannotSave()
 
 void tst_ConfigLock::ASecondClientSavesOnceTheFirstHasGone()
 {
-    QScopedPointer<ConfigService> pFirst(new ConfigService(m_pFolder->path(), SettingsFile::ReadWrite));
+    std::optional<ConfigService> first(std::in_place, m_pFolder->path(), SettingsFile::ReadWrite);
     ConfigService second(m_pFolder->path(), SettingsFile::ReadWrite);
-    pFirst.reset();
+    first.reset();
     SetClientSize(second, 0);
     QCOMPARE(second.SaveAll(), 1);
     QCOMPARE(SavedClientSize(), 0);
@@ -49,11 +51,11 @@ void tst_ConfigLock::ASecondClientSavesOnceTheFirstHasGone()
 
 void tst_ConfigLock::ASecondClientDoesNotOverwriteTheFirst()
 {
-    QScopedPointer<ConfigService> pFirst(new ConfigService(m_pFolder->path(), SettingsFile::ReadWrite));
+    std::optional<ConfigService> first(std::in_place, m_pFolder->path(), SettingsFile::ReadWrite);
     ConfigService second(m_pFolder->path(), SettingsFile::ReadWrite);
-    SetClientSize(*pFirst, 1);
-    QCOMPARE(pFirst->SaveAll(), 1);
-    pFirst.reset();
+    SetClientSize(*first, 1);
+    QCOMPARE(first->SaveAll(), 1);
+    first.reset();
     SetClientSize(second, 0);
     QCOMPARE(second.SaveAll(), int(CErrorCode::ChangedElsewhere));
     QCOMPARE(SavedClientSize(), 1);

@@ -77,7 +77,7 @@ private slots:
 private:
     QString Put(const QByteArray& content) const
     {
-        const QString strPath = m_pFolder->filePath("types.xml");
+        QString strPath = m_pFolder->filePath("types.xml");
         QFile file(strPath);
         if (file.open(QIODevice::WriteOnly))
         {
