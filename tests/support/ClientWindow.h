@@ -71,7 +71,7 @@ protected:
 
 /// A client with a window "window" that is shown.
 #define SHOWN_CLIENT                                                                                                   \
-    LocalConfigClient::ConfigService service(m_pFolder->path(), LocalConfigClient::SettingsFile::ReadWrite);          \
+    LocalConfigClient::ConfigService service(m_pFolder->path(), LocalConfigClient::SettingsFile::ReadWrite);           \
     LocalConfigClient::UserManager users({}, nullptr);                                                                 \
     LocalConfigClient::MainWindow window(service, users);                                                              \
     window.show()
