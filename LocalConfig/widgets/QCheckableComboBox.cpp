@@ -3,6 +3,8 @@
 #include <KvGui/KvCheckBox.h>
 #include <KvGui/KvListWidget.h>
 
+#include <QKeyEvent>
+
 namespace LocalConfig
 {
 
@@ -10,6 +12,23 @@ namespace
 {
 
 constexpr int g_nMinItems = 2;
+
+bool ClosesTheList(const QKeyEvent& event)
+{
+    switch (event.key())
+    {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Escape:
+    case Qt::Key_F4:
+        return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        return event.modifiers() & Qt::AltModifier;
+    default:
+        return false;
+    }
+}
 
 } // namespace
 
@@ -19,6 +38,7 @@ QCheckableComboBox::QCheckableComboBox(QWidget* pParent)
     auto* pList = new KVGUI::KvListWidget(this);
     setModel(pList->model());
     setView(pList);
+    pList->installEventFilter(this);
     insertItem(0, tr("None"));
 }
 
@@ -62,6 +82,40 @@ void QCheckableComboBox::hidePopup()
     }
 }
 
+bool QCheckableComboBox::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    if (pWatched == this)
+    {
+        return QSkinCombox::eventFilter(pWatched, pEvent);
+    }
+    switch (pEvent->type())
+    {
+    case QEvent::Hide:
+        if (pWatched == view())
+        {
+            hidePopup(); // the window system may have closed the list
+        }
+        return false;
+    case QEvent::ShortcutOverride:
+        // Left to the base, the key would make the row under the cursor the box's current item.
+        if (ClosesTheList(*static_cast<QKeyEvent*>(pEvent)))
+        {
+            pEvent->accept();
+            return true;
+        }
+        return false;
+    case QEvent::KeyPress:
+        if (ClosesTheList(*static_cast<QKeyEvent*>(pEvent)))
+        {
+            hidePopup();
+            return true;
+        }
+        return false;
+    default:
+        return false;
+    }
+}
+
 KVGUI::KvListWidget* QCheckableComboBox::GetList() const
 {
     return static_cast<KVGUI::KvListWidget*>(view());
@@ -92,6 +146,7 @@ void QCheckableComboBox::BuildList()
         pItem->setFlags(Qt::ItemIsEnabled); // not selectable, so that clicks are the check box's
         pItem->setData(Qt::UserRole, it.key());
         GetList()->setItemWidget(pItem, pCheckBox);
+        pCheckBox->installEventFilter(this);
         connect(pCheckBox, &QCheckBox::clicked, this, &QCheckableComboBox::OnChecked);
     }
 }

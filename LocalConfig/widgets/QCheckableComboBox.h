@@ -44,6 +44,9 @@ public slots:
     void OnFinishOper();
     void OnListViewHide();
 
+protected:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+
 private:
     bool CanOpen() const;
     KVGUI::KvListWidget* GetList() const;

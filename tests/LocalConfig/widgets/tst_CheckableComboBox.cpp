@@ -8,9 +8,15 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <functional>
+#include <utility>
+
 using KVGUI::KvCheckBox;
 using KVGUI::KvListWidget;
 using LocalConfig::QCheckableComboBox;
+
+class tst_CheckableComboBox;
+Q_DECLARE_METATYPE(std::function<void(tst_CheckableComboBox&)>)
 
 class tst_CheckableComboBox : public QObject
 {
@@ -38,6 +44,12 @@ private slots:
     void ThePopupStaysOpenWhilePicking();
     void TheKeyboardPicks();
     void EscapeClosesTheList();
+    void TheSummaryStandsHoweverTheListCloses_data();
+    void TheSummaryStandsHoweverTheListCloses();
+    void SpaceTogglesTheCurrentRow();
+    void KeysMoveFromRowToRow();
+    void KeysGoOnWhereTheMouseClicked();
+    void TheCurrentRowIsInSight();
     void BeginAndFinishOper();
     void AClickFromElsewhereIsIgnored();
 
@@ -57,6 +69,29 @@ private:
             }
         }
         return listRows;
+    }
+    /// A key as the window system delivers it: to the list while that is open, for it grabs the keyboard.
+    void Press(int nKey, Qt::KeyboardModifiers eModifiers = {}) const
+    {
+        const QWidget* pWindow = List()->isVisible() ? List()->window() : m_pWindow.data();
+        QTest::keyClick(pWindow->windowHandle(), Qt::Key(nKey), eModifiers);
+    }
+    void OpenByKeyboard() const
+    {
+        m_pCombo->setFocus();
+        Press(Qt::Key_Down, Qt::AltModifier);
+        QVERIFY(List()->isVisible());
+    }
+    int FocusedRow() const
+    {
+        for (int nRow = 0; nRow < List()->count(); ++nRow)
+        {
+            if (Box(nRow) && Box(nRow)->hasFocus())
+            {
+                return nRow;
+            }
+        }
+        return -1;
     }
     QString Text() const
     {
@@ -307,6 +342,115 @@ void tst_CheckableComboBox::EscapeClosesTheList()
     QTest::keyClick(List(), Qt::Key_Escape);
     QVERIFY(!List()->isVisible());
     QCOMPARE(Text(), QString("Two"));
+}
+
+void tst_CheckableComboBox::TheSummaryStandsHoweverTheListCloses_data()
+{
+    QTest::addColumn<std::function<void(tst_CheckableComboBox&)>>("close");
+    const auto key = [](int nKey,
+                        Qt::KeyboardModifiers eModifiers = {}) -> std::function<void(tst_CheckableComboBox&)> {
+        return [=](const tst_CheckableComboBox& test) { test.Press(nKey, eModifiers); };
+    };
+    using Test = tst_CheckableComboBox;
+    QTest::newRow("Return") << key(Qt::Key_Return);
+    QTest::newRow("Enter") << key(Qt::Key_Enter, Qt::KeypadModifier);
+    QTest::newRow("Escape") << key(Qt::Key_Escape);
+    QTest::newRow("Alt+Down") << key(Qt::Key_Down, Qt::AltModifier);
+    QTest::newRow("Alt+Up") << key(Qt::Key_Up, Qt::AltModifier);
+    QTest::newRow("F4") << key(Qt::Key_F4);
+    const auto row = [](const char* pszName, std::function<void(Test&)> close) { QTest::newRow(pszName) << close; };
+    row("Return to the list itself", [](const Test& test) { QTest::keyClick(test.List(), Qt::Key_Return); });
+    row("a click outside", [](const Test& test) {
+        QWidget* pPopup = test.List()->window();
+        QTest::mouseClick(pPopup, Qt::LeftButton, {}, pPopup->rect().bottomRight() + QPoint(30, 30));
+    });
+    row("the window system", [](const Test& test) { test.List()->window()->close(); });
+    row("the window hides", [](const Test& test) { test.m_pWindow->hide(); });
+    row("the box hides", [](const Test& test) { test.m_pCombo->hide(); });
+    row("the box is disabled", [](const Test& test) { test.m_pCombo->setEnabled(false); });
+}
+
+void tst_CheckableComboBox::TheSummaryStandsHoweverTheListCloses()
+{
+    using Close = std::function<void(tst_CheckableComboBox&)>;
+    QFETCH(Close, close);
+    m_pCombo->SetItems(Items());
+    m_pCombo->SetCheckedList({5});
+    OpenByKeyboard();
+    Click(2);
+    close(*this);
+    QVERIFY(!List()->isVisible());
+    QCOMPARE(m_pCombo->currentIndex(), 0);
+    QCOMPARE(Text(), QString("Five ..."));
+}
+
+void tst_CheckableComboBox::SpaceTogglesTheCurrentRow()
+{
+    m_pCombo->SetItems(Items());
+    OpenByKeyboard();
+    QSignalSpy spy(m_pCombo, &QCheckableComboBox::sgnItemChanged);
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Space);
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Space);
+    Press(Qt::Key_Space);
+    QCOMPARE(CheckedRows(), QList<int>{1});
+    QCOMPARE(spy.size(), 3);
+    QCOMPARE(spy[2], (QVariantList{3, false}));
+    QVERIFY(List()->isVisible());
+    Press(Qt::Key_Return);
+    QCOMPARE(Text(), QString("Two"));
+}
+
+void tst_CheckableComboBox::KeysMoveFromRowToRow()
+{
+    m_pCombo->SetItems(Items());
+    OpenByKeyboard();
+    const std::pair<int, int> arrSteps[] = {{Qt::Key_Down, 1}, {Qt::Key_Tab, 2},     {Qt::Key_End, 3},
+                                            {Qt::Key_Down, 3}, {Qt::Key_Up, 2},      {Qt::Key_Home, 0},
+                                            {Qt::Key_Up, 0},   {Qt::Key_PageDown, 3}};
+    for (const auto& step : arrSteps)
+    {
+        Press(step.first);
+        QCOMPARE(FocusedRow(), step.second);
+        QCOMPARE(List()->currentRow(), step.second);
+    }
+}
+
+void tst_CheckableComboBox::KeysGoOnWhereTheMouseClicked()
+{
+    m_pCombo->SetItems(Items());
+    OpenByKeyboard();
+    Click(2);
+    Press(Qt::Key_Down);
+    QCOMPARE(FocusedRow(), 3);
+    QCOMPARE(List()->currentRow(), 3);
+}
+
+void tst_CheckableComboBox::TheCurrentRowIsInSight()
+{
+    QMap<int, QString> mapItems;
+    for (int n = 0; n < 40; ++n)
+    {
+        mapItems.insert(n, QString::number(n));
+    }
+    m_pCombo->SetItems(mapItems);
+    OpenByKeyboard();
+    const auto inSight = [this] {
+        const QRect box(Box(FocusedRow())->mapTo(List()->viewport(), QPoint()), Box(FocusedRow())->size());
+        return List()->viewport()->rect().contains(box.center());
+    };
+    for (int n = 0; n < 25; ++n)
+    {
+        Press(Qt::Key_Down);
+    }
+    QCOMPARE(FocusedRow(), 25);
+    QVERIFY(inSight());
+    Press(Qt::Key_End);
+    QCOMPARE(FocusedRow(), 39);
+    QVERIFY(inSight());
+    Press(Qt::Key_Home);
+    QVERIFY(inSight());
 }
 
 void tst_CheckableComboBox::BeginAndFinishOper()
