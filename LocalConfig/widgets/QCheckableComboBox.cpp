@@ -70,6 +70,7 @@ void QCheckableComboBox::showPopup()
     {
         BuildList();
         QSkinCombox::showPopup();
+        GetCheckBox(0)->setFocus(Qt::PopupFocusReason); // keys move and toggle from there
     }
 }
 

@@ -46,6 +46,7 @@ private slots:
     void EscapeClosesTheList();
     void TheSummaryStandsHoweverTheListCloses_data();
     void TheSummaryStandsHoweverTheListCloses();
+    void TheKeyboardStartsAtTheFirstRow();
     void SpaceTogglesTheCurrentRow();
     void KeysMoveFromRowToRow();
     void KeysGoOnWhereTheMouseClicked();
@@ -382,6 +383,16 @@ void tst_CheckableComboBox::TheSummaryStandsHoweverTheListCloses()
     QVERIFY(!List()->isVisible());
     QCOMPARE(m_pCombo->currentIndex(), 0);
     QCOMPARE(Text(), QString("Five ..."));
+}
+
+void tst_CheckableComboBox::TheKeyboardStartsAtTheFirstRow()
+{
+    m_pCombo->SetItems(Items());
+    OpenByKeyboard();
+    QCOMPARE(FocusedRow(), 0);
+    QCOMPARE(List()->currentRow(), 0);
+    Press(Qt::Key_Escape);
+    QVERIFY(m_pCombo->hasFocus());
 }
 
 void tst_CheckableComboBox::SpaceTogglesTheCurrentRow()
