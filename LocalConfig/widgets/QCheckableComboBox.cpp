@@ -2,6 +2,7 @@
 
 #include <KvGui/KvCheckBox.h>
 #include <KvGui/KvListWidget.h>
+#include <UICommonModule/Pxa.h>
 
 #include <QKeyEvent>
 
@@ -28,6 +29,12 @@ bool ClosesTheList(const QKeyEvent& event)
     default:
         return false;
     }
+}
+
+/// The text of a button that shows this text as it is.
+QString WithoutMnemonic(QString strText)
+{
+    return strText.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
 } // namespace
@@ -71,6 +78,10 @@ void QCheckableComboBox::showPopup()
         BuildList();
         QSkinCombox::showPopup();
         GetCheckBox(0)->setFocus(Qt::PopupFocusReason); // keys move and toggle from there
+        for (int nRow = 0; nRow < GetList()->count(); ++nRow)
+        {
+            Pxa::QCommon::AddToolTipByControlWidth(GetCheckBox(nRow));
+        }
     }
 }
 
@@ -137,7 +148,7 @@ void QCheckableComboBox::BuildList()
     clear();
     for (auto it = m_mapItems.cbegin(); it != m_mapItems.cend(); ++it)
     {
-        auto* pCheckBox = new KVGUI::KvCheckBox(it.value(), this);
+        auto* pCheckBox = new KVGUI::KvCheckBox(WithoutMnemonic(it.value()), this);
         if (it.key() == m_nAllKey)
         {
             m_pAllCheckBox = pCheckBox;

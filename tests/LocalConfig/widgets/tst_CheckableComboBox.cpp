@@ -3,6 +3,7 @@
 #include <KvGui/KvCheckBox.h>
 #include <KvGui/KvListWidget.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QMetaMethod>
 #include <QSignalSpy>
@@ -35,6 +36,8 @@ private slots:
     void FewerThanTwoItemsNeverOpen_data();
     void FewerThanTwoItemsNeverOpen();
     void TheListHasABoxForEachItem();
+    void AnAmpersandIsNoMnemonic();
+    void NamesThatAreCutHaveAToolTip();
     void OpeningTwiceRebuildsTheList();
     void EveryClickIsStoredAtOnce();
     void TheSignalComesFirst();
@@ -216,6 +219,32 @@ void tst_CheckableComboBox::TheListHasABoxForEachItem()
         QCOMPARE(List()->item(nRow)->flags(), Qt::ItemFlags(Qt::ItemIsEnabled));
     }
     QCOMPARE(CheckedRows(), QList<int>{2});
+}
+
+void tst_CheckableComboBox::AnAmpersandIsNoMnemonic()
+{
+    m_pCombo->SetItems({{1, "Doors & Gates"}, {2, "R&D"}});
+    OpenByKeyboard();
+    QVERIFY(Box(0)->shortcut().isEmpty());
+    QVERIFY(Box(1)->shortcut().isEmpty());
+    QCOMPARE(QAccessible::queryAccessibleInterface(Box(1))->text(QAccessible::Name), QString("R&D"));
+    Press(Qt::Key_D, Qt::AltModifier);
+    QCOMPARE(CheckedRows(), QList<int>());
+    KvCheckBox wanted("R&&D", m_pWindow.data());
+    QCOMPARE(Box(1)->sizeHint(), wanted.sizeHint());
+    Click(1);
+    m_pCombo->hidePopup();
+    QCOMPARE(Text(), QString("R&D"));
+}
+
+void tst_CheckableComboBox::NamesThatAreCutHaveAToolTip()
+{
+    const QString strLong = QString("a & name that is much longer than the box ").repeated(3);
+    m_pCombo->SetItems({{1, "Short"}, {2, strLong}});
+    OpenByKeyboard();
+    QVERIFY(Box(1)->width() < Box(1)->sizeHint().width());
+    QCOMPARE(Box(0)->toolTip(), QString());
+    QCOMPARE(Box(1)->toolTip(), strLong);
 }
 
 void tst_CheckableComboBox::OpeningTwiceRebuildsTheList()
