@@ -71,7 +71,7 @@ void CAlarmTypeCombox::ClearChosenItem()
 
 void CAlarmTypeCombox::showPopup()
 {
-    if (m_mapSub.isEmpty())
+    if (m_mapMain.isEmpty() || m_mapSub.isEmpty())
     {
         return;
     }
@@ -84,6 +84,11 @@ void CAlarmTypeCombox::showPopup()
     m_pMenu->Open(m_bChosen ? m_nMainItem : m_mapMain.firstKey(), m_bChosen ? m_nSubItem : -1);
 }
 
+bool CAlarmTypeCombox::IsOpen() const
+{
+    return m_pMenu && m_pMenu->isVisible();
+}
+
 void CAlarmTypeCombox::hidePopup()
 {
     if (m_pMenu)
@@ -93,25 +98,34 @@ void CAlarmTypeCombox::hidePopup()
     KvComboBox::hidePopup();
 }
 
-void CAlarmTypeCombox::paintEvent(QPaintEvent* pEvent)
+void CAlarmTypeCombox::paintEvent(QPaintEvent* /*pEvent*/)
 {
-    if (!m_bChosen)
-    {
-        KvComboBox::paintEvent(pEvent);
-        return;
-    }
     QStylePainter painter(this);
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    option.currentText = fontMetrics().elidedText(GetText(m_nMainItem, m_nSubItem), Qt::ElideRight, field.width());
+    option.state.setFlag(QStyle::State_On, IsOpen());
+    if (m_bChosen)
+    {
+        const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+        option.currentText = fontMetrics().elidedText(GetText(m_nMainItem, m_nSubItem), Qt::ElideRight, field.width());
+    }
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+void CAlarmTypeCombox::mousePressEvent(QMouseEvent* pEvent)
+{
+    // The base would look pressed until a list of its own closes, which never opens.
+    if (pEvent->button() == Qt::LeftButton)
+    {
+        showPopup();
+    }
 }
 
 void CAlarmTypeCombox::keyPressEvent(QKeyEvent* pEvent)
 {
     // Whatever would change the current item of a plain box opens the menu, which is where items are chosen.
+    const bool bPlain = !(pEvent->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
     switch (pEvent->key())
     {
     case Qt::Key_Up:
@@ -120,16 +134,21 @@ void CAlarmTypeCombox::keyPressEvent(QKeyEvent* pEvent)
     case Qt::Key_PageDown:
     case Qt::Key_Home:
     case Qt::Key_End:
-    case Qt::Key_Space:
-    case Qt::Key_F4:
         showPopup();
         return;
+    case Qt::Key_Space:
+    case Qt::Key_F4:
+        if (bPlain)
+        {
+            showPopup();
+            return;
+        }
+        break;
     default:
         break;
     }
     const QString strText = pEvent->text();
-    const bool bTyped = !strText.isEmpty() && strText[0].isPrint() && !(pEvent->modifiers() & Qt::ControlModifier);
-    if (bTyped)
+    if (bPlain && !strText.isEmpty() && strText[0].isPrint())
     {
         showPopup();
         if (m_pMenu)

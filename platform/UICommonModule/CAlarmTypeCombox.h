@@ -54,10 +54,12 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* pEvent) override;
+    void mousePressEvent(QMouseEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
     void wheelEvent(QWheelEvent* pEvent) override;
 
 private:
+    bool IsOpen() const;
     bool HasItem(int nMainItem, int nSubItem) const;
     QString GetText(int nMainItem, int nSubItem) const;
     void ShowChoice();

@@ -196,6 +196,18 @@ bool CAlarmTypeMenu::eventFilter(QObject* pWatched, QEvent* pEvent)
     return QWidget::eventFilter(pWatched, pEvent);
 }
 
+void CAlarmTypeMenu::showEvent(QShowEvent* pEvent)
+{
+    QWidget::showEvent(pEvent);
+    parentWidget()->update(); // which looks open now
+}
+
+void CAlarmTypeMenu::hideEvent(QHideEvent* pEvent)
+{
+    QWidget::hideEvent(pEvent);
+    parentWidget()->update();
+}
+
 void CAlarmTypeMenu::mousePressEvent(QMouseEvent* pEvent)
 {
     // A press on the box itself closes the menu; it is not to open it again.

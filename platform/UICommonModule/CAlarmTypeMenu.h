@@ -34,6 +34,8 @@ signals:
 protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
     void mousePressEvent(QMouseEvent* pEvent) override;
+    void showEvent(QShowEvent* pEvent) override;
+    void hideEvent(QHideEvent* pEvent) override;
 
 private:
     QListView* MakeList(const char* pszName, const QString& strAccessibleName, CMenuModel* pModel);

@@ -18,6 +18,20 @@ const QMap<int, QString> g_mapMain = {{2, "Device"}, {3, "Video"}, {9, "Vehicle"
 const QMap<int, QMap<int, QString>> g_mapSub = {
     {2, {{0, "Offline"}, {1, "Online"}}}, {3, {{2, "Loss"}, {3, "Motion"}, {4, "Tampering"}}}, {9, {{7, "Plate"}}}};
 
+class CPaintCounter : public QObject
+{
+public:
+    explicit CPaintCounter(QWidget* pWidget) { pWidget->installEventFilter(this); }
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        m_nPaints += pEvent->type() == QEvent::Paint ? 1 : 0;
+        return QObject::eventFilter(pWatched, pEvent);
+    }
+
+    int m_nPaints = 0;
+};
+
 } // namespace
 
 class tst_AlarmTypeCombox : public QObject
@@ -39,9 +53,12 @@ private slots:
     void ANewMenuClosesTheOldOne();
     void ANewMenuRenamesTheChoice();
 
+    void TheBoxLooksOpenWhileItsMenuIs_data();
+    void TheBoxLooksOpenWhileItsMenuIs();
     void OpeningShowsBothLevels();
     void TheTypesStandBesideTheCategories();
     void OpeningShowsTheChoice();
+    void AnEmptyMenuDoesNotOpen_data();
     void AnEmptyMenuDoesNotOpen();
     void TheMousePicks();
     void HoveringShowsACategory();
@@ -52,6 +69,8 @@ private slots:
     void TypingOnTheClosedBoxOpensTheMenu();
     void ArrowsOnTheClosedBoxOpenTheMenu_data();
     void ArrowsOnTheClosedBoxOpenTheMenu();
+    void KeysThatAreNotTheBoxs_data();
+    void KeysThatAreNotTheBoxs();
     void PressingTheBoxAgainClosesTheMenu();
     void HidingThePopupClosesTheMenu();
     void TheWheelChangesNothing();
@@ -206,6 +225,39 @@ void tst_AlarmTypeCombox::ANewMenuRenamesTheChoice()
     QCOMPARE(m_pCombo->accessibleDescription(), QString("Covered"));
 }
 
+void tst_AlarmTypeCombox::TheBoxLooksOpenWhileItsMenuIs_data()
+{
+    QTest::addColumn<bool>("bChosen");
+    QTest::newRow("nothing chosen") << false;
+    QTest::newRow("a type chosen") << true;
+}
+
+void tst_AlarmTypeCombox::TheBoxLooksOpenWhileItsMenuIs()
+{
+    QFETCH(bool, bChosen);
+    m_pCombo->setStyleSheet(
+        "QComboBox { border: none; background: #000000; } QComboBox:pressed { background: #0000ff; }"
+        "QComboBox:on { background: #ff0000; }");
+    if (bChosen)
+    {
+        m_pCombo->ChooseItem(3, 4);
+    }
+    const auto color = [this] { return m_pCombo->grab().toImage().pixelColor(m_pCombo->width() / 2, 4).name(); };
+    QCOMPARE(color(), QString("#000000"));
+    const QPoint arrow(m_pCombo->width() - 10, m_pCombo->height() / 2);
+    QTest::mousePress(m_pCombo, Qt::LeftButton, {}, arrow);
+    QVERIFY(IsOpen());
+    QTest::mouseRelease(Menu(), Qt::LeftButton, {}, Menu()->mapFromGlobal(m_pCombo->mapToGlobal(arrow))); // grabs it
+    QVERIFY(IsOpen());
+    QCOMPARE(color(), QString("#ff0000"));
+    QCoreApplication::processEvents();
+    CPaintCounter paints(m_pCombo);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QVERIFY(!IsOpen());
+    QTRY_VERIFY(paints.m_nPaints > 0);
+    QCOMPARE(color(), QString("#000000"));
+}
+
 void tst_AlarmTypeCombox::OpeningShowsBothLevels()
 {
     QTest::mousePress(m_pCombo, Qt::LeftButton);
@@ -236,9 +288,20 @@ void tst_AlarmTypeCombox::OpeningShowsTheChoice()
     QVERIFY(Sub()->hasFocus());
 }
 
+void tst_AlarmTypeCombox::AnEmptyMenuDoesNotOpen_data()
+{
+    QTest::addColumn<bool>("bMain");
+    QTest::addColumn<bool>("bSub");
+    QTest::newRow("nothing") << false << false;
+    QTest::newRow("categories without types") << true << false;
+    QTest::newRow("types without categories") << false << true;
+}
+
 void tst_AlarmTypeCombox::AnEmptyMenuDoesNotOpen()
 {
-    m_pCombo->InitMenu({}, {});
+    QFETCH(bool, bMain);
+    QFETCH(bool, bSub);
+    m_pCombo->InitMenu(bMain ? g_mapMain : QMap<int, QString>(), bSub ? g_mapSub : QMap<int, QMap<int, QString>>());
     m_pCombo->showPopup();
     QVERIFY(!IsOpen());
     QTest::keyClicks(m_pCombo, "x");
@@ -342,6 +405,27 @@ void tst_AlarmTypeCombox::ArrowsOnTheClosedBoxOpenTheMenu()
     QTest::keyClick(m_pCombo, Qt::Key(nKey));
     QVERIFY(IsOpen());
     QCOMPARE(m_pCombo->currentIndex(), 0);
+}
+
+void tst_AlarmTypeCombox::KeysThatAreNotTheBoxs_data()
+{
+    QTest::addColumn<int>("nKey");
+    QTest::addColumn<int>("nModifiers");
+    QTest::newRow("Alt+X") << int(Qt::Key_X) << int(Qt::AltModifier);
+    QTest::newRow("Meta+X") << int(Qt::Key_X) << int(Qt::MetaModifier);
+    QTest::newRow("Ctrl+X") << int(Qt::Key_X) << int(Qt::ControlModifier);
+    QTest::newRow("Alt+F4") << int(Qt::Key_F4) << int(Qt::AltModifier);
+    QTest::newRow("Alt+Space") << int(Qt::Key_Space) << int(Qt::AltModifier);
+}
+
+void tst_AlarmTypeCombox::KeysThatAreNotTheBoxs()
+{
+    QFETCH(int, nKey);
+    QFETCH(int, nModifiers);
+    QKeyEvent event(QEvent::KeyPress, nKey, Qt::KeyboardModifiers(nModifiers), nKey == Qt::Key_F4 ? "" : "x");
+    QApplication::sendEvent(m_pCombo, &event);
+    QVERIFY(!IsOpen());
+    QVERIFY(!event.isAccepted());
 }
 
 void tst_AlarmTypeCombox::PressingTheBoxAgainClosesTheMenu()
