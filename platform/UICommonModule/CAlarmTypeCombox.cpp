@@ -1,7 +1,9 @@
 #include "CAlarmTypeCombox.h"
 
+#include "CAlarmType.h"
 #include "CAlarmTypeMenu.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QStylePainter>
 #include <QWheelEvent>
@@ -9,9 +11,69 @@
 namespace UICommonMdl
 {
 
+namespace
+{
+
+/// What screen readers see: the base's would tell the current item and open the list that the box does not have.
+class CAccessibleCombox : public QAccessibleWidget
+{
+public:
+    explicit CAccessibleCombox(CAlarmTypeCombox* pCombox)
+        : QAccessibleWidget(pCombox, QAccessible::ComboBox)
+        , m_pCombox(pCombox)
+    {}
+
+    QString text(QAccessible::Text eText) const override
+    {
+        return eText == QAccessible::Value ? m_pCombox->GetShownText() : QAccessibleWidget::text(eText);
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.expandable = true;
+        state.expanded = m_pCombox->IsOpen();
+        return state;
+    }
+
+    QStringList actionNames() const override
+    {
+        return QStringList{showMenuAction()} + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString& strAction) override
+    {
+        if (strAction != showMenuAction())
+        {
+            QAccessibleWidget::doAction(strAction);
+        }
+        else if (m_pCombox->IsOpen())
+        {
+            m_pCombox->hidePopup();
+        }
+        else
+        {
+            m_pCombox->showPopup();
+        }
+    }
+
+private:
+    CAlarmTypeCombox* m_pCombox;
+};
+
+QAccessibleInterface* MakeAccessible(const QString& /*strClass*/, QObject* pObject)
+{
+    auto* pCombox = qobject_cast<CAlarmTypeCombox*>(pObject);
+    return pCombox ? new CAccessibleCombox(pCombox) : nullptr;
+}
+
+} // namespace
+
 CAlarmTypeCombox::CAlarmTypeCombox(QWidget* pParent)
     : KvComboBox(pParent)
-{}
+{
+    QAccessible::installFactory(&MakeAccessible); // installs it once
+}
 
 CAlarmTypeCombox::~CAlarmTypeCombox() = default;
 
@@ -24,49 +86,70 @@ void CAlarmTypeCombox::InitMenu(const QMap<int, QString>& mapMain, const QMap<in
         m_pMenu->hide();
         m_pMenu->SetItems(m_mapMain, m_mapSub);
     }
-    m_bChosen = m_bChosen && HasItem(m_nMainItem, m_nSubItem);
-    ShowChoice();
+    SetChoice(m_choice ? FindType(m_choice->nAlarmType) : std::nullopt); // indices may mean other types now
 }
 
-void CAlarmTypeCombox::ShowChoice()
+std::optional<CAlarmTypeCombox::SChoice> CAlarmTypeCombox::Find(int nMainItem, int nSubItem) const
 {
-    setAccessibleDescription(m_bChosen ? GetText(m_nMainItem, m_nSubItem) : QString());
+    const QMap<int, QString> mapTypes = m_mapSub.value(nMainItem);
+    if (!m_mapMain.contains(nMainItem) || !mapTypes.contains(nSubItem))
+    {
+        return std::nullopt;
+    }
+    return SChoice{nMainItem, nSubItem, CAlarmType::Instance()->GetAlarmTypeIdByIndex(nSubItem),
+                   mapTypes.value(nSubItem)};
+}
+
+std::optional<CAlarmTypeCombox::SChoice> CAlarmTypeCombox::FindType(int nAlarmType) const
+{
+    const int nSubItem = CAlarmType::Instance()->GetIndexByAlarmTypeId(nAlarmType);
+    for (auto it = m_mapMain.cbegin(); it != m_mapMain.cend(); ++it)
+    {
+        if (const std::optional<SChoice> choice = Find(it.key(), nSubItem))
+        {
+            return choice;
+        }
+    }
+    return std::nullopt;
+}
+
+void CAlarmTypeCombox::SetChoice(const std::optional<SChoice>& choice)
+{
+    const QString strBefore = GetShownText();
+    m_choice = choice;
     update();
+    if (GetShownText() != strBefore)
+    {
+        QAccessibleValueChangeEvent event(this, GetShownText());
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
-bool CAlarmTypeCombox::HasItem(int nMainItem, int nSubItem) const
+QString CAlarmTypeCombox::GetShownText() const
 {
-    return m_mapMain.contains(nMainItem) && m_mapSub.value(nMainItem).contains(nSubItem);
-}
-
-QString CAlarmTypeCombox::GetText(int nMainItem, int nSubItem) const
-{
-    return m_mapSub.value(nMainItem).value(nSubItem);
+    return m_choice ? m_choice->strText : currentText();
 }
 
 QList<int> CAlarmTypeCombox::GetCurrentChosenItem() const
 {
-    return m_bChosen ? QList<int>{m_nSubItem} : QList<int>();
+    return m_choice ? QList<int>{m_choice->nSubItem} : QList<int>();
 }
 
 bool CAlarmTypeCombox::ChooseItem(int nMainItem, int nSubItem)
 {
-    if (!HasItem(nMainItem, nSubItem))
+    const std::optional<SChoice> choice = Find(nMainItem, nSubItem);
+    if (!choice)
     {
         return false;
     }
-    m_bChosen = true;
-    m_nMainItem = nMainItem;
-    m_nSubItem = nSubItem;
-    ShowChoice();
+    SetChoice(choice);
     emit SignalItemChange(nMainItem, nSubItem);
     return true;
 }
 
 void CAlarmTypeCombox::ClearChosenItem()
 {
-    m_bChosen = false;
-    ShowChoice();
+    SetChoice(std::nullopt);
 }
 
 void CAlarmTypeCombox::showPopup()
@@ -81,7 +164,7 @@ void CAlarmTypeCombox::showPopup()
         m_pMenu->SetItems(m_mapMain, m_mapSub);
         connect(m_pMenu, &CAlarmTypeMenu::SignalChosen, this, &CAlarmTypeCombox::ChooseItem);
     }
-    m_pMenu->Open(m_bChosen ? m_nMainItem : m_mapMain.firstKey(), m_bChosen ? m_nSubItem : -1);
+    m_pMenu->Open(m_choice ? m_choice->nMainItem : m_mapMain.firstKey(), m_choice ? m_choice->nSubItem : -1);
 }
 
 bool CAlarmTypeCombox::IsOpen() const
@@ -104,11 +187,8 @@ void CAlarmTypeCombox::paintEvent(QPaintEvent* /*pEvent*/)
     QStyleOptionComboBox option;
     initStyleOption(&option);
     option.state.setFlag(QStyle::State_On, IsOpen());
-    if (m_bChosen)
-    {
-        const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-        option.currentText = fontMetrics().elidedText(GetText(m_nMainItem, m_nSubItem), Qt::ElideRight, field.width());
-    }
+    const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    option.currentText = fontMetrics().elidedText(GetShownText(), Qt::ElideRight, field.width());
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }

@@ -7,6 +7,8 @@
 #include <QPixmap>
 #include <QPointer>
 
+#include <optional>
+
 namespace UICommonMdl
 {
 
@@ -25,10 +27,10 @@ public:
     explicit CAlarmTypeCombox(QWidget* pParent = nullptr);
     ~CAlarmTypeCombox() override;
 
-    /// Sets the menu; the box's items and its current index stay. What was chosen stays chosen when the new menu has
-    /// it too.
+    /// Sets the menu; the box's items and its current index stay. A type that was chosen stays chosen when the new menu
+    /// has it too, wherever it stands there.
     /// \param mapMain  main item -> text
-    /// \param mapSub   main item -> (sub item -> text)
+    /// \param mapSub   main item -> (sub item -> text); a sub item is the index of an alarm type in the catalogue
     void InitMenu(const QMap<int, QString>& mapMain, const QMap<int, QMap<int, QString>>& mapSub);
 
     /// The sub item that is chosen; empty when none is.
@@ -40,6 +42,11 @@ public:
 
     /// Emits nothing.
     void ClearChosenItem();
+
+    /// What the closed box shows.
+    QString GetShownText() const;
+
+    bool IsOpen() const;
 
     /// Pictures for skins that paint the box from them.
     void SetTextPixmap(const QPixmap& pixText) { m_pixText = pixText; }
@@ -59,16 +66,21 @@ protected:
     void wheelEvent(QWheelEvent* pEvent) override;
 
 private:
-    bool IsOpen() const;
-    bool HasItem(int nMainItem, int nSubItem) const;
-    QString GetText(int nMainItem, int nSubItem) const;
-    void ShowChoice();
+    struct SChoice
+    {
+        int nMainItem;
+        int nSubItem;
+        int nAlarmType;
+        QString strText;
+    };
+
+    std::optional<SChoice> Find(int nMainItem, int nSubItem) const;
+    std::optional<SChoice> FindType(int nAlarmType) const;
+    void SetChoice(const std::optional<SChoice>& choice);
 
     QMap<int, QString> m_mapMain;
     QMap<int, QMap<int, QString>> m_mapSub;
-    bool m_bChosen = false;
-    int m_nMainItem = 0;
-    int m_nSubItem = 0;
+    std::optional<SChoice> m_choice;
     QPointer<CAlarmTypeMenu> m_pMenu; // made when it is first opened
     QPixmap m_pixText;
     QPixmap m_pixState;

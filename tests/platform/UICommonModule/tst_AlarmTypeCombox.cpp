@@ -1,15 +1,21 @@
 #include "support/Wheel.h"
 
+#include <UICommonModule/CAlarmType.h>
 #include <UICommonModule/CAlarmTypeCombox.h>
+#include <UICommonModule/CErrorCode.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QListView>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTemporaryFile>
 #include <QtTest>
 
+using UICommonMdl::CAlarmType;
 using UICommonMdl::CAlarmTypeCombox;
+using UICommonMdl::CErrorCode;
 
 namespace
 {
@@ -47,9 +53,12 @@ private slots:
     void AnUnknownItemCannotBeChosen();
     void ClearingIsSilent();
     void AChosenItemIsShown();
+    void AScreenReaderOpensTheMenu();
     void ANewMenuKeepsTheItemsOfTheBox();
     void ANewMenuKeepsAChoiceThatItHas();
     void ANewMenuDropsAChoiceThatItLacks();
+    void ANewCatalogueKeepsTheChosenType_data();
+    void ANewCatalogueKeepsTheChosenType();
     void ANewMenuClosesTheOldOne();
     void ANewMenuRenamesTheChoice();
 
@@ -96,7 +105,33 @@ private:
         const QRect row = pList->visualRect(pList->model()->index(nRow, 0));
         QTest::mouseClick(pList->viewport(), Qt::LeftButton, {}, row.center());
     }
+    QAccessibleInterface* Accessible() const { return QAccessible::queryAccessibleInterface(m_pCombo); }
+    QString Value() const { return Accessible()->text(QAccessible::Value); }
     bool IsOpen() const { return Menu() && Menu()->isVisible(); }
+
+    static QByteArray Type(int nId)
+    {
+        const QByteArray id = QByteArray::number(nId);
+        return "<Type id='" + id + "' name='Type " + id + "'/>";
+    }
+    static QByteArray Category(int nId, const QByteArray& types)
+    {
+        const QByteArray id = QByteArray::number(nId);
+        return "<Category id='" + id + "' name='Category " + id + "'><Group id='" + id + "' name='Group'>" + types +
+               "</Group></Category>";
+    }
+    void UseCatalogue(const QByteArray& categories)
+    {
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        file.write("<AlarmTypes>" + categories + "</AlarmTypes>");
+        file.flush();
+        QCOMPARE(CAlarmType::Instance()->Load(file.fileName()), int(CErrorCode::Success));
+        QMap<int, QString> mapMain;
+        QMap<int, QMap<int, QString>> mapSub;
+        CAlarmType::Instance()->GetAlarmCategory(mapMain, mapSub);
+        m_pCombo->InitMenu(mapMain, mapSub);
+    }
 
     QScopedPointer<QWidget> m_pWindow;
     CAlarmTypeCombox* m_pCombo = nullptr;
@@ -105,6 +140,7 @@ private:
 
 void tst_AlarmTypeCombox::init()
 {
+    CAlarmType::Instance()->Load();
     m_pWindow.reset(new QWidget);
     m_pWindow->resize(700, 500);
     m_pCombo = new CAlarmTypeCombox(m_pWindow.data());
@@ -121,6 +157,7 @@ void tst_AlarmTypeCombox::init()
 void tst_AlarmTypeCombox::TheClosedBoxShowsItsCurrentItem()
 {
     QCOMPARE(m_pCombo->currentText(), QString("first of the record"));
+    QCOMPARE(Value(), QString("first of the record"));
     QCOMPARE(m_pCombo->GetCurrentChosenItem(), QList<int>());
     QVERIFY(!IsOpen());
 }
@@ -132,7 +169,7 @@ void tst_AlarmTypeCombox::ChoosingMarksAndEmits()
     QCOMPARE(m_pSpy->size(), 1);
     QCOMPARE(m_pSpy->first(), (QVariantList{3, 4}));
     QCOMPARE(m_pCombo->currentIndex(), 0);
-    QCOMPARE(m_pCombo->accessibleDescription(), QString("Tampering"));
+    QCOMPARE(Value(), QString("Tampering"));
 }
 
 void tst_AlarmTypeCombox::AnUnknownItemCannotBeChosen_data()
@@ -161,7 +198,7 @@ void tst_AlarmTypeCombox::ClearingIsSilent()
     m_pCombo->ClearChosenItem();
     QCOMPARE(m_pCombo->GetCurrentChosenItem(), QList<int>());
     QCOMPARE(m_pSpy->size(), 1);
-    QCOMPARE(m_pCombo->accessibleDescription(), QString());
+    QCOMPARE(Value(), QString("first of the record"));
 }
 
 void tst_AlarmTypeCombox::AChosenItemIsShown()
@@ -179,6 +216,23 @@ void tst_AlarmTypeCombox::AChosenItemIsShown()
     m_pCombo->ClearChosenItem();
     m_pCombo->setFocus();
     QCOMPARE(m_pCombo->grab().toImage(), before);
+}
+
+void tst_AlarmTypeCombox::AScreenReaderOpensTheMenu()
+{
+    QCOMPARE(Accessible()->role(), QAccessible::ComboBox);
+    QVERIFY(Accessible()->state().expandable);
+    QVERIFY(!Accessible()->state().expanded);
+    QAccessibleActionInterface* pActions = Accessible()->actionInterface();
+    QVERIFY(pActions->actionNames().contains(QAccessibleActionInterface::showMenuAction()));
+    pActions->doAction(QAccessibleActionInterface::showMenuAction());
+    QVERIFY(IsOpen());
+    QVERIFY(Accessible()->state().expanded);
+    pActions->doAction(QAccessibleActionInterface::showMenuAction());
+    QVERIFY(!IsOpen());
+    m_pWindow->setFocus();
+    pActions->doAction(QAccessibleActionInterface::setFocusAction());
+    QVERIFY(m_pCombo->hasFocus());
 }
 
 void tst_AlarmTypeCombox::ANewMenuKeepsTheItemsOfTheBox()
@@ -204,7 +258,40 @@ void tst_AlarmTypeCombox::ANewMenuDropsAChoiceThatItLacks()
     m_pCombo->ChooseItem(3, 4);
     m_pCombo->InitMenu({{3, "Video"}}, {{3, {{2, "Loss"}}}});
     QCOMPARE(m_pCombo->GetCurrentChosenItem(), QList<int>());
-    QCOMPARE(m_pCombo->accessibleDescription(), QString());
+    QCOMPARE(Value(), QString("first of the record"));
+}
+
+void tst_AlarmTypeCombox::ANewCatalogueKeepsTheChosenType_data()
+{
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<QList<int>>("listChosen");
+    QTest::addColumn<QString>("strShown");
+    const QByteArray added = Category(1, Type(50)) + Category(2, Type(10) + Type(11) + Type(12));
+    QTest::newRow("types before it") << added << QList<int>{2} << "Type 11";
+    QTest::newRow("another category") << Category(2, Type(10)) + Category(3, Type(11)) << QList<int>{1} << "Type 11";
+    QTest::newRow("gone") << Category(2, Type(10) + Type(12) + Type(13)) << QList<int>{} << "first of the record";
+    QTest::newRow("everything gone") << QByteArray() << QList<int>{} << "first of the record";
+}
+
+void tst_AlarmTypeCombox::ANewCatalogueKeepsTheChosenType()
+{
+    QFETCH(QByteArray, after);
+    QFETCH(QList<int>, listChosen);
+    QFETCH(QString, strShown);
+    UseCatalogue(Category(2, Type(10) + Type(11)));
+    m_pCombo->showPopup();
+    Click(Sub(), 1);
+    QCOMPARE(Value(), QString("Type 11"));
+    m_pSpy->clear();
+    UseCatalogue(after);
+    QCOMPARE(m_pCombo->GetCurrentChosenItem(), listChosen);
+    QCOMPARE(Value(), strShown);
+    QCOMPARE(m_pSpy->size(), 0);
+    if (!listChosen.isEmpty())
+    {
+        m_pCombo->showPopup();
+        QCOMPARE(Current(Sub()), strShown);
+    }
 }
 
 void tst_AlarmTypeCombox::ANewMenuClosesTheOldOne()
@@ -222,7 +309,7 @@ void tst_AlarmTypeCombox::ANewMenuRenamesTheChoice()
 {
     m_pCombo->ChooseItem(3, 4);
     m_pCombo->InitMenu({{3, "Video"}}, {{3, {{4, "Covered"}}}});
-    QCOMPARE(m_pCombo->accessibleDescription(), QString("Covered"));
+    QCOMPARE(Value(), QString("Covered"));
 }
 
 void tst_AlarmTypeCombox::TheBoxLooksOpenWhileItsMenuIs_data()

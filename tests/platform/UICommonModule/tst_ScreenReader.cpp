@@ -1,0 +1,50 @@
+// What the client's controls tell screen readers by themselves.
+
+#include "support/AccessibleEvents.h"
+
+#include <UICommonModule/CAlarmTypeCombox.h>
+
+#include <QApplication>
+#include <QtTest>
+
+using UICommonMdl::CAlarmTypeCombox;
+
+class tst_ScreenReader : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void TheAlarmTypeBoxTellsItsChoice();
+};
+
+void tst_ScreenReader::TheAlarmTypeBoxTellsItsChoice()
+{
+    CAlarmTypeCombox combo;
+    combo.addItem("First of the record");
+    combo.InitMenu({{2, "Device"}}, {{2, {{0, "Offline"}, {1, "Online"}}}});
+    combo.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&combo));
+    QStringList listValues;
+    const CAccessibleEvents events([&](const QAccessibleEvent& event) {
+        if (event.type() == QAccessible::ValueChanged && event.object() == &combo)
+        {
+            listValues += static_cast<const QAccessibleValueChangeEvent&>(event).value().toString();
+        }
+    });
+
+    QTest::keyClick(&combo, Qt::Key_Down);
+    for (int nKey : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Return})
+    {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(nKey));
+    }
+    QCOMPARE(listValues, QStringList{"Online"});
+
+    combo.InitMenu({{2, "Device"}}, {{2, {{1, "Back online"}}}});
+    combo.InitMenu({{2, "Device"}}, {{2, {{1, "Back online"}}}});
+    combo.ClearChosenItem();
+    QCOMPARE(listValues, (QStringList{"Online", "Back online", "First of the record"}));
+}
+
+QTEST_MAIN(tst_ScreenReader)
+
+#include "tst_ScreenReader.moc"
