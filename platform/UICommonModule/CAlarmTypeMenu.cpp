@@ -14,8 +14,28 @@ namespace
 
 constexpr int g_nMainWidth = 200;
 constexpr int g_nSubWidth = 280;
-constexpr int g_nMaxRows = 12; // beyond them a list scrolls
-constexpr int g_nFrame = 10;   // pixels that frame and padding take
+constexpr int g_nMaxRows = 12;     // beyond them a list scrolls
+constexpr int g_nFrame = 10;       // pixels that frame and padding take
+constexpr int g_nMouseRests = 200; // milliseconds without a movement
+
+/// A list in which Ctrl does not unselect the current item.
+class CMenuList : public QListView
+{
+public:
+    using QListView::QListView;
+
+protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* pEvent) const override
+    {
+        const QItemSelectionModel::SelectionFlags eFlags = QListView::selectionCommand(index, pEvent);
+        return eFlags.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::ClearAndSelect : eFlags;
+    }
+};
+
+int Mirrored(int nKey)
+{
+    return nKey == Qt::Key_Left ? Qt::Key_Right : nKey == Qt::Key_Right ? Qt::Key_Left : nKey;
+}
 
 } // namespace
 
@@ -75,11 +95,16 @@ CAlarmTypeMenu::CAlarmTypeMenu(QWidget* pOwner)
     connect(m_pMainList->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &CAlarmTypeMenu::OnMainItemChanged);
     connect(m_pSubList, &QListView::clicked, this, &CAlarmTypeMenu::Choose);
+    connect(m_pSubList, &QListView::entered, m_pSubList, &QListView::setCurrentIndex);
+    m_pMainList->viewport()->installEventFilter(this);
+    m_mouseRests.setSingleShot(true);
+    m_mouseRests.setInterval(g_nMouseRests);
+    connect(&m_mouseRests, &QTimer::timeout, this, &CAlarmTypeMenu::ShowCategoryUnderMouse);
 }
 
 QListView* CAlarmTypeMenu::MakeList(const char* pszName, const QString& strAccessibleName, CMenuModel* pModel)
 {
-    auto* pList = new QListView(this);
+    auto* pList = new CMenuList(this);
     pList->setObjectName(QString::fromLatin1(pszName));
     pList->setAccessibleName(strAccessibleName);
     pList->setModel(pModel);
@@ -87,7 +112,6 @@ QListView* CAlarmTypeMenu::MakeList(const char* pszName, const QString& strAcces
     pList->setEditTriggers(QAbstractItemView::NoEditTriggers);
     pList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     pList->setMouseTracking(true);
-    connect(pList, &QListView::entered, pList, &QListView::setCurrentIndex);
     pList->installEventFilter(this);
     return pList;
 }
@@ -101,6 +125,7 @@ void CAlarmTypeMenu::SetItems(const QMap<int, QString>& mapMain, const QMap<int,
 
 void CAlarmTypeMenu::Open(int nMainItem, int nSubItem)
 {
+    setLayoutDirection(parentWidget()->layoutDirection()); // a window does not take it over by itself
     const QModelIndex main = m_pMainModel->Find(nMainItem);
     m_pMainList->setCurrentIndex(main.isValid() ? main : m_pMainModel->index(0));
     const QModelIndex sub = main.isValid() ? m_pSubModel->Find(nSubItem) : QModelIndex();
@@ -111,19 +136,29 @@ void CAlarmTypeMenu::Open(int nMainItem, int nSubItem)
     (sub.isValid() ? m_pSubList : m_pMainList)->setFocus();
 }
 
+bool CAlarmTypeMenu::IsMirrored() const
+{
+    return layoutDirection() == Qt::RightToLeft;
+}
+
 void CAlarmTypeMenu::Place()
 {
     ensurePolished();
-    const int nRowHeight = qMax(1, m_pMainList->sizeHintForRow(0));
-    const int nRows = qBound(1, m_pMainModel->rowCount(), g_nMaxRows);
-    resize(g_nMainWidth + g_nSubWidth, nRows * nRowHeight + g_nFrame);
-
     const QWidget* pOwner = parentWidget();
     const QRect owner(pOwner->mapToGlobal(QPoint()), pOwner->size());
     const QRect screen = pOwner->screen()->availableGeometry();
-    const bool bAbove = owner.bottom() + height() > screen.bottom() && owner.top() - height() >= screen.top();
-    const int nTop = bAbove ? owner.top() - height() : owner.bottom() + 1;
-    move(qMax(screen.left(), qMin(owner.left(), screen.right() - width())), nTop);
+    const int nRoomAbove = owner.top() - screen.top();
+    const int nRoomBelow = screen.bottom() - owner.bottom();
+
+    const int nRowHeight = qMax(1, m_pMainList->sizeHintForRow(0));
+    const int nRows = qBound(1, m_pMainModel->rowCount(), g_nMaxRows);
+    const QSize wanted = QSize(0, nRows * nRowHeight + g_nFrame).expandedTo(layout()->minimumSize());
+    const bool bAbove = wanted.height() > nRoomBelow && nRoomAbove > nRoomBelow;
+    resize(wanted.width(), qMin(wanted.height(), bAbove ? nRoomAbove : nRoomBelow));
+
+    const int nLeft = IsMirrored() ? owner.right() + 1 - width() : owner.left();
+    const int nRightmost = screen.right() + 1 - width();
+    move(qMax(screen.left(), qMin(nLeft, nRightmost)), bAbove ? owner.top() - height() : owner.bottom() + 1);
 }
 
 void CAlarmTypeMenu::Search(const QString& strText)
@@ -156,10 +191,44 @@ void CAlarmTypeMenu::Choose(const QModelIndex& index)
     }
 }
 
+void CAlarmTypeMenu::FollowMouse(const QPoint& pos)
+{
+    m_mouse = pos;
+    m_mouseRests.start();
+    if (!IsOnTheWayToTypes(pos))
+    {
+        ShowCategoryUnderMouse();
+    }
+}
+
+/// Whether the mouse, if it goes straight on, gets from the categories to the types.
+bool CAlarmTypeMenu::IsOnTheWayToTypes(const QPoint& pos) const
+{
+    const QRect types(m_pMainList->viewport()->mapFrom(this, m_pSubList->pos()), m_pSubList->size());
+    const int nDistance = (IsMirrored() ? types.right() : types.left()) - m_mouseOrigin.x();
+    const int nAdvance = pos.x() - m_mouseOrigin.x();
+    if (nAdvance == 0 || (nAdvance < 0) != IsMirrored())
+    {
+        return false;
+    }
+    const double dArrival = m_mouseOrigin.y() + double(pos.y() - m_mouseOrigin.y()) * nDistance / nAdvance;
+    return dArrival >= types.top() && dArrival <= types.bottom();
+}
+
+void CAlarmTypeMenu::ShowCategoryUnderMouse()
+{
+    m_mouseOrigin = m_mouse;
+    const QModelIndex index = m_pMainList->indexAt(m_mouse);
+    if (index.isValid())
+    {
+        m_pMainList->setCurrentIndex(index);
+    }
+}
+
 bool CAlarmTypeMenu::OnKey(const QObject* pList, int nKey)
 {
     const bool bMain = pList == m_pMainList;
-    switch (nKey)
+    switch (IsMirrored() ? Mirrored(nKey) : nKey)
     {
     case Qt::Key_Escape:
     case Qt::Key_F4:
@@ -189,11 +258,32 @@ bool CAlarmTypeMenu::OnKey(const QObject* pList, int nKey)
 
 bool CAlarmTypeMenu::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
-    if (pEvent->type() == QEvent::KeyPress && OnKey(pWatched, static_cast<QKeyEvent*>(pEvent)->key()))
+    const bool bCategories = pWatched == m_pMainList->viewport();
+    switch (pEvent->type())
     {
-        return true;
+    case QEvent::KeyPress:
+        return OnKey(pWatched, static_cast<QKeyEvent*>(pEvent)->key());
+    case QEvent::Enter:
+        if (bCategories)
+        {
+            m_mouseOrigin = static_cast<QEnterEvent*>(pEvent)->pos();
+        }
+        return false;
+    case QEvent::MouseMove:
+        if (bCategories)
+        {
+            FollowMouse(static_cast<QMouseEvent*>(pEvent)->pos());
+        }
+        return false;
+    case QEvent::Leave:
+        if (bCategories)
+        {
+            m_mouseRests.stop();
+        }
+        return false;
+    default:
+        return false;
     }
-    return QWidget::eventFilter(pWatched, pEvent);
 }
 
 void CAlarmTypeMenu::showEvent(QShowEvent* pEvent)

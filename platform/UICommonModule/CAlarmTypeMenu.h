@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMap>
+#include <QTimer>
 #include <QWidget>
 
 class QListView;
@@ -10,7 +11,8 @@ namespace UICommonMdl
 
 class CMenuModel;
 
-/// The menu of CAlarmTypeCombox: two lists beside each other, which scroll and take any number of items.
+/// The menu of CAlarmTypeCombox: two lists beside each other, which scroll and take any number of items. The mouse
+/// shows the category that it is over, but not those that it only crosses on its way to the types.
 class CAlarmTypeMenu : public QWidget
 {
     Q_OBJECT
@@ -22,7 +24,7 @@ public:
     void SetItems(const QMap<int, QString>& mapMain, const QMap<int, QMap<int, QString>>& mapSub);
 
     /// Opens the menu below its owner, or above where there is more room, with an item current. A sub item that there
-    /// is not leaves the main items in charge.
+    /// is not leaves the main items in charge. It runs in the owner's direction.
     void Open(int nMainItem, int nSubItem);
 
     /// Looks for typed text in the list that is in charge.
@@ -43,6 +45,10 @@ private:
     void EnterTypes();
     void Choose(const QModelIndex& index);
     bool OnKey(const QObject* pList, int nKey);
+    bool IsMirrored() const;
+    void FollowMouse(const QPoint& pos);
+    bool IsOnTheWayToTypes(const QPoint& pos) const;
+    void ShowCategoryUnderMouse();
     void Place();
 
     QMap<int, QMap<int, QString>> m_mapSub;
@@ -50,6 +56,9 @@ private:
     CMenuModel* m_pSubModel;
     QListView* m_pMainList;
     QListView* m_pSubList;
+    QPoint m_mouse;       // in the viewport of the main list
+    QPoint m_mouseOrigin; // where the way that the mouse takes began
+    QTimer m_mouseRests;
 };
 
 } // namespace UICommonMdl

@@ -8,9 +8,11 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QListView>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryFile>
+#include <QWindow>
 #include <QtTest>
 
 using UICommonMdl::CAlarmType;
@@ -71,6 +73,12 @@ private slots:
     void AnEmptyMenuDoesNotOpen();
     void TheMousePicks();
     void HoveringShowsACategory();
+    void CrossingCategoriesOnTheWayToTheTypes_data();
+    void CrossingCategoriesOnTheWayToTheTypes();
+    void RestingOnTheWayShowsThatCategory();
+    void MovingDownShowsEachCategoryAtOnce();
+    void ModifiedClicksLeaveTheCategoryMarked_data();
+    void ModifiedClicksLeaveTheCategoryMarked();
     void KeysPick();
     void LeftLeadsBackAndEscapeCloses();
     void AClickedCategoryHasTheKeys();
@@ -80,6 +88,11 @@ private slots:
     void ArrowsOnTheClosedBoxOpenTheMenu();
     void KeysThatAreNotTheBoxs_data();
     void KeysThatAreNotTheBoxs();
+    void TheMenuStartsWhereTheBoxStarts_data();
+    void TheMenuStartsWhereTheBoxStarts();
+    void KeysAreMirrored();
+    void TheMenuStaysOnTheScreen_data();
+    void TheMenuStaysOnTheScreen();
     void PressingTheBoxAgainClosesTheMenu();
     void HidingThePopupClosesTheMenu();
     void TheWheelChangesNothing();
@@ -99,14 +112,16 @@ private:
         }
         return listTexts;
     }
+    static QRect RowOf(const QListView* pList, int nRow) { return pList->visualRect(pList->model()->index(nRow, 0)); }
     static QString Current(const QListView* pList) { return pList->currentIndex().data().toString(); }
     static void Click(QListView* pList, int nRow)
     {
-        const QRect row = pList->visualRect(pList->model()->index(nRow, 0));
-        QTest::mouseClick(pList->viewport(), Qt::LeftButton, {}, row.center());
+        QTest::mouseClick(pList->viewport(), Qt::LeftButton, {}, RowOf(pList, nRow).center());
     }
     QAccessibleInterface* Accessible() const { return QAccessible::queryAccessibleInterface(m_pCombo); }
     QString Value() const { return Accessible()->text(QAccessible::Value); }
+    /// Where the menu is, without the frame that the off-screen platform gives every window.
+    QRect Place() const { return {Menu()->windowHandle()->framePosition(), Menu()->size()}; }
     bool IsOpen() const { return Menu() && Menu()->isVisible(); }
 
     static QByteArray Type(int nId)
@@ -411,10 +426,78 @@ void tst_AlarmTypeCombox::TheMousePicks()
 void tst_AlarmTypeCombox::HoveringShowsACategory()
 {
     m_pCombo->showPopup();
-    QTest::mouseMove(Main()->viewport(), Main()->visualRect(Main()->model()->index(0, 0)).center());
-    QTest::mouseMove(Main()->viewport(), Main()->visualRect(Main()->model()->index(2, 0)).center());
+    QTest::mouseMove(Main()->viewport(), RowOf(Main(), 0).center());
+    QTest::mouseMove(Main()->viewport(), RowOf(Main(), 2).center());
     QTRY_COMPARE(Texts(Sub()), QStringList{"Plate"});
     QCOMPARE(m_pSpy->size(), 0);
+}
+
+void tst_AlarmTypeCombox::CrossingCategoriesOnTheWayToTheTypes_data()
+{
+    QTest::addColumn<bool>("bMirrored");
+    QTest::newRow("left to right") << false;
+    QTest::newRow("right to left") << true;
+}
+
+void tst_AlarmTypeCombox::CrossingCategoriesOnTheWayToTheTypes()
+{
+    QFETCH(bool, bMirrored);
+    m_pCombo->setLayoutDirection(bMirrored ? Qt::RightToLeft : Qt::LeftToRight);
+    m_pCombo->showPopup();
+    const QWidget* pMain = Main()->viewport();
+    const QPoint start(pMain->width() / 2, RowOf(Main(), 0).center().y());
+    const QPoint end(bMirrored ? 0 : pMain->width() - 1, RowOf(Main(), 2).center().y());
+    QTest::mouseMove(Main()->viewport(), start);
+    for (int n = 1; n <= 40; ++n)
+    {
+        QTest::mouseMove(Main()->viewport(), start + (end - start) * n / 40);
+        QCOMPARE(Current(Main()), QString("Device"));
+    }
+    QTest::mouseMove(Sub()->viewport(), RowOf(Sub(), 1).center());
+    QTest::qWait(400);
+    QCOMPARE(Current(Main()), QString("Device"));
+    Click(Sub(), 1);
+    QCOMPARE(m_pSpy->value(0), (QVariantList{2, 1}));
+}
+
+void tst_AlarmTypeCombox::RestingOnTheWayShowsThatCategory()
+{
+    m_pCombo->showPopup();
+    QTest::mouseMove(Main()->viewport(), RowOf(Main(), 0).center());
+    QTest::mouseMove(Main()->viewport(), RowOf(Main(), 1).center() + QPoint(60, 0));
+    QCOMPARE(Current(Main()), QString("Device"));
+    QTRY_COMPARE(Current(Main()), QString("Video"));
+    QCOMPARE(Texts(Sub()), (QStringList{"Loss", "Motion", "Tampering"}));
+}
+
+void tst_AlarmTypeCombox::MovingDownShowsEachCategoryAtOnce()
+{
+    m_pCombo->showPopup();
+    QTest::mouseMove(Main()->viewport(), RowOf(Main(), 0).center());
+    QTest::mouseMove(Main()->viewport(), RowOf(Main(), 1).center() + QPoint(2, 0));
+    QCOMPARE(Current(Main()), QString("Video"));
+    QTest::mouseMove(Main()->viewport(), RowOf(Main(), 2).center() - QPoint(60, 0));
+    QCOMPARE(Current(Main()), QString("Vehicle"));
+}
+
+void tst_AlarmTypeCombox::ModifiedClicksLeaveTheCategoryMarked_data()
+{
+    QTest::addColumn<int>("nModifiers");
+    QTest::newRow("Ctrl") << int(Qt::ControlModifier);
+    QTest::newRow("Shift") << int(Qt::ShiftModifier);
+}
+
+void tst_AlarmTypeCombox::ModifiedClicksLeaveTheCategoryMarked()
+{
+    QFETCH(int, nModifiers);
+    m_pCombo->showPopup();
+    for (int nRow : {0, 1, 1})
+    {
+        QTest::mouseClick(Main()->viewport(), Qt::LeftButton, Qt::KeyboardModifiers(nModifiers),
+                          RowOf(Main(), nRow).center());
+        QCOMPARE(Main()->currentIndex().row(), nRow);
+        QCOMPARE(Main()->selectionModel()->selectedIndexes(), QModelIndexList{Main()->currentIndex()});
+    }
 }
 
 void tst_AlarmTypeCombox::KeysPick()
@@ -513,6 +596,64 @@ void tst_AlarmTypeCombox::KeysThatAreNotTheBoxs()
     QApplication::sendEvent(m_pCombo, &event);
     QVERIFY(!IsOpen());
     QVERIFY(!event.isAccepted());
+}
+
+void tst_AlarmTypeCombox::TheMenuStartsWhereTheBoxStarts_data()
+{
+    QTest::addColumn<bool>("bMirrored");
+    QTest::newRow("left to right") << false;
+    QTest::newRow("right to left") << true;
+}
+
+void tst_AlarmTypeCombox::TheMenuStartsWhereTheBoxStarts()
+{
+    QFETCH(bool, bMirrored);
+    m_pCombo->setGeometry(bMirrored ? 420 : 200, 10, 240, 32);
+    m_pCombo->setLayoutDirection(bMirrored ? Qt::RightToLeft : Qt::LeftToRight);
+    m_pCombo->showPopup();
+    const QRect box(m_pCombo->mapToGlobal(QPoint()), m_pCombo->size());
+    QCOMPARE(bMirrored ? Place().right() : Place().left(), bMirrored ? box.right() : box.left());
+    QCOMPARE(Main()->x() > Sub()->x(), bMirrored);
+}
+
+void tst_AlarmTypeCombox::KeysAreMirrored()
+{
+    m_pCombo->setLayoutDirection(Qt::RightToLeft);
+    m_pCombo->showPopup();
+    QTest::keyClick(Main(), Qt::Key_Right);
+    QVERIFY(Main()->hasFocus());
+    QTest::keyClick(Main(), Qt::Key_Left);
+    QVERIFY(Sub()->hasFocus());
+    QTest::keyClick(Sub(), Qt::Key_Right);
+    QVERIFY(Main()->hasFocus());
+}
+
+void tst_AlarmTypeCombox::TheMenuStaysOnTheScreen_data()
+{
+    QTest::addColumn<bool>("bMirrored");
+    QTest::addColumn<QPoint>("corner"); // 0 or 1: which edge of the screen the box stands at
+    for (bool bMirrored : {false, true})
+    {
+        for (int n = 0; n < 4; ++n)
+        {
+            QTest::addRow("%s, corner %d", bMirrored ? "right to left" : "left to right", n)
+                << bMirrored << QPoint(n % 2, n / 2);
+        }
+    }
+}
+
+void tst_AlarmTypeCombox::TheMenuStaysOnTheScreen()
+{
+    QFETCH(bool, bMirrored);
+    QFETCH(QPoint, corner);
+    const QRect screen = m_pWindow->screen()->availableGeometry();
+    m_pWindow->resize(260, 60);
+    m_pWindow->move(screen.left() + corner.x() * (screen.width() - 260),
+                    screen.top() + corner.y() * (screen.height() - 60));
+    m_pCombo->setLayoutDirection(bMirrored ? Qt::RightToLeft : Qt::LeftToRight);
+    m_pCombo->showPopup();
+    QVERIFY(screen.contains(Place()));
+    QVERIFY(!Place().intersects(QRect(m_pCombo->mapToGlobal(QPoint()), m_pCombo->size())));
 }
 
 void tst_AlarmTypeCombox::PressingTheBoxAgainClosesTheMenu()
