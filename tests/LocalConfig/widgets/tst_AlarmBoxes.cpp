@@ -5,12 +5,18 @@
 #include <KvGui/KvCheckBox.h>
 #include <KvGui/KvListWidget.h>
 #include <LocalConfig/widgets/QCheckableComboBox.h>
+#include <UICommonModule/CAlarmType.h>
+#include <UICommonModule/CAlarmTypeCombox.h>
+
+#include <QAccessible>
+#include <QTemporaryFile>
 
 #include <functional>
 
 using KVGUI::KvCheckBox;
 using KVGUI::KvListWidget;
 using LocalConfig::QCheckableComboBox;
+using UICommonMdl::CAlarmType;
 
 namespace
 {
@@ -65,6 +71,7 @@ private slots:
     void ClosingTheMapBoxsListDoesNoMore_data();
     void ClosingTheMapBoxsListDoesNoMore();
     void HidingTheDialogClosesTheMapBoxsList();
+    void TheSoundBoxKeepsItsTypeOverANewCatalogue();
 };
 
 void tst_AlarmBoxes::TheMapBoxIsWorkedByKeyboard()
@@ -120,6 +127,37 @@ void tst_AlarmBoxes::HidingTheDialogClosesTheMapBoxsList()
     d.dialog.hide();
     QVERIFY(!d.List()->isVisible());
     QCOMPARE(d.pBox->currentText(), d.strBefore);
+}
+
+void tst_AlarmBoxes::TheSoundBoxKeepsItsTypeOverANewCatalogue()
+{
+    SRealHost host;
+    SRealDialog d(host);
+    d.Open();
+    auto* pBox = d.Find<UICommonMdl::CAlarmTypeCombox>("cbxAlarmTypeForSound");
+    pBox->setFocus();
+    QTest::keyClick(pBox, Qt::Key_Down);
+    for (int nKey : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Return})
+    {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(nKey));
+    }
+    CAlarmType* pCatalogue = CAlarmType::Instance();
+    const int nType = pCatalogue->GetAlarmTypeIdByIndex(pBox->GetCurrentChosenItem().value(0));
+    QVERIFY(nType > 0);
+
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write(QString("<AlarmTypes><Category id='2' name='Other'><Group id='5' name='Other'>"
+                       "<Type id='77' name='Other'/><Type id='78' name='Another'/><Type id='79' name='One more'/>"
+                       "<Type id='%1' name='The same'/></Group></Category></AlarmTypes>")
+                   .arg(nType)
+                   .toUtf8());
+    file.flush();
+    pCatalogue->Load(file.fileName());
+
+    QCOMPARE(pBox->GetCurrentChosenItem(), QList<int>{3});
+    QCOMPARE(QAccessible::queryAccessibleInterface(pBox)->text(QAccessible::Value), QString("The same"));
+    pCatalogue->Load();
 }
 
 QTEST_MAIN(tst_AlarmBoxes)
