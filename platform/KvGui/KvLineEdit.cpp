@@ -20,7 +20,11 @@ KvLineEdit::KvLineEdit(QWidget* pParent)
 
 KvLineEdit::~KvLineEdit()
 {
-    delete m_pTip;
+    if (m_pTip)
+    {
+        m_pTip->disconnect(this); // there is nothing left to tidy up
+        delete m_pTip;
+    }
 }
 
 void KvLineEdit::showErrorHint(QWidget* pTipParent, bool bError, const QString& strText)
@@ -78,10 +82,13 @@ void KvLineEdit::ShowTip(QWidget* pTipParent, const QString& strText)
         m_pTip->setObjectName(QStringLiteral("errorTip"));
         m_pTip->setAttribute(Qt::WA_TransparentForMouseEvents);
         m_pTip->setWordWrap(true);
+        connect(m_pTip, &QLabel::destroyed, this, &KvLineEdit::OnTipGone);
+        m_strOwnDescription = accessibleDescription();
         // The field's place on the tip's parent depends on every widget between the two.
         for (QWidget* pWidget = this; pWidget; pWidget = pWidget->parentWidget())
         {
             pWidget->installEventFilter(this);
+            m_listWatched += pWidget;
             if (pWidget == pTipParent || pWidget->isWindow())
             {
                 break;
@@ -96,16 +103,20 @@ void KvLineEdit::ShowTip(QWidget* pTipParent, const QString& strText)
 
 void KvLineEdit::DropTip()
 {
-    if (!m_pTip)
-    {
-        return;
-    }
-    for (QWidget* pWidget = this; pWidget; pWidget = pWidget->parentWidget())
-    {
-        pWidget->removeEventFilter(this);
-    }
-    setAccessibleDescription(QString());
     delete m_pTip;
+}
+
+void KvLineEdit::OnTipGone()
+{
+    for (const QPointer<QWidget>& pWidget : qAsConst(m_listWatched))
+    {
+        if (pWidget)
+        {
+            pWidget->removeEventFilter(this);
+        }
+    }
+    m_listWatched.clear();
+    setAccessibleDescription(m_strOwnDescription);
 }
 
 void KvLineEdit::PlaceTip()

@@ -3,6 +3,7 @@
 #include <KvGui/KvGuiExport.h>
 
 #include <QLineEdit>
+#include <QList>
 #include <QPointer>
 
 class QLabel;
@@ -42,9 +43,12 @@ private:
     void SetError(bool bError);
     void ShowTip(QWidget* pTipParent, const QString& strText);
     void DropTip();
+    void OnTipGone();
     void PlaceTip();
 
-    QPointer<QLabel> m_pTip; // a child of the tip's parent, which may die before this field
+    QPointer<QLabel> m_pTip;                // a child of the tip's parent, which may die before this field
+    QList<QPointer<QWidget>> m_listWatched; // while there is a tip
+    QString m_strOwnDescription;            // what the tip stands in for
     bool m_bError = false;
 };
 

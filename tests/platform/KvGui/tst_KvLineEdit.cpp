@@ -5,7 +5,54 @@
 #include <QScrollBar>
 #include <QtTest>
 
+#include <functional>
+
 using KVGUI::KvLineEdit;
+
+namespace
+{
+
+/// Counts what it sees of other widgets.
+class CWatchingEdit : public KvLineEdit
+{
+public:
+    using KvLineEdit::KvLineEdit;
+
+    int m_nSeen = 0;
+
+protected:
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        ++m_nSeen;
+        return KvLineEdit::eventFilter(pWatched, pEvent);
+    }
+};
+
+/// A window with a pane, and in that a field whose tip stands in the window.
+struct SForm
+{
+    SForm()
+        : pTipParent(new QWidget(&window))
+        , pPane(new QWidget(&window))
+        , pEdit(new CWatchingEdit(pPane))
+    {
+        window.resize(400, 200);
+        window.show();
+        pEdit->setAccessibleDescription("The folder for pictures");
+        pEdit->showErrorHint(pTipParent, true, "Too long");
+    }
+
+    QWidget window;
+    QWidget other;
+    QWidget* pTipParent;
+    QWidget* pPane;
+    CWatchingEdit* pEdit;
+};
+
+} // namespace
+
+using Step = std::function<void(SForm&)>;
+Q_DECLARE_METATYPE(Step)
 
 class tst_KvLineEdit : public QObject
 {
@@ -30,6 +77,10 @@ private slots:
     void TheTipTakesNoFocusAndNoClicks();
     void TheTipGoesWithTheField();
     void TheTipParentMayGoFirst();
+    void ATipThatGoesTakesItsDescriptionAlong_data();
+    void ATipThatGoesTakesItsDescriptionAlong();
+    void ATipThatGoesWatchesNothingAnyMore_data() { ATipThatGoesTakesItsDescriptionAlong_data(); }
+    void ATipThatGoesWatchesNothingAnyMore();
 
 private:
     QLabel* Tip() const { return m_pParent->findChild<QLabel*>("errorTip"); }
@@ -193,6 +244,48 @@ void tst_KvLineEdit::TheTipParentMayGoFirst()
     QVERIFY(m_pEdit->GetErrorHintText().isEmpty());
     m_pEdit->showErrorHint(nullptr, true, QString());
     QVERIFY(!m_pEdit->IsErrorHintShown());
+}
+
+void tst_KvLineEdit::ATipThatGoesTakesItsDescriptionAlong_data()
+{
+    QTest::addColumn<Step>("step");
+    const auto row = [](const char* pszName, const Step& step) { QTest::newRow(pszName) << step; };
+    row("its parent dies", [](const SForm& form) { delete form.pTipParent; });
+    row("cleared", [](const SForm& form) { form.pEdit->showErrorHint(nullptr, true, QString()); });
+    row("the mark alone", [](const SForm& form) { form.pEdit->showErrorHintNoTip(true); });
+    row("cleared elsewhere", [](SForm& form) {
+        form.pEdit->setParent(&form.other);
+        form.pEdit->showErrorHint(nullptr, true, QString());
+    });
+    row("another parent, which dies", [](const SForm& form) {
+        auto* pSecond = new QWidget(form.pPane);
+        form.pEdit->showErrorHint(pSecond, true, "Still too long");
+        delete pSecond;
+    });
+}
+
+void tst_KvLineEdit::ATipThatGoesTakesItsDescriptionAlong()
+{
+    QFETCH(Step, step);
+    SForm form;
+    QCOMPARE(form.pEdit->accessibleDescription(), QString("Too long"));
+    step(form);
+    QCOMPARE(form.pEdit->accessibleDescription(), QString("The folder for pictures"));
+}
+
+void tst_KvLineEdit::ATipThatGoesWatchesNothingAnyMore()
+{
+    QFETCH(Step, step);
+    SForm form;
+    form.pEdit->m_nSeen = 0;
+    form.pPane->move(10, 0);
+    QVERIFY(form.pEdit->m_nSeen > 0);
+    step(form);
+    form.pEdit->m_nSeen = 0;
+    form.pPane->move(20, 0);
+    form.pEdit->move(5, 5);
+    form.window.resize(500, 200);
+    QCOMPARE(form.pEdit->m_nSeen, 0);
 }
 
 QTEST_MAIN(tst_KvLineEdit)
