@@ -28,16 +28,37 @@ void KvTableView::setModel(QAbstractItemModel* pModel)
     if (pModel)
     {
         m_listConnections = {
-            connect(pModel, &QAbstractItemModel::headerDataChanged, this, &KvTableView::ApplyColumnWidths),
-            connect(pModel, &QAbstractItemModel::columnsInserted, this, &KvTableView::ApplyColumnWidths),
-            connect(pModel, &QAbstractItemModel::modelReset, this, &KvTableView::ApplyColumnWidths)};
-        ApplyColumnWidths();
+            connect(pModel, &QAbstractItemModel::headerDataChanged, this, &KvTableView::OnHeaderDataChanged),
+            connect(pModel, &QAbstractItemModel::columnsInserted, this, &KvTableView::OnColumnsInserted),
+            connect(pModel, &QAbstractItemModel::modelReset, this, &KvTableView::OnModelReset)};
+        OnModelReset();
     }
 }
 
-void KvTableView::ApplyColumnWidths()
+void KvTableView::OnHeaderDataChanged(Qt::Orientation eOrientation, int nFirst, int nLast)
 {
-    for (int nColumn = 0; nColumn < model()->columnCount(rootIndex()); ++nColumn)
+    if (eOrientation == Qt::Horizontal)
+    {
+        ApplyColumnWidths(nFirst, nLast);
+    }
+}
+
+void KvTableView::OnColumnsInserted(const QModelIndex& parent, int nFirst, int nLast)
+{
+    if (parent == rootIndex())
+    {
+        ApplyColumnWidths(nFirst, nLast);
+    }
+}
+
+void KvTableView::OnModelReset()
+{
+    ApplyColumnWidths(0, model()->columnCount(rootIndex()) - 1);
+}
+
+void KvTableView::ApplyColumnWidths(int nFirst, int nLast)
+{
+    for (int nColumn = nFirst; nColumn <= nLast; ++nColumn)
     {
         const int nWidth = model()->headerData(nColumn, Qt::Horizontal, ColumnWidthRole).toInt();
         if (nWidth > 0)

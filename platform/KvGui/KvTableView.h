@@ -8,7 +8,8 @@ namespace KVGUI
 {
 
 /// Table with the client's look. The model names the width of a column, in pixels, under the header role
-/// ColumnWidthRole; columns without one keep their default width.
+/// ColumnWidthRole; columns without one keep their default width. A width that the user has given stays until the
+/// model changes that column's header.
 class KVGUI_EXPORT KvTableView : public QTableView
 {
     Q_OBJECT
@@ -21,7 +22,10 @@ public:
     void setModel(QAbstractItemModel* pModel) override;
 
 private:
-    void ApplyColumnWidths();
+    void OnHeaderDataChanged(Qt::Orientation eOrientation, int nFirst, int nLast);
+    void OnColumnsInserted(const QModelIndex& parent, int nFirst, int nLast);
+    void OnModelReset();
+    void ApplyColumnWidths(int nFirst, int nLast);
 
     QList<QMetaObject::Connection> m_listConnections; // to the model
 };

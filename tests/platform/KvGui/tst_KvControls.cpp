@@ -21,6 +21,8 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
+#include <functional>
+
 using namespace KVGUI;
 
 namespace
@@ -53,6 +55,8 @@ constexpr SControl g_arrControls[] = {
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(QStandardItemModel&)>)
+
 class tst_KvControls : public QObject
 {
     Q_OBJECT
@@ -69,6 +73,8 @@ private slots:
     void ScrollBarsHaveTheirDirection();
     void TablesTakeColumnWidthsFromTheHeader();
     void TablesFollowLaterWidths();
+    void OnlyTheColumnsConcernedGetTheirWidth_data();
+    void OnlyTheColumnsConcernedGetTheirWidth();
     void TheWorkingFolder();
 };
 
@@ -225,6 +231,41 @@ void tst_KvControls::TablesFollowLaterWidths()
     view.setModel(nullptr);
     model.setHeaderData(0, Qt::Horizontal, 111, 366);
     QVERIFY(!view.model());
+}
+
+void tst_KvControls::OnlyTheColumnsConcernedGetTheirWidth_data()
+{
+    using Change = std::function<void(QStandardItemModel&)>;
+    QTest::addColumn<Change>("change");
+    const auto row = [](const char* pszName, const Change& change) { QTest::newRow(pszName) << change; };
+    row("a row's caption", [](QStandardItemModel& model) { model.setHeaderData(0, Qt::Vertical, "Row"); });
+    row("another column", [](QStandardItemModel& model) { model.setHeaderData(1, Qt::Horizontal, "Column"); });
+    row("another column's width", [](QStandardItemModel& model) { model.setHeaderData(1, Qt::Horizontal, 90, 366); });
+    row("a new column", [](QStandardItemModel& model) { model.insertColumn(2); });
+    row("a new row", [](QStandardItemModel& model) { model.insertRow(0); });
+}
+
+void tst_KvControls::OnlyTheColumnsConcernedGetTheirWidth()
+{
+    using Change = std::function<void(QStandardItemModel&)>;
+    QFETCH(Change, change);
+    QStandardItemModel model(2, 2);
+    model.setHeaderData(0, Qt::Horizontal, 160, 366);
+    KvTableView view;
+    view.setModel(&model);
+    view.resize(600, 200);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QHeaderView* pHeader = view.horizontalHeader();
+    const QPoint edge(pHeader->sectionViewportPosition(1) - 1, pHeader->height() / 2);
+    QTest::mousePress(pHeader->viewport(), Qt::LeftButton, {}, edge);
+    QMouseEvent move(QEvent::MouseMove, edge + QPoint(40, 0), Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(pHeader->viewport(), &move);
+    QTest::mouseRelease(pHeader->viewport(), Qt::LeftButton, {}, edge + QPoint(40, 0));
+    QCOMPARE(view.columnWidth(0), 200);
+
+    change(model);
+    QCOMPARE(view.columnWidth(0), 200);
 }
 
 void tst_KvControls::TheWorkingFolder()
