@@ -157,10 +157,21 @@ void KvToolListView::PickAgainUnlessChanged(const QModelIndex& before)
     }
 }
 
+QItemSelectionModel::SelectionFlags KvToolListView::selectionCommand(const QModelIndex& index,
+                                                                     const QEvent* pEvent) const
+{
+    const QItemSelectionModel::SelectionFlags eFlags = QListView::selectionCommand(index, pEvent);
+    return eFlags.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::ClearAndSelect : eFlags; // with Ctrl
+}
+
 void KvToolListView::mousePressEvent(QMouseEvent* pEvent)
 {
+    if (pEvent->button() != Qt::LeftButton)
+    {
+        return;
+    }
     const QModelIndex before = currentIndex();
-    const bool bOnCurrent = pEvent->button() == Qt::LeftButton && indexAt(pEvent->pos()) == before;
+    const bool bOnCurrent = indexAt(pEvent->pos()) == before;
     QListView::mousePressEvent(pEvent);
     if (bOnCurrent)
     {

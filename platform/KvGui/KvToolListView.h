@@ -13,7 +13,8 @@ namespace KVGUI
 /// Navigation list of icons and texts.
 ///
 /// An entry's index is its place in the order of AddItem and never changes, also when entries before it are removed.
-/// Mouse, arrow keys, Home and End pick an entry. The colours are properties, so that style sheets can set them.
+/// The left mouse button, arrow keys, Home and End pick an entry, which is then selected whatever else is held. The
+/// colours are properties, so that style sheets can set them.
 class KVGUI_EXPORT KvToolListView : public QListView
 {
     Q_OBJECT
@@ -43,6 +44,8 @@ signals:
     void SignalColorChanged();
 
 protected:
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* pEvent = nullptr) const override;
     void mousePressEvent(QMouseEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;

@@ -3,7 +3,11 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <functional>
+
 using KVGUI::KvToolListView;
+
+Q_DECLARE_METATYPE(std::function<void(KvToolListView&, QPoint)>)
 
 class tst_KvToolListView : public QObject
 {
@@ -25,6 +29,10 @@ private slots:
     void AClickEmitsOnce();
     void AClickOnTheCurrentEntryEmitsAgain();
     void AClickBesideTheEntriesIsSilent();
+    void OtherButtonsPickNothing_data();
+    void OtherButtonsPickNothing();
+    void CtrlKeepsTheCurrentEntrySelected_data();
+    void CtrlKeepsTheCurrentEntrySelected();
     void KeysMove();
     void KeysOnTheCurrentEntry_data();
     void KeysOnTheCurrentEntry();
@@ -47,6 +55,16 @@ private:
             listIndices += m_pSpy->takeFirst().first().toInt();
         }
         return listIndices;
+    }
+
+    QList<int> Selected() const
+    {
+        QList<int> listRows;
+        for (const QModelIndex& index : m_pList->selectionModel()->selectedIndexes())
+        {
+            listRows += index.row();
+        }
+        return listRows;
     }
 
     QScopedPointer<KvToolListView> m_pList;
@@ -167,6 +185,53 @@ void tst_KvToolListView::AClickBesideTheEntriesIsSilent()
     QTest::mouseClick(m_pList->viewport(), Qt::LeftButton, {}, QPoint(20, m_pList->viewport()->height() - 5));
     QCOMPARE(Emitted(), QList<int>());
     QCOMPARE(m_pList->GetCurrentIndex(), 4);
+}
+
+void tst_KvToolListView::OtherButtonsPickNothing_data()
+{
+    QTest::addColumn<int>("nButton");
+    QTest::newRow("right") << int(Qt::RightButton);
+    QTest::newRow("middle") << int(Qt::MiddleButton);
+    QTest::newRow("back") << int(Qt::BackButton);
+}
+
+void tst_KvToolListView::OtherButtonsPickNothing()
+{
+    QFETCH(int, nButton);
+    Click(4);
+    Emitted();
+    const QPoint other = m_pList->visualRect(m_pList->model()->index(2, 0)).center();
+    QTest::mouseClick(m_pList->viewport(), Qt::MouseButton(nButton), {}, other);
+    QTest::mouseDClick(m_pList->viewport(), Qt::MouseButton(nButton), {}, other);
+    QCOMPARE(Emitted(), QList<int>());
+    QCOMPARE(m_pList->GetCurrentIndex(), 4);
+    QCOMPARE(Selected(), QList<int>{4});
+}
+
+void tst_KvToolListView::CtrlKeepsTheCurrentEntrySelected_data()
+{
+    using Use = std::function<void(KvToolListView&, QPoint)>;
+    QTest::addColumn<Use>("use");
+    const auto row = [](const char* pszName, const Use& use) { QTest::newRow(pszName) << use; };
+    row("click", [](const KvToolListView& list, const QPoint& pos) {
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, pos);
+    });
+    row("Space",
+        [](KvToolListView& list, const QPoint&) { QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier); });
+}
+
+void tst_KvToolListView::CtrlKeepsTheCurrentEntrySelected()
+{
+    using Use = std::function<void(KvToolListView&, QPoint)>;
+    QFETCH(Use, use);
+    Click(4);
+    const QPoint current = m_pList->visualRect(m_pList->model()->index(4, 0)).center();
+    for (int n = 0; n < 2; ++n)
+    {
+        use(*m_pList, current);
+        QCOMPARE(m_pList->GetCurrentIndex(), 4);
+        QCOMPARE(Selected(), QList<int>{4});
+    }
 }
 
 void tst_KvToolListView::KeysMove()
