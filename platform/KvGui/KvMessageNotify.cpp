@@ -1,5 +1,6 @@
 #include "KvMessageNotify.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QEvent>
 #include <QFrame>
@@ -26,10 +27,13 @@ constexpr int g_nMaxWidth = 560;
 class CNotifyBar : public QFrame
 {
 public:
-    CNotifyBar(const QString& strText, QWidget* pWindow)
+    CNotifyBar(const QString& strText, QWidget* pWindow, int nDuration)
         : QFrame(pWindow)
         , m_pText(new QLabel(strText, this))
     {
+        m_timer.setSingleShot(true);
+        m_timer.setInterval(nDuration);
+        connect(&m_timer, &QTimer::timeout, this, [this] { m_endHandler(); });
         setObjectName(QStringLiteral("notifyBar"));
         setAttribute(Qt::WA_StyledBackground);
         setAutoFillBackground(true);
@@ -44,7 +48,21 @@ public:
         pLayout->addWidget(m_pText);
     }
 
-    void SetClickHandler(std::function<void()> handler) { m_clickHandler = std::move(handler); }
+    /// Called when the bar is clicked or has been seen for long enough.
+    void SetEndHandler(std::function<void()> handler) { m_endHandler = std::move(handler); }
+
+    /// Time passes only while the bar can be seen.
+    void SetSeen(bool bSeen)
+    {
+        if (!bSeen)
+        {
+            m_timer.stop();
+        }
+        else if (!m_timer.isActive())
+        {
+            m_timer.start();
+        }
+    }
 
     /// As wide as the text needs, as high as it is then.
     void FitInto(int nWidth)
@@ -62,18 +80,25 @@ protected:
     void mousePressEvent(QMouseEvent* pEvent) override
     {
         pEvent->accept();
-        m_clickHandler();
+        m_endHandler();
     }
 
 private:
     QLabel* m_pText;
-    std::function<void()> m_clickHandler;
+    QTimer m_timer;
+    std::function<void()> m_endHandler;
 };
 
-QWidget* FindWindow(const QWidget* pExcept)
+QAccessibleInterface* MakeAccessible(const QString& /*strClass*/, QObject* pObject)
 {
-    const auto usable = [pExcept](const QWidget* pWindow) {
-        return pWindow && pWindow != pExcept && pWindow->isVisible() && !pWindow->isMinimized() &&
+    auto* pBar = dynamic_cast<CNotifyBar*>(pObject);
+    return pBar ? new QAccessibleWidget(pBar, QAccessible::AlertMessage) : nullptr;
+}
+
+QWidget* FindWindow(const QWidget* pExcept, bool bMinimized)
+{
+    const auto usable = [pExcept, bMinimized](const QWidget* pWindow) {
+        return pWindow && pWindow != pExcept && pWindow->isVisible() && pWindow->isMinimized() == bMinimized &&
                (pWindow->windowType() == Qt::Window || pWindow->windowType() == Qt::Dialog);
     };
     for (QWidget* pWindow : {QApplication::activeModalWidget(), QApplication::activeWindow()})
@@ -93,6 +118,13 @@ QWidget* FindWindow(const QWidget* pExcept)
     const QWidgetList listWindows = QApplication::topLevelWidgets();
     const auto it = std::find_if(listWindows.begin(), listWindows.end(), usable);
     return it == listWindows.end() ? nullptr : *it;
+}
+
+/// A minimized window only when there is no other: it shows the bar when it comes back.
+QWidget* FindWindow(const QWidget* pExcept)
+{
+    QWidget* pWindow = FindWindow(pExcept, false);
+    return pWindow ? pWindow : FindWindow(pExcept, true);
 }
 
 } // namespace
@@ -136,14 +168,17 @@ void KvMessageNotify::AddTextNotification(const QString& strText)
     }
     if (QWidget* pWindow = FindWindow(nullptr))
     {
-        auto* pBar = new CNotifyBar(strText, pWindow);
-        pBar->SetClickHandler([this, pBar] { Remove(pBar); });
-        QTimer::singleShot(m_nDuration, pBar, [this, pBar] { Remove(pBar); });
+        QAccessible::installFactory(&MakeAccessible); // installs it once
+        auto* pBar = new CNotifyBar(strText, pWindow, m_nDuration);
+        pBar->SetEndHandler([this, pBar] { Remove(pBar); });
         m_listBars.removeAll(nullptr); // bars that have died with their window
         m_listBars += pBar;
         Watch(pWindow);
         Arrange(pWindow);
         pBar->show();
+        pBar->SetSeen(!pWindow->isMinimized());
+        QAccessibleEvent event(pBar, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
     }
     emit SignalTextNotificationAdded(strText);
 }
@@ -200,6 +235,18 @@ void KvMessageNotify::MoveAwayFrom(QWidget* pWindow)
     {
         Watch(pNew);
         Arrange(pNew);
+        OnWindowStateChange(pNew);
+    }
+}
+
+void KvMessageNotify::OnWindowStateChange(const QWidget* pWindow)
+{
+    for (const QPointer<QWidget>& pBar : qAsConst(m_listBars))
+    {
+        if (pBar && pBar->parentWidget() == pWindow)
+        {
+            static_cast<CNotifyBar*>(pBar.data())->SetSeen(!pWindow->isMinimized());
+        }
     }
 }
 
@@ -209,6 +256,10 @@ bool KvMessageNotify::eventFilter(QObject* pWatched, QEvent* pEvent)
     if (pWindow && pEvent->type() == QEvent::Resize)
     {
         Arrange(pWindow);
+    }
+    else if (pWindow && pEvent->type() == QEvent::WindowStateChange)
+    {
+        OnWindowStateChange(pWindow);
     }
     else if (pWindow && pEvent->type() == QEvent::Hide && !pEvent->spontaneous())
     {

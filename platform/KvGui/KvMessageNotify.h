@@ -11,7 +11,8 @@ namespace KVGUI
 {
 
 /// The client's notifications: transient bars at the top of the active window, below each other, each of which goes by
-/// itself or when it is clicked. They take no focus. When their window closes they move to another one.
+/// itself or when it is clicked. They take no focus. When their window closes they move to another one; while it is
+/// minimized they stay.
 ///
 /// Reached through KvSingleton. AddTextNotification may be called from any thread.
 class KVGUI_EXPORT KvMessageNotify : public QObject
@@ -40,6 +41,7 @@ private:
     void Watch(QWidget* pWindow);
     void Arrange(const QWidget* pWindow);
     void MoveAwayFrom(QWidget* pWindow);
+    void OnWindowStateChange(const QWidget* pWindow);
 
     QList<QPointer<QWidget>> m_listBars;
     int m_nDuration = 5000;

@@ -68,6 +68,10 @@ private slots:
     void FollowsTheWindowsSize();
     void MovesToAnotherWindowWhenItsOwnCloses();
     void DiesWithTheLastWindow();
+    void AMinimizedWindowShowsTheTextWhenItIsBack();
+    void ATextIsNotLostToAWindowThatIsMinimized();
+    void AWindowThatIsSeenComesBeforeAMinimizedOne();
+    void MovesToAMinimizedWindowWhenThereIsNoOther();
     void MayBeCalledFromAnyThread();
 };
 
@@ -223,6 +227,65 @@ void tst_KvMessageNotify::DiesWithTheLastWindow()
     Notify()->SetDuration(5000);
     Notify()->AddTextNotification("Three");
     QCOMPARE(Bars(window).size(), 1);
+}
+
+void tst_KvMessageNotify::AMinimizedWindowShowsTheTextWhenItIsBack()
+{
+    QWidget window;
+    Show(window);
+    window.showMinimized();
+    Notify()->SetDuration(100);
+    QSignalSpy spy(Notify(), &KvMessageNotify::SignalTextNotificationAdded);
+    Notify()->AddTextNotification("Lost the server");
+    QCOMPARE(spy.size(), 1);
+    QTest::qWait(250);
+    window.showNormal();
+    QCOMPARE(Bars(window).size(), 1);
+    QCOMPARE(Text(Bars(window).first()), QString("Lost the server"));
+    QTRY_VERIFY(Bars(window).isEmpty());
+}
+
+void tst_KvMessageNotify::ATextIsNotLostToAWindowThatIsMinimized()
+{
+    QWidget window;
+    Show(window);
+    Notify()->SetDuration(100);
+    Notify()->AddTextNotification("Lost the server");
+    window.showMinimized();
+    QTest::qWait(250);
+    window.showNormal();
+    QCOMPARE(Bars(window).size(), 1);
+    window.showMaximized(); // gives it no second time
+    QTRY_VERIFY_WITH_TIMEOUT(Bars(window).isEmpty(), 1000);
+}
+
+void tst_KvMessageNotify::AWindowThatIsSeenComesBeforeAMinimizedOne()
+{
+    QWidget other;
+    Show(other);
+    QWidget window;
+    Show(window);
+    window.showMinimized();
+    QCOMPARE(QApplication::activeWindow(), &window);
+    Notify()->AddTextNotification("Saved");
+    QCOMPARE(Bars(other).size(), 1);
+    QVERIFY(Bars(window).isEmpty());
+}
+
+void tst_KvMessageNotify::MovesToAMinimizedWindowWhenThereIsNoOther()
+{
+    QWidget main;
+    Show(main);
+    QWidget dialog;
+    Show(dialog);
+    Notify()->SetDuration(100);
+    Notify()->AddTextNotification("Failed to save");
+    main.showMinimized();
+    dialog.hide();
+    QTest::qWait(250);
+    main.showNormal();
+    QCOMPARE(Bars(main).size(), 1);
+    QTRY_VERIFY(Bars(main).isEmpty());
 }
 
 void tst_KvMessageNotify::MayBeCalledFromAnyThread()

@@ -2,11 +2,14 @@
 
 #include "support/AccessibleEvents.h"
 
+#include <KvGui/KvMessageNotify.h>
 #include <UICommonModule/CAlarmTypeCombox.h>
 
 #include <QApplication>
 #include <QtTest>
 
+using KVGUI::KvMessageNotify;
+using KVGUI::KvSingleton;
 using UICommonMdl::CAlarmTypeCombox;
 
 class tst_ScreenReader : public QObject
@@ -15,6 +18,7 @@ class tst_ScreenReader : public QObject
 
 private slots:
     void TheAlarmTypeBoxTellsItsChoice();
+    void ANotificationIsAnAlert();
 };
 
 void tst_ScreenReader::TheAlarmTypeBoxTellsItsChoice()
@@ -43,6 +47,24 @@ void tst_ScreenReader::TheAlarmTypeBoxTellsItsChoice()
     combo.InitMenu({{2, "Device"}}, {{2, {{1, "Back online"}}}});
     combo.ClearChosenItem();
     QCOMPARE(listValues, (QStringList{"Online", "Back online", "First of the record"}));
+}
+
+void tst_ScreenReader::ANotificationIsAnAlert()
+{
+    QWidget window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QStringList listAlerts;
+    const CAccessibleEvents events([&](const QAccessibleEvent& event) {
+        if (event.type() == QAccessible::Alert)
+        {
+            const QAccessibleInterface* pInterface = event.accessibleInterface();
+            QCOMPARE(pInterface->role(), QAccessible::AlertMessage);
+            listAlerts += pInterface->text(QAccessible::Name);
+        }
+    });
+    KvSingleton<KvMessageNotify>::Instance()->AddTextNotification("Saved");
+    QCOMPARE(listAlerts, QStringList{"Saved"});
 }
 
 QTEST_MAIN(tst_ScreenReader)
