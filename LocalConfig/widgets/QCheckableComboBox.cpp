@@ -89,6 +89,10 @@ void QCheckableComboBox::hidePopup()
 {
     if (CanOpen())
     {
+        if (GetList()->isVisible())
+        {
+            GetList()->setFocus(Qt::PopupFocusReason); // or it would pass through all the rows while they go
+        }
         ShowText();
         QSkinCombox::hidePopup();
     }
@@ -100,32 +104,21 @@ bool QCheckableComboBox::eventFilter(QObject* pWatched, QEvent* pEvent)
     {
         return QSkinCombox::eventFilter(pWatched, pEvent);
     }
-    switch (pEvent->type())
+    const bool bPress = pEvent->type() == QEvent::KeyPress;
+    if (bPress || pEvent->type() == QEvent::ShortcutOverride)
     {
-    case QEvent::Hide:
-        if (pWatched == view())
+        if (!ClosesTheList(*static_cast<QKeyEvent*>(pEvent)))
         {
-            hidePopup(); // the window system may have closed the list
+            return false;
         }
-        return false;
-    case QEvent::ShortcutOverride:
-        // Left to the base, the key would make the row under the cursor the box's current item.
-        if (ClosesTheList(*static_cast<QKeyEvent*>(pEvent)))
-        {
-            pEvent->accept();
-            return true;
-        }
-        return false;
-    case QEvent::KeyPress:
-        if (ClosesTheList(*static_cast<QKeyEvent*>(pEvent)))
+        if (bPress)
         {
             hidePopup();
-            return true;
         }
-        return false;
-    default:
-        return false;
+        pEvent->accept(); // the base would make the row under the cursor the box's current item
+        return true;
     }
+    return QSkinCombox::eventFilter(pWatched, pEvent);
 }
 
 KVGUI::KvListWidget* QCheckableComboBox::GetList() const

@@ -142,6 +142,10 @@ bool QSkinCombox::eventFilter(QObject* pWatched, QEvent* pEvent)
             return true;
         }
     }
+    if (pEvent->type() == QEvent::Hide && pWatched == view())
+    {
+        hidePopup(); // the window system may have closed the list
+    }
     return CCombobox::eventFilter(pWatched, pEvent);
 }
 

@@ -70,6 +70,7 @@ private slots:
     void APressThatOpensNothingCountsToo();
     void AnOpenPopupKeepsTheState();
     void PressingAndClosingGoesBackToNormal();
+    void ClosingByTheWindowSystemGoesBackToNormal();
     void AStateChangeRepaints();
     void ALongItemWidensThePopup_data();
     void ALongItemWidensThePopup();
@@ -189,6 +190,15 @@ void tst_SkinCombox::PressingAndClosingGoesBackToNormal()
     QCOMPARE(m_pCombo->m_nState, 0);
     QVERIFY(!m_pCombo->view()->isVisible());
     QCOMPARE(m_pCombo->currentIndex(), 1);
+}
+
+void tst_SkinCombox::ClosingByTheWindowSystemGoesBackToNormal()
+{
+    QTest::mousePress(m_pCombo, Qt::LeftButton);
+    QCOMPARE(m_pCombo->m_nState, 2);
+    m_pCombo->view()->window()->close();
+    QVERIFY(!m_pCombo->view()->isVisible());
+    QCOMPARE(m_pCombo->m_nState, 0);
 }
 
 void tst_SkinCombox::AStateChangeRepaints()
