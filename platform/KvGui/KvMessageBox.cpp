@@ -4,6 +4,7 @@
 #include "KvCustomDialog.h"
 #include "KvPushButton.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QPointer>
 #include <QVBoxLayout>
@@ -64,6 +65,14 @@ public:
             }
         }
         connect(pRow, &KvButtonRow::SignalButtonClicked, this, [this](int nButton) { done(nButton); });
+    }
+
+protected:
+    void showEvent(QShowEvent* pEvent) override
+    {
+        KvDialog::showEvent(pEvent);
+        QAccessibleEvent event(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
     }
 
 private:

@@ -2,10 +2,13 @@
 
 #include "support/AccessibleEvents.h"
 
+#include <KvGui/KvCustomDialog.h>
+#include <KvGui/KvMessageBox.h>
 #include <KvGui/KvMessageNotify.h>
 #include <UICommonModule/CAlarmTypeCombox.h>
 
 #include <QApplication>
+#include <QTimer>
 #include <QtTest>
 
 using KVGUI::KvMessageNotify;
@@ -19,6 +22,7 @@ class tst_ScreenReader : public QObject
 private slots:
     void TheAlarmTypeBoxTellsItsChoice();
     void ANotificationIsAnAlert();
+    void AMessageBoxIsAnAlert();
 };
 
 void tst_ScreenReader::TheAlarmTypeBoxTellsItsChoice()
@@ -65,6 +69,20 @@ void tst_ScreenReader::ANotificationIsAnAlert()
     });
     KvSingleton<KvMessageNotify>::Instance()->AddTextNotification("Saved");
     QCOMPARE(listAlerts, QStringList{"Saved"});
+}
+
+void tst_ScreenReader::AMessageBoxIsAnAlert()
+{
+    QStringList listAlerts;
+    const CAccessibleEvents events([&](const QAccessibleEvent& event) {
+        if (event.type() == QAccessible::Alert)
+        {
+            listAlerts += event.accessibleInterface()->text(QAccessible::Description);
+        }
+    });
+    QTimer::singleShot(0, qApp, [] { QApplication::activeModalWidget()->close(); });
+    KVGUI::KvMessageBox::ShowInformation(nullptr, "Local Config", "Restart the client", KVGUI::KvCustomDialog::Ok);
+    QCOMPARE(listAlerts, QStringList{"Restart the client"});
 }
 
 QTEST_MAIN(tst_ScreenReader)
