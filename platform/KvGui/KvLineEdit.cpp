@@ -137,7 +137,8 @@ void KvLineEdit::PlaceTip()
         m_pTip->setFixedWidth(pParent->width());
         m_pTip->adjustSize();
     }
-    const int nX = qBound(0, field.x(), pParent->width() - m_pTip->width());
+    const int nStart = layoutDirection() == Qt::RightToLeft ? field.x() + width() - m_pTip->width() : field.x();
+    const int nX = qBound(0, nStart, pParent->width() - m_pTip->width());
     const int nBelow = field.y() + height() + g_nTipDistance;
     const bool bFitsBelow = nBelow + m_pTip->height() <= pParent->height();
     const int nY = bFitsBelow ? nBelow : qMax(0, field.y() - m_pTip->height() - g_nTipDistance);

@@ -70,6 +70,7 @@ private slots:
     void ANewTextReplacesTheOld();
     void StyleSheetsSeeTheMark();
     void TheTipStandsBelowTheField();
+    void TheTipIsMirrored();
     void TheTipStaysWithinItsParent_data();
     void TheTipStaysWithinItsParent();
     void TheTipFollowsTheField();
@@ -178,6 +179,15 @@ void tst_KvLineEdit::TheTipStandsBelowTheField()
     QVERIFY(Tip()->geometry().top() > m_pEdit->geometry().bottom());
     QCOMPARE(Tip()->geometry().left(), m_pEdit->geometry().left());
     QVERIFY(Tip()->geometry().top() - m_pEdit->geometry().bottom() < 10);
+}
+
+void tst_KvLineEdit::TheTipIsMirrored()
+{
+    m_pEdit->setLayoutDirection(Qt::RightToLeft);
+    m_pEdit->move(200, 60);
+    m_pEdit->showErrorHint(m_pParent.data(), true, "Too long");
+    QVERIFY(Tip()->width() < m_pEdit->width());
+    QCOMPARE(Tip()->geometry().right(), m_pEdit->geometry().right());
 }
 
 void tst_KvLineEdit::TheTipStaysWithinItsParent_data()
