@@ -2,7 +2,6 @@
 
 #include <KvGui/KvCheckBox.h>
 #include <KvGui/KvListWidget.h>
-#include <UICommonModule/Pxa.h>
 
 #include <QKeyEvent>
 
@@ -80,7 +79,8 @@ void QCheckableComboBox::showPopup()
         GetCheckBox(0)->setFocus(Qt::PopupFocusReason); // keys move and toggle from there
         for (int nRow = 0; nRow < GetList()->count(); ++nRow)
         {
-            Pxa::QCommon::AddToolTipByControlWidth(GetCheckBox(nRow));
+            const bool bCut = GetCheckBox(nRow)->sizeHint().width() > GetCheckBox(nRow)->width();
+            GetCheckBox(nRow)->setToolTip(bCut ? m_mapItems.value(GetKey(nRow)) : QString());
         }
     }
 }
