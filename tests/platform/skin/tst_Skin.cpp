@@ -8,6 +8,7 @@
 #include <KvGui/KvSpinBox.h>
 #include <KvGui/KvToolListView.h>
 #include <LocalConfig/CGroupBox.h>
+#include <UICommonModule/CAlarmTypeCombox.h>
 #include <UICommonModule/CGlobalInfo.h>
 #include <UICommonModule/CPathEdit.h>
 #include <UICommonModule/Pxa.h>
@@ -17,6 +18,7 @@
 #include <QImageReader>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QListView>
 #include <QRegularExpression>
 #include <QSet>
 #include <QVBoxLayout>
@@ -116,6 +118,8 @@ private slots:
     void ControlStatesDiffer();
     void TheBrowseButtonLooksDisabled_data() { SkinRows(); }
     void TheBrowseButtonLooksDisabled();
+    void TheAlarmMenuShowsWhichListHasTheKeys_data() { SkinRows(); }
+    void TheAlarmMenuShowsWhichListHasTheKeys();
     void TheErrorLookIsVisible_data() { SkinRows(); }
     void TheErrorLookIsVisible();
     void TheSelectedCardHasABar_data() { SkinRows(); }
@@ -408,6 +412,29 @@ void tst_Skin::TheBrowseButtonLooksDisabled()
     const double dEnabled = strongest();
     edit.setEnabled(false);
     QVERIFY(strongest() < dEnabled - 1);
+}
+
+void tst_Skin::TheAlarmMenuShowsWhichListHasTheKeys()
+{
+    QFETCH(QString, strSkin);
+    UseSkin(strSkin);
+    UICommonMdl::CAlarmTypeCombox combo;
+    combo.InitMenu({{1, "Device"}}, {{1, {{0, "Offline"}}}});
+    combo.show();
+    combo.showPopup();
+    auto* pMain = combo.findChild<QListView*>("mainItems");
+    auto* pSub = combo.findChild<QListView*>("subItems");
+    const auto border = [](QListView* pList) {
+        const QRect row = pList->visualRect(pList->currentIndex());
+        return pList->viewport()->grab(row).toImage().pixelColor(row.width() / 2, 0);
+    };
+    const QColor focus = PaletteColor(strSkin, "focus");
+    for (int nKey : {Qt::Key_Right, Qt::Key_Left})
+    {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(nKey));
+        QCOMPARE(border(pSub) == focus, nKey == Qt::Key_Right);
+        QCOMPARE(border(pMain) == focus, nKey == Qt::Key_Left);
+    }
 }
 
 void tst_Skin::TheErrorLookIsVisible()
