@@ -82,6 +82,7 @@ void CTvWallConfig::LoadConfig(bool bDefault)
     m_pUi->chkboxChangeStreamType->setChecked(record.bDblClickMainStream);
     m_pUi->cmbDefaultStreamType->setCurrentIndex(m_pUi->cmbDefaultStreamType->findData(record.nDefaultStreamType));
     m_pUi->lineeditStayTime->setText(QString::number(record.nStayTime));
+    ClearStayTimeError();
     ShowBindMode(record.nBindMode);
 }
 
@@ -142,13 +143,18 @@ QString CTvWallConfig::GetStayTimeMessage() const
     return g_stayTime.Fill(tr("Stay time must be within %1-%2s."));
 }
 
+void CTvWallConfig::ClearStayTimeError()
+{
+    m_pUi->labelError->clear();
+    ClearHint(m_pUi->lineeditStayTime);
+}
+
 bool CTvWallConfig::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     KVGUI::KvLineEdit* pEdit = m_pUi->lineeditStayTime;
     if (pWatched == pEdit && pEvent->type() == QEvent::FocusIn)
     {
-        m_pUi->labelError->clear();
-        ClearHint(pEdit);
+        ClearStayTimeError();
     }
     else if (pWatched == pEdit && pEvent->type() == QEvent::FocusOut && !g_stayTime.Contains(pEdit->text().toInt()))
     {

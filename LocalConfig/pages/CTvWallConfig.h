@@ -36,6 +36,7 @@ private:
     void ShowBindMode(int nBindMode);
     int GetBindMode() const;
     QString GetStayTimeMessage() const;
+    void ClearStayTimeError();
 
     std::unique_ptr<Ui::CTvWallConfig> m_pUi;
 };

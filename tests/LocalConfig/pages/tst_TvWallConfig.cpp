@@ -52,6 +52,8 @@ private slots:
 
     void LeavingTheFieldJudgesIt_data();
     void LeavingTheFieldJudgesIt();
+    void LoadingTakesTheJudgementAway_data();
+    void LoadingTakesTheJudgementAway();
     void ConnectionState();
     void UnInitForgetsTheSection();
 
@@ -370,6 +372,29 @@ void tst_TvWallConfig::LeavingTheFieldJudgesIt()
     QCOMPARE(Stay()->text(), strTyped);
     Stay()->setFocus();
     QVERIFY(Error()->text().isEmpty());
+    QVERIFY(!Stay()->IsErrorHintShown());
+}
+
+void tst_TvWallConfig::LoadingTakesTheJudgementAway_data()
+{
+    QTest::addColumn<bool>("bDefault");
+    QTest::newRow("stored values") << false;
+    QTest::newRow("defaults") << true;
+}
+
+void tst_TvWallConfig::LoadingTakesTheJudgementAway()
+{
+    QFETCH(bool, bDefault);
+    Load(TvWallConfigInfo());
+    Show();
+    Stay()->setFocus();
+    QTest::keyClick(Stay(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(Stay(), "14");
+    QTest::keyClick(Stay(), Qt::Key_Tab);
+    QVERIFY(Stay()->IsErrorHintShown());
+    m_pPage->LoadConfig(bDefault);
+    QCOMPARE(Stay()->text(), QString("15"));
+    QCOMPARE(Error()->text(), QString());
     QVERIFY(!Stay()->IsErrorHintShown());
 }
 
