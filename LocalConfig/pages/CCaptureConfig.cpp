@@ -51,7 +51,7 @@ void CCaptureConfig::InitControls()
     m_pUi->picPathEdit->SetTipParentWidget(this);
     m_pUi->picPathEdit->SetMaxInputParam(g_nMaxPathBytes, tr("The Path length of Picture should not longer than 180"));
     m_pUi->picTmSpinBox->setRange(g_interval.nMin, g_interval.nMax);
-    m_pUi->picTmSpinBox->SetKeepsEmpty(true); // saving speaks of it
+    m_pUi->picTmSpinBox->SetKeepsTyped(true); // saving speaks of it
     m_pUi->picFormatComboBox->insertItem(0, QStringLiteral("BMP"));
     m_pUi->picFormatComboBox->insertItem(g_nJpeg, QStringLiteral("JPEG"));
     for (const char* pszNameFormat : g_arrNameFormats)

@@ -4,6 +4,8 @@
 #include <QLineEdit>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 namespace KVGUI
 {
 
@@ -13,9 +15,9 @@ KvSpinBox::KvSpinBox(QWidget* pParent)
     setFocusPolicy(Qt::StrongFocus); // the wheel does not bring the focus
 }
 
-void KvSpinBox::SetKeepsEmpty(bool bKeep)
+void KvSpinBox::SetKeepsTyped(bool bKeep)
 {
-    m_bKeepsEmpty = bKeep;
+    m_bKeepsTyped = bKeep;
 }
 
 void KvSpinBox::wheelEvent(QWheelEvent* pEvent)
@@ -32,23 +34,41 @@ void KvSpinBox::wheelEvent(QWheelEvent* pEvent)
 
 void KvSpinBox::keyPressEvent(QKeyEvent* pEvent)
 {
-    const bool bEnter = pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter;
-    const bool bStaysEmpty = m_bKeepsEmpty && bEnter && lineEdit()->text().isEmpty();
-    QSpinBox::keyPressEvent(pEvent);
-    if (bStaysEmpty)
+    if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter)
     {
-        lineEdit()->clear();
+        KeepTyped([&] { QSpinBox::keyPressEvent(pEvent); });
+    }
+    else
+    {
+        QSpinBox::keyPressEvent(pEvent);
     }
 }
 
 void KvSpinBox::focusOutEvent(QFocusEvent* pEvent)
 {
-    const bool bStaysEmpty = m_bKeepsEmpty && lineEdit()->text().isEmpty();
-    QSpinBox::focusOutEvent(pEvent);
-    if (bStaysEmpty)
+    KeepTyped([&] { QSpinBox::focusOutEvent(pEvent); });
+}
+
+template <class Leave>
+void KvSpinBox::KeepTyped(Leave leave)
+{
+    const QString strTyped = lineEdit()->text();
+    const bool bKeep = m_bKeepsTyped && !hasAcceptableInput();
+    leave();
+    if (bKeep)
     {
-        lineEdit()->clear();
+        lineEdit()->setText(strTyped);
     }
+}
+
+QValidator::State KvSpinBox::validate(QString& strInput, int& nPos) const
+{
+    const QString strTyped = strInput.mid(prefix().size(), strInput.size() - prefix().size() - suffix().size());
+    if (m_bKeepsTyped && !std::all_of(strTyped.begin(), strTyped.end(), [](QChar ch) { return ch.isDigit(); }))
+    {
+        return QValidator::Invalid; // the base takes group separators and a sign, too
+    }
+    return QSpinBox::validate(strInput, nPos);
 }
 
 } // namespace KVGUI

@@ -16,9 +16,12 @@ class KVGUI_EXPORT KvSpinBox : public QSpinBox
 public:
     explicit KvSpinBox(QWidget* pParent = nullptr);
 
-    /// With true, a field that the user empties stays empty when it is left, until a value is typed or set: text() is
-    /// empty then, while value() is still the last one. With false (the default) leaving brings the last value back.
-    void SetKeepsEmpty(bool bKeep);
+    /// With true, only digits can be typed, and what is typed but is no value (nothing at all, or a number that is too
+    /// small) stays when the field is left, until a value is typed or set: text() tells it then, while value() is still
+    /// the last one. With false (the default) leaving brings the last value back.
+    void SetKeepsTyped(bool bKeep);
+
+    QValidator::State validate(QString& strInput, int& nPos) const override;
 
 protected:
     void wheelEvent(QWheelEvent* pEvent) override;
@@ -26,7 +29,10 @@ protected:
     void focusOutEvent(QFocusEvent* pEvent) override;
 
 private:
-    bool m_bKeepsEmpty = false;
+    template <class Leave>
+    void KeepTyped(Leave leave);
+
+    bool m_bKeepsTyped = false;
 };
 
 } // namespace KVGUI

@@ -153,6 +153,10 @@ void tst_SettingsInTheClient::ARefusalPointsAtItsField_data()
                                       << "" << false << strInterval;
     QTest::newRow("emptied interval, by key") << "picTmSpinBox"
                                               << "" << true << strInterval;
+    QTest::newRow("no interval") << "picTmSpinBox"
+                                 << "0" << false << strInterval;
+    QTest::newRow("no interval, by key") << "picTmSpinBox"
+                                         << "0" << true << strInterval;
 }
 
 void tst_SettingsInTheClient::ARefusalPointsAtItsField()

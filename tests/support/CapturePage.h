@@ -26,11 +26,16 @@ protected:
     LocalConfig::CCombobox* Name() const { return m_pFixture->Find<LocalConfig::CCombobox>("picNameFormatCmbBox"); }
     KVGUI::KvSpinBox* Interval() const { return m_pFixture->Find<KVGUI::KvSpinBox>("picTmSpinBox"); }
     KVGUI::KvLineEdit* Count() const { return m_pFixture->Find<KVGUI::KvLineEdit>("picNumEdit"); }
-    void EmptyTheInterval() const
+    void TypeInterval(const QString& strText) const
     {
         Interval()->setFocus();
         QTest::keyClick(Interval(), Qt::Key_A, Qt::ControlModifier);
         QTest::keyClick(Interval(), Qt::Key_Delete);
+        QTest::keyClicks(Interval(), strText);
+    }
+    void EmptyTheInterval() const
+    {
+        TypeInterval(QString());
         QCOMPARE(Interval()->text(), QString());
     }
 

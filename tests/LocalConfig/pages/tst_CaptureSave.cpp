@@ -16,8 +16,9 @@ private slots:
     void SaveCount();
     void TheCountIsCheckedFirst();
     void AnEmptiedIntervalGetsTheToolTip();
-    void AnEmptiedIntervalStaysEmptyUntilSaved_data();
-    void AnEmptiedIntervalStaysEmptyUntilSaved();
+    void AnIntervalThatIsNoneStaysUntilSaved_data();
+    void AnIntervalThatIsNoneStaysUntilSaved();
+    void TheIntervalTakesDigitsOnly();
     void TheIntervalIsReadInItsOwnDigits_data();
     void TheIntervalIsReadInItsOwnDigits();
     void TheIntervalIsCheckedBeforeThePath();
@@ -134,27 +135,41 @@ void tst_CaptureSave::AnEmptiedIntervalGetsTheToolTip()
     QCOMPARE(place, getTipPlace());
 }
 
-void tst_CaptureSave::AnEmptiedIntervalStaysEmptyUntilSaved_data()
+void tst_CaptureSave::AnIntervalThatIsNoneStaysUntilSaved_data()
 {
+    QTest::addColumn<QString>("strTyped");
     QTest::addColumn<int>("nKey");
-    QTest::newRow("left") << int(Qt::Key_Tab);
-    QTest::newRow("entered") << int(Qt::Key_Return);
+    for (const char* pszTyped : {"", "0", "000"})
+    {
+        QTest::addRow("'%s' left", pszTyped) << pszTyped << int(Qt::Key_Tab);
+        QTest::addRow("'%s' entered", pszTyped) << pszTyped << int(Qt::Key_Return);
+    }
 }
 
-void tst_CaptureSave::AnEmptiedIntervalStaysEmptyUntilSaved()
+void tst_CaptureSave::AnIntervalThatIsNoneStaysUntilSaved()
 {
+    QFETCH(QString, strTyped);
     QFETCH(int, nKey);
     SnapshotConfigInfo record;
     record.interval = 60;
     m_pFixture->Load(record);
-    EmptyTheInterval();
+    TypeInterval(strTyped);
     QTest::keyClick(Interval(), Qt::Key(nKey));
-    QCOMPARE(Interval()->text(), QString());
+    QCOMPARE(Interval()->text(), strTyped);
     QCOMPARE(m_pFixture->page.SaveConfig(), -1);
     QCOMPARE(QToolTip::text(), QString("Continue snapshot time interval must be longer than 1s."));
     QCOMPARE(Interval()->text(), QString("60"));
     QCOMPARE(m_pFixture->page.SaveConfig(), 0);
     QCOMPARE(m_pFixture->section.m_record.interval, 60);
+}
+
+void tst_CaptureSave::TheIntervalTakesDigitsOnly()
+{
+    m_pFixture->Load();
+    Paste(Interval()->findChild<QLineEdit*>(), "1,234");
+    QCOMPARE(Interval()->text(), QString("2"));
+    TypeInterval("1,234");
+    QCOMPARE(Interval()->text(), QString("1234"));
 }
 
 void tst_CaptureSave::TheIntervalIsReadInItsOwnDigits_data()

@@ -53,6 +53,34 @@ constexpr SControl g_arrControls[] = {
     {"KVGUI::KvVerScrollBar", "QScrollBar", &Make<KvVerScrollBar>},
 };
 
+/// A spin box from 1 to 9999 that shows 7, in an active window beside another control.
+struct SSpinBox
+{
+    explicit SSpinBox(bool bKeepsTyped)
+        : pSpinBox(new KvSpinBox(&window))
+    {
+        auto* pLayout = new QVBoxLayout(&window);
+        pLayout->addWidget(pSpinBox);
+        pLayout->addWidget(new KvPushButton("Other", &window));
+        pSpinBox->SetKeepsTyped(bKeepsTyped);
+        pSpinBox->setRange(1, 9999);
+        pSpinBox->setValue(7);
+        window.show();
+        QApplication::setActiveWindow(&window);
+    }
+
+    void Type(const QString& strText) const
+    {
+        pSpinBox->setFocus();
+        pSpinBox->selectAll();
+        QTest::keyClick(pSpinBox, Qt::Key_Delete);
+        QTest::keyClicks(pSpinBox, strText);
+    }
+
+    QWidget window;
+    KvSpinBox* pSpinBox;
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(std::function<void(QStandardItemModel&)>)
@@ -68,8 +96,11 @@ private slots:
     void ComboBoxesBuildNoListBeforeTheyAreShown();
     void ComboBoxesFollowAStyleThatChangesLater();
     void SpinBoxesFollowTheWheelWithTheFocusOnly();
-    void EmptiedSpinBoxes_data();
-    void EmptiedSpinBoxes();
+    void LeavingASpinBoxWithoutAValue_data();
+    void LeavingASpinBoxWithoutAValue();
+    void ASpinBoxThatKeepsWhatIsTypedTakesDigitsOnly_data();
+    void ASpinBoxThatKeepsWhatIsTypedTakesDigitsOnly();
+    void PrefixAndSuffixAreNotTyped();
     void ScrollBarsHaveTheirDirection();
     void TablesTakeColumnWidthsFromTheHeader();
     void TablesFollowLaterWidths();
@@ -160,42 +191,70 @@ void tst_KvControls::SpinBoxesFollowTheWheelWithTheFocusOnly()
     QCOMPARE(pSpinBox->value(), 6);
 }
 
-void tst_KvControls::EmptiedSpinBoxes_data()
+void tst_KvControls::LeavingASpinBoxWithoutAValue_data()
 {
+    QTest::addColumn<QString>("strTyped");
     QTest::addColumn<int>("nKey");
-    QTest::addColumn<bool>("bKeepsEmpty");
-    QTest::newRow("return") << int(Qt::Key_Return) << true;
-    QTest::newRow("enter") << int(Qt::Key_Enter) << true;
-    QTest::newRow("tab") << int(Qt::Key_Tab) << true;
-    QTest::newRow("return brings the value back") << int(Qt::Key_Return) << false;
-    QTest::newRow("tab brings the value back") << int(Qt::Key_Tab) << false;
+    QTest::addColumn<bool>("bKeepsTyped");
+    for (const char* pszTyped : {"", "0", "00"})
+    {
+        QTest::addRow("return keeps '%s'", pszTyped) << pszTyped << int(Qt::Key_Return) << true;
+        QTest::addRow("enter keeps '%s'", pszTyped) << pszTyped << int(Qt::Key_Enter) << true;
+        QTest::addRow("tab keeps '%s'", pszTyped) << pszTyped << int(Qt::Key_Tab) << true;
+        QTest::addRow("return mends '%s'", pszTyped) << pszTyped << int(Qt::Key_Return) << false;
+        QTest::addRow("tab mends '%s'", pszTyped) << pszTyped << int(Qt::Key_Tab) << false;
+    }
 }
 
-void tst_KvControls::EmptiedSpinBoxes()
+void tst_KvControls::LeavingASpinBoxWithoutAValue()
 {
+    QFETCH(QString, strTyped);
     QFETCH(int, nKey);
-    QFETCH(bool, bKeepsEmpty);
-    QWidget window;
-    auto* pLayout = new QVBoxLayout(&window);
-    auto* pSpinBox = new KvSpinBox(&window);
-    pLayout->addWidget(pSpinBox);
-    pLayout->addWidget(new KvPushButton("Other", &window));
-    pSpinBox->SetKeepsEmpty(bKeepsEmpty);
-    pSpinBox->setValue(7);
-    window.show();
-    QApplication::setActiveWindow(&window);
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    pSpinBox->setFocus();
-    QTest::keyClick(pSpinBox, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(pSpinBox, Qt::Key_Delete);
+    QFETCH(bool, bKeepsTyped);
+    SSpinBox box(bKeepsTyped);
+    box.Type(strTyped);
+    QTest::keyClick(box.pSpinBox, Qt::Key(nKey));
 
-    QTest::keyClick(pSpinBox, Qt::Key(nKey));
+    QCOMPARE(box.pSpinBox->text(), bKeepsTyped ? strTyped : QString("7"));
+    QCOMPARE(box.pSpinBox->value(), 7);
+    box.pSpinBox->setValue(7);
+    QTest::keyClick(box.pSpinBox, Qt::Key(nKey));
+    QCOMPARE(box.pSpinBox->text(), QString("7"));
+}
 
-    QCOMPARE(pSpinBox->text(), bKeepsEmpty ? QString() : QString("7"));
-    QCOMPARE(pSpinBox->value(), 7);
-    pSpinBox->setValue(7);
-    QTest::keyClick(pSpinBox, Qt::Key(nKey));
-    QCOMPARE(pSpinBox->text(), QString("7"));
+void tst_KvControls::ASpinBoxThatKeepsWhatIsTypedTakesDigitsOnly_data()
+{
+    QTest::addColumn<QString>("strTyped");
+    QTest::addColumn<QString>("strShown");
+    QTest::newRow("digits") << "1234"
+                            << "1234";
+    QTest::newRow("group separator") << "1,234"
+                                     << "1234";
+    QTest::newRow("sign") << "+5"
+                          << "5";
+    QTest::newRow("blank") << " 5 "
+                           << "5";
+    QTest::newRow("letters") << "5s"
+                             << "5";
+}
+
+void tst_KvControls::ASpinBoxThatKeepsWhatIsTypedTakesDigitsOnly()
+{
+    QFETCH(QString, strTyped);
+    QFETCH(QString, strShown);
+    SSpinBox box(true);
+    box.Type(strTyped);
+    QCOMPARE(box.pSpinBox->text(), strShown);
+}
+
+void tst_KvControls::PrefixAndSuffixAreNotTyped()
+{
+    SSpinBox box(true);
+    box.pSpinBox->setPrefix("in ");
+    box.pSpinBox->setSuffix(" s");
+    box.Type("12");
+    QCOMPARE(box.pSpinBox->text(), QString("in 12 s"));
+    QCOMPARE(box.pSpinBox->value(), 12);
 }
 
 void tst_KvControls::ScrollBarsHaveTheirDirection()
