@@ -78,7 +78,7 @@ void CCaptureConfig::LoadConfig(bool bDefault)
     m_pUi->picFormatComboBox->setCurrentIndex(record.imageFormat != 0 ? g_nJpeg : 0);
     m_pUi->picNumEdit->setText(QString::number(record.continuousCount));
     ClearHint(m_pUi->picNumEdit);
-    m_pUi->picTmSpinBox->setValue(record.interval);
+    ShowNumber(m_pUi->picTmSpinBox, record.interval);
     ShowFolder(m_pUi->picPathEdit, record.picturePath, strDefaultFolder);
     m_pUi->picNameFormatCmbBox->setCurrentIndex(record.nameFormat);
 }
@@ -107,7 +107,7 @@ int CCaptureConfig::SaveConfig()
     if (nInterval < g_interval.nMin)
     {
         PointAt(m_pUi->picTmSpinBox, tr("Continue snapshot time interval must be longer than 1s."));
-        m_pUi->picTmSpinBox->setValue(record.interval);
+        ShowNumber(m_pUi->picTmSpinBox, record.interval);
         return -1;
     }
     record.interval = nInterval;

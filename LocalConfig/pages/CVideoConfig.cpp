@@ -129,6 +129,7 @@ void CVideoConfig::InitControls()
     }
     m_pUi->timeUnitComboBox->setCurrentIndex(g_nSecondUnit);
     m_pUi->instantTimeEdit->setValidator(m_arrTimeValidators[g_nSecondUnit]);
+    HoldToValidator(m_pUi->instantTimeEdit);
 }
 
 void CVideoConfig::ConnectSlots()
@@ -183,7 +184,7 @@ void CVideoConfig::Show(const VideoConfigInfo& record)
 
     const bool bSilent = record.nSilentTime > 0;
     m_pUi->silenceChkBox->setChecked(bSilent);
-    m_pUi->silenceTimeSpinBox->setValue(bSilent ? record.nSilentTime : 1);
+    ShowNumber(m_pUi->silenceTimeSpinBox, bSilent ? record.nSilentTime : 1);
     m_pUi->silenceWidget->setEnabled(bSilent);
 
     SelectText(m_pUi->cpuOccupycomboBox, QStringLiteral("%1%").arg(record.nCpuPromptThreshold));
@@ -205,7 +206,7 @@ void CVideoConfig::ShowInstantTime(const VideoConfigInfo& record)
     }
     else
     {
-        m_pUi->instantTimeEdit->clear();
+        Empty(m_pUi->instantTimeEdit);
         m_pUi->timeUnitComboBox->setCurrentIndex(g_nSecondUnit);
         m_pUi->instantComboBox->setCurrentIndex(m_listInstantKeys.indexOf(GetPresetText(record.nInstantPlaybackTime)));
     }
@@ -330,7 +331,7 @@ void CVideoConfig::OnCurrentIndexChangedInstantType(int nIndex)
 
 void CVideoConfig::OnCurrentIndexChangedTimeUnit(int nUnit)
 {
-    m_pUi->instantTimeEdit->clear();
+    Empty(m_pUi->instantTimeEdit);
     const bool bKnown = nUnit >= 0 && nUnit < int(m_arrTimeValidators.size());
     m_pUi->instantTimeEdit->setValidator(m_arrTimeValidators[bKnown ? std::size_t(nUnit) : g_nSecondUnit]);
 }

@@ -9,11 +9,55 @@
 #include <QLineEdit>
 #include <QRegExpValidator>
 #include <QScrollArea>
+#include <QSpinBox>
 #include <QTimer>
 #include <QToolTip>
 
 namespace LocalConfig
 {
+
+namespace
+{
+
+/// Whether a text is what deleting characters makes of another one.
+bool IsShortened(const QString& strText, const QString& strWhole)
+{
+    int nFound = 0;
+    for (const QChar ch : strWhole)
+    {
+        nFound += nFound < strText.size() && strText[nFound] == ch ? 1 : 0;
+    }
+    return nFound == strText.size();
+}
+
+class CValidatorGuard : public QObject
+{
+public:
+    explicit CValidatorGuard(QLineEdit* pEdit)
+        : QObject(pEdit)
+        , m_pEdit(pEdit)
+        , m_strBefore(pEdit->text())
+    {
+        connect(pEdit, &QLineEdit::textEdited, this, &CValidatorGuard::OnTextEdited);
+        connect(pEdit, &QLineEdit::textChanged, this, [this] { m_strBefore = m_pEdit->text(); });
+    }
+
+private:
+    void OnTextEdited(QString strText)
+    {
+        int nPosition = 0;
+        if (m_pEdit->validator()->validate(strText, nPosition) == QValidator::Invalid &&
+            !IsShortened(strText, m_strBefore))
+        {
+            m_pEdit->undo();
+        }
+    }
+
+    QLineEdit* m_pEdit;
+    QString m_strBefore;
+};
+
+} // namespace
 
 void AppendColon(const QString& strColon, std::initializer_list<QLabel*> listCaptions)
 {
@@ -60,6 +104,24 @@ void PointAt(QWidget* pControl, const QString& strText)
 void SetPattern(QWidget* pPage, QLineEdit* pEdit, const QString& strPattern)
 {
     pEdit->setValidator(new QRegExpValidator(QRegExp(strPattern), pPage));
+    HoldToValidator(pEdit);
+}
+
+void HoldToValidator(QLineEdit* pEdit)
+{
+    new CValidatorGuard(pEdit); // dies with the field
+}
+
+void Empty(QLineEdit* pEdit)
+{
+    pEdit->setText(QString());
+}
+
+void ShowNumber(QSpinBox* pSpinBox, int nNumber)
+{
+    pSpinBox->setValue(nNumber);
+    auto* pEdit = pSpinBox->findChild<QLineEdit*>();
+    pEdit->setText(pEdit->text()); // the box itself sets no text that it shows already
 }
 
 void ClearHint(KVGUI::KvLineEdit* pEdit)

@@ -8,6 +8,7 @@
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QSpinBox;
 class QWidget;
 
 namespace KVGUI
@@ -51,6 +52,16 @@ void PointAt(QWidget* pControl, const QString& strText);
 
 /// Lets a field take only what a pattern accepts, or the beginning of it. The page owns the validator.
 void SetPattern(QWidget* pPage, QLineEdit* pEdit, const QString& strPattern);
+
+/// Keeps a field's validator in force while the field shows a stored text that it refuses: QLineEdit would then take
+/// anything. Such a text can be shortened, or give way to one that is not refused.
+void HoldToValidator(QLineEdit* pEdit);
+
+/// Empties a field for good; what clear() takes away comes back with undo.
+void Empty(QLineEdit* pEdit);
+
+/// Sets a number, which undo does not reach behind.
+void ShowNumber(QSpinBox* pSpinBox, int nNumber);
 
 /// Takes mark and tip from a field.
 void ClearHint(KVGUI::KvLineEdit* pEdit);
