@@ -16,7 +16,7 @@ namespace LocalConfig
 {
 
 /// Combo box whose list is a set of check boxes: any of the items may be picked. The closed box tells what is picked.
-/// One key, -1 unless a derived class sets another, stands for all items.
+/// The key -1 stands for all items.
 class QCheckableComboBox : public QSkinCombox
 {
     Q_OBJECT
