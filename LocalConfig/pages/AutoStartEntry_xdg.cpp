@@ -96,6 +96,13 @@ QStringList SplitExec(const QString& strExec)
     return listArguments;
 }
 
+// An entry that is hidden counts as deleted; the other key is the one that a desktop's own settings write.
+bool IsSwitchedOff(const QString& strKey, const QString& strValue)
+{
+    return (strKey == QLatin1String("Hidden") && strValue == QLatin1String("true")) ||
+           (strKey == QLatin1String("X-GNOME-Autostart-enabled") && strValue == QLatin1String("false"));
+}
+
 } // namespace
 
 QString ReadAutoStartCommand(const QString& strApplication)
@@ -130,9 +137,9 @@ QString ReadAutoStartCommand(const QString& strApplication)
         {
             strExec = UnescapeString(strValue);
         }
-        else if (strKey == QLatin1String("Hidden") && strValue == QLatin1String("true"))
+        else if (IsSwitchedOff(strKey, strValue))
         {
-            return {}; // the entry counts as deleted
+            return {};
         }
     }
 

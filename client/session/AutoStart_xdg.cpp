@@ -53,36 +53,59 @@ QString GetKey(const QString& strLine)
     return strLine.section(QLatin1Char('='), 0, 0).trimmed();
 }
 
-/// The switches by which a desktop's settings turn an entry off.
-bool IsOffSwitch(const QString& strLine)
+bool IsGroup(const QString& strLine)
 {
-    const QString strKey = GetKey(strLine);
-    return strKey == QLatin1String("Hidden") || strKey == QLatin1String("X-GNOME-Autostart-enabled");
+    return strLine.trimmed().startsWith(QLatin1Char('['));
+}
+
+/// The first line behind the header of the entry's own group, which is put in front when it is missing.
+int GetEntryBegin(QStringList& listLines)
+{
+    const auto header = std::find_if(listLines.cbegin(), listLines.cend(),
+                                     [](const QString& strLine) { return strLine.trimmed() == g_strHeader; });
+    if (header == listLines.cend())
+    {
+        listLines.prepend(g_strHeader);
+        return 1;
+    }
+    return int(header - listLines.cbegin()) + 1;
+}
+
+int GetEntryEnd(const QStringList& listLines, int nBegin)
+{
+    return int(std::find_if(listLines.cbegin() + nBegin, listLines.cend(), &IsGroup) - listLines.cbegin());
 }
 
 void SetKey(QStringList& listLines, const QString& strKey, const QString& strValue)
 {
     const QString strLine = strKey + QLatin1Char('=') + strValue;
-    int nHeader = listLines.indexOf(g_strHeader);
-    if (nHeader < 0)
+    const int nBegin = GetEntryBegin(listLines);
+    int nEnd = GetEntryEnd(listLines, nBegin);
+    for (int n = nBegin; n < nEnd; ++n)
     {
-        listLines.prepend(g_strHeader);
-        nHeader = 0;
-    }
-    int nEnd = nHeader + 1;
-    for (; nEnd < listLines.size() && !listLines[nEnd].startsWith(QLatin1Char('[')); ++nEnd)
-    {
-        if (GetKey(listLines[nEnd]) == strKey)
+        if (GetKey(listLines[n]) == strKey)
         {
-            listLines[nEnd] = strLine;
+            listLines[n] = strLine;
             return;
         }
     }
-    while (nEnd > nHeader + 1 && listLines[nEnd - 1].trimmed().isEmpty())
+    while (nEnd > nBegin && listLines[nEnd - 1].trimmed().isEmpty())
     {
         --nEnd;
     }
     listLines.insert(nEnd, strLine);
+}
+
+void RemoveKey(QStringList& listLines, const QString& strKey)
+{
+    const int nBegin = GetEntryBegin(listLines);
+    for (int n = GetEntryEnd(listLines, nBegin) - 1; n >= nBegin; --n)
+    {
+        if (GetKey(listLines[n]) == strKey)
+        {
+            listLines.removeAt(n);
+        }
+    }
 }
 
 } // namespace
@@ -111,7 +134,9 @@ int AutoStart::Apply(bool bEnable, const QString& strApplication, const QString&
     SetKey(listLines, QStringLiteral("Type"), QStringLiteral("Application"));
     SetKey(listLines, QStringLiteral("Name"), EscapeString(strApplication));
     SetKey(listLines, QStringLiteral("Exec"), QuoteForExec(strExecutable));
-    listLines.erase(std::remove_if(listLines.begin(), listLines.end(), &IsOffSwitch), listLines.end());
+    // By these a desktop's settings switch an entry off; the Basic page knows them, too.
+    RemoveKey(listLines, QStringLiteral("Hidden"));
+    RemoveKey(listLines, QStringLiteral("X-GNOME-Autostart-enabled"));
     while (!listLines.isEmpty() && listLines.last().isEmpty())
     {
         listLines.removeLast();

@@ -81,6 +81,13 @@ void tst_AutoStartEntry::ReadsTheEntry_data()
     QTest::newRow("hidden") << entry("/opt/client") + "Hidden=true\n" << QString();
     QTest::newRow("not hidden") << entry("/opt/client") + "Hidden=false\n"
                                 << "\"/opt/client\"";
+    QTest::newRow("switched off by the desktop") << entry("/opt/client") + "X-GNOME-Autostart-enabled=false\n"
+                                                 << QString();
+    QTest::newRow("switched on by the desktop") << entry("/opt/client") + "X-GNOME-Autostart-enabled=true\n"
+                                                << "\"/opt/client\"";
+    QTest::newRow("an action that is hidden")
+        << entry("/opt/client") + "[Desktop Action X]\nHidden=true\nX-GNOME-Autostart-enabled=false\n"
+        << "\"/opt/client\"";
     QTest::newRow("another group") << QByteArray("[Desktop Action X]\nExec=/opt/client\n") << QString();
     QTest::newRow("no group") << QByteArray("Exec=/opt/client\n") << QString();
     QTest::newRow("comment") << QByteArray("[Desktop Entry]\n#Exec=/opt/client\n") << QString();

@@ -30,6 +30,13 @@ QByteArray Content()
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
 }
 
+void Append(const QByteArray& line)
+{
+    QFile file(EntryPath());
+    QVERIFY(file.open(QIODevice::Append));
+    file.write(line + '\n');
+}
+
 } // namespace
 
 class tst_AutoStart : public QObject
@@ -46,9 +53,9 @@ private slots:
     void SwitchingOffRemovesTheEntry();
     void SwitchingOffTwiceIsNoError();
     void OtherKeysStay();
-    void AHiddenEntryComesBack();
-    void AnEntrySwitchedOffByTheDesktopComesBack_data();
-    void AnEntrySwitchedOffByTheDesktopComesBack();
+    void AnEntrySwitchedOffComesBack_data();
+    void AnEntrySwitchedOffComesBack();
+    void SwitchesOfOtherGroupsStay();
     void AnEntryWithCarriageReturnsIsTakenOver();
     void TheNameIsEscaped();
     void AnotherPathReplacesTheOld();
@@ -113,35 +120,32 @@ void tst_AutoStart::OtherKeysStay()
                                    "Name=auto start test\n\n[Desktop Action X]\nExec=/x\n"));
 }
 
-void tst_AutoStart::AHiddenEntryComesBack()
-{
-    AutoStart::Apply(true, g_strName, "/opt/client");
-    QFile file(EntryPath());
-    QVERIFY(file.open(QIODevice::Append));
-    file.write("Hidden=true\n");
-    file.close();
-    QCOMPARE(LocalConfig::ReadAutoStartCommand(g_strName), QString());
-    QCOMPARE(AutoStart::Apply(true, g_strName, "/opt/client"), int(CErrorCode::Success));
-    QCOMPARE(LocalConfig::ReadAutoStartCommand(g_strName), QString("\"/opt/client\""));
-}
-
-void tst_AutoStart::AnEntrySwitchedOffByTheDesktopComesBack_data()
+void tst_AutoStart::AnEntrySwitchedOffComesBack_data()
 {
     QTest::addColumn<QByteArray>("line");
-    QTest::newRow("plain") << QByteArray("Hidden=true");
-    QTest::newRow("spaces") << QByteArray("Hidden = true");
-    QTest::newRow("GNOME") << QByteArray("X-GNOME-Autostart-enabled=false");
+    QTest::newRow("hidden") << QByteArray("Hidden=true");
+    QTest::newRow("hidden, spaces") << QByteArray("Hidden = true");
+    QTest::newRow("desktop's own key") << QByteArray("X-GNOME-Autostart-enabled=false");
 }
 
-void tst_AutoStart::AnEntrySwitchedOffByTheDesktopComesBack()
+void tst_AutoStart::AnEntrySwitchedOffComesBack()
 {
     QFETCH(QByteArray, line);
     AutoStart::Apply(true, g_strName, "/opt/client");
     const QByteArray before = Content();
-    QFile file(EntryPath());
-    QVERIFY(file.open(QIODevice::Append));
-    file.write(line + '\n');
-    file.close();
+    Append(line);
+    QCOMPARE(LocalConfig::ReadAutoStartCommand(g_strName), QString());
+    QCOMPARE(AutoStart::Apply(true, g_strName, "/opt/client"), int(CErrorCode::Success));
+    QCOMPARE(LocalConfig::ReadAutoStartCommand(g_strName), QString("\"/opt/client\""));
+    QCOMPARE(Content(), before);
+}
+
+void tst_AutoStart::SwitchesOfOtherGroupsStay()
+{
+    AutoStart::Apply(true, g_strName, "/opt/client");
+    Append("\n[Desktop Action X]\nHidden=true\nX-GNOME-Autostart-enabled=false");
+    const QByteArray before = Content();
+    QCOMPARE(LocalConfig::ReadAutoStartCommand(g_strName), QString("\"/opt/client\""));
     QCOMPARE(AutoStart::Apply(true, g_strName, "/opt/client"), int(CErrorCode::Success));
     QCOMPARE(Content(), before);
 }
