@@ -12,10 +12,6 @@ namespace LocalConfigClient
 namespace
 {
 
-// Alarm categories that have no place on the map.
-constexpr int g_nSystem = 1;
-constexpr int g_nService = 6;
-
 bool HasKeyOfItsOwn(int nFaceType)
 {
     return nFaceType == 967 || nFaceType == 17020 || nFaceType == 17029;
@@ -39,11 +35,18 @@ int GetSoundKey(const CAlarmType& catalogue, int nAlarmType)
     return nAlarmType >= 3101 && nAlarmType <= 3130 ? 2 : nAlarmType;
 }
 
+bool HasPlaceOnMap(int nCategory)
+{
+    constexpr int nSystem = 1;
+    constexpr int nService = 6;
+    return nCategory != nSystem && nCategory != nService;
+}
+
 void SeedAlarms(const CAlarmType& catalogue, AlarmConfigInfo& record)
 {
     for (int nCategory : catalogue.GetCategoryIds())
     {
-        record.flashCategories.emplace(nCategory, nCategory != g_nSystem && nCategory != g_nService);
+        record.flashCategories.emplace(nCategory, HasPlaceOnMap(nCategory));
     }
     for (int nIndex = 0; nIndex < catalogue.GetAlarmTypeCount(); ++nIndex)
     {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AlarmRecord.h"
 #include "RecordFields.h"
 
 #include <functional>
@@ -100,7 +101,7 @@ public:
         defaults.alarmSounds = m_accepted.alarmSounds;
         for (auto& category : defaults.flashCategories)
         {
-            category.second = true;
+            category.second = category.second || HasPlaceOnMap(category.first);
         }
         for (auto& sound : defaults.alarmSounds)
         {

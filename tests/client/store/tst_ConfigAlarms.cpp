@@ -46,7 +46,10 @@ void tst_ConfigAlarms::AlarmDefaultsKeepTheKeys()
 {
     ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     auto* pAlarm = static_cast<IAlarmSection*>(service.GetSection(SectionAlarm));
-    const AlarmConfigInfo changed = ChangedSettings().alarm;
+    AlarmConfigInfo changed = ChangedSettings().alarm;
+    changed.flashCategories[1] = false; // no place on the map, and no control to switch them off again
+    changed.flashCategories[6] = true;
+    changed.flashCategories[7] = false;
     pAlarm->SetConfig(changed, true);
     pAlarm->ResetConfig(true);
     AlarmConfigInfo record;
@@ -56,7 +59,8 @@ void tst_ConfigAlarms::AlarmDefaultsKeepTheKeys()
     QCOMPARE(record.flashCategories.size(), changed.flashCategories.size());
     for (const auto& [nId, bFlash] : record.flashCategories)
     {
-        QVERIFY(bFlash && changed.flashCategories.count(nId));
+        QCOMPARE(bFlash, nId != 1);
+        QVERIFY(changed.flashCategories.count(nId));
     }
     QCOMPARE(record.alarmSounds.size(), changed.alarmSounds.size());
     for (const auto& [nType, sound] : record.alarmSounds)
