@@ -11,6 +11,7 @@ namespace LocalConfig
 CGroupBox::CGroupBox(QWidget* pParent)
     : QGroupBox(pParent)
 {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // pages stretch, their boxes do not
     setObjectName(QStringLiteral("CGroupBox"));
     ApplySkinStyle(this);
 }

@@ -115,8 +115,8 @@ CLocalConfig::CLocalConfig(QWidget* pParent)
     , m_vecPages(SectionCount)
 {
     m_pUi->setupUi(GetCentralWidget());
-    // The content's height is set from the boxes' own heights, hidden one included; a box that took up the difference
-    // would make the content grow with every computation.
+    // The content's height counts the hidden box, too; what the shown ones leave of it stays empty below them. Qt keeps
+    // to this only because no box stretches.
     m_pUi->verticalLayout->setAlignment(Qt::AlignTop);
     InitDialogSize();
     SetTitle(CFormText::tr("Local Config"));
