@@ -4,6 +4,7 @@
 #include "AlarmLink.h"
 #include "PageHelpers.h"
 
+#include <KvGui/KvModal.h>
 #include <LocalConfig/SkinStyle.h>
 #include <UICommonModule/CAlarmType.h>
 #include <UICommonModule/CAudioOutput.h>
@@ -13,7 +14,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QPointer>
 #include <QSound>
 
 #include <algorithm>
@@ -415,14 +415,15 @@ void CAlarmConfig::OnAlarmTypeForSoundChanged(int /*nMainItem*/, int nSubItem)
 
 void CAlarmConfig::OnSoundPathBtnClicked()
 {
-    const QPointer<CAlarmConfig> pThis = this; // the page may go while the dialog is open
-    const QString strFolder = QFileInfo(Resolve(m_pUi->editSoundPath->text())).absolutePath();
-    const QString strPath =
-        QFileDialog::getOpenFileName(this, tr("Select a wav file"), strFolder, tr("WAVE Files (*.wav)"));
-    if (strPath.isNull() || !pThis)
+    KVGUI::KvModal<QFileDialog> dialog(this, tr("Select a wav file"),
+                                       QFileInfo(Resolve(m_pUi->editSoundPath->text())).absolutePath(),
+                                       tr("WAVE Files (*.wav)"));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    if (!dialog.Exec() || dialog->result() != QDialog::Accepted)
     {
         return;
     }
+    const QString strPath = dialog->selectedFiles().value(0);
     m_pUi->editSoundPath->setText(strPath);
 
     // The linked rules' common key is not used here.

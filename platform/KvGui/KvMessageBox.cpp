@@ -2,11 +2,11 @@
 
 #include "KvButtonRow.h"
 #include "KvCustomDialog.h"
+#include "KvModal.h"
 #include "KvPushButton.h"
 
 #include <QAccessible>
 #include <QLabel>
-#include <QPointer>
 #include <QVBoxLayout>
 
 namespace KVGUI
@@ -90,15 +90,8 @@ private:
 int KvMessageBox::ShowInformation(QWidget* pParent, const QString& strTitle, const QString& strText, int nButtons,
                                   int nDefaultButton)
 {
-    // On the heap, because the parent may be deleted, and its children with it, while the box waits.
-    const QPointer<CMessageDialog> pDialog = new CMessageDialog(pParent, strTitle, strText, nButtons, nDefaultButton);
-    const int nResult = pDialog->exec();
-    if (!pDialog)
-    {
-        return 0;
-    }
-    delete pDialog;
-    return nResult;
+    KvModal<CMessageDialog> dialog(pParent, strTitle, strText, nButtons, nDefaultButton);
+    return dialog.Exec() ? dialog->result() : 0;
 }
 
 } // namespace KVGUI

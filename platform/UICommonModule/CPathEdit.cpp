@@ -1,5 +1,7 @@
 #include "CPathEdit.h"
 
+#include <KvGui/KvModal.h>
+
 #include <QCompleter>
 #include <QDir>
 #include <QEvent>
@@ -78,19 +80,15 @@ void CPathEdit::OnBrowse()
 {
     if (m_eBrowseMode == BrowseFolder)
     {
-        // On the heap: it goes with this field when that is deleted meanwhile.
-        const QPointer<QFileDialog> pDialog =
-            new QFileDialog(this, tr("Select a folder"), QDir::fromNativeSeparators(text()));
-        pDialog->setFileMode(QFileDialog::Directory);
-        pDialog->setOption(QFileDialog::ShowDirsOnly);
-        const bool bPicked = pDialog->exec() == QDialog::Accepted;
-        if (!pDialog)
+        KVGUI::KvModal<QFileDialog> dialog(this, tr("Select a folder"), QDir::fromNativeSeparators(text()));
+        dialog->setFileMode(QFileDialog::Directory);
+        dialog->setOption(QFileDialog::ShowDirsOnly);
+        if (!dialog.Exec())
         {
             return;
         }
-        const QString strFolder = pDialog->selectedFiles().value(0);
-        delete pDialog;
-        if (bPicked && !strFolder.isEmpty())
+        const QString strFolder = dialog->selectedFiles().value(0);
+        if (dialog->result() == QDialog::Accepted && !strFolder.isEmpty())
         {
             setText(QDir::toNativeSeparators(strFolder));
         }
