@@ -7,6 +7,7 @@
 #include <client/store/ConfigService.h>
 
 #include <KvGui/KvMessageNotify.h>
+#include <KvGui/KvModal.h>
 #include <KvGui/KvPushButton.h>
 #include <KvGui/KvToolListView.h>
 #include <LocalConfig/CLocalConfig.h>
@@ -309,6 +310,10 @@ MainWindow::~MainWindow()
 {
     m_configService.SetSavedHandler({});
     m_configService.SetProblemHandler({});
+    if (auto* pDialog = findChild<LocalConfig::CLocalConfig*>())
+    {
+        pDialog->UnInitUI(); // while its services are there
+    }
     if (UserLogical::ILoginManager* pLoginManager = m_userManager.GetLoginManager())
     {
         pLoginManager->RemoveObserver(m_pObserver.get());
@@ -332,18 +337,20 @@ void MainWindow::ApplySettings()
 
 void MainWindow::OpenSettings(int nSection)
 {
-    LocalConfig::CLocalConfig dialog(this);
-    dialog.Init(&m_configService, &m_userManager);
-    dialog.InitDialogSize();
+    KVGUI::KvModal<LocalConfig::CLocalConfig> dialog(this);
+    dialog->Init(&m_configService, &m_userManager);
+    dialog->InitDialogSize();
     if (nSection >= 0)
     {
-        QTimer::singleShot(g_nLayoutTime, &dialog, [&dialog, nSection] {
-            dialog.findChild<KVGUI::KvToolListView*>()->SetCurrentIndex(nSection);
-        });
+        auto* pList = dialog->findChild<KVGUI::KvToolListView*>();
+        QTimer::singleShot(g_nLayoutTime, pList, [pList, nSection] { pList->SetCurrentIndex(nSection); });
     }
     const int nSaves = m_configService.GetSaveAttempts();
-    dialog.exec();
-    dialog.UnInitUI();
+    if (!dialog.Exec())
+    {
+        return; // this window has gone, too
+    }
+    dialog->UnInitUI();
     if (m_configService.GetSaveAttempts() == nSaves)
     {
         // Cancelled: what single pages had stored before another one refused is not to come back with the next save.

@@ -1,4 +1,5 @@
 #include "support/ClientWindow.h"
+#include "support/FakeHost.h"
 #include "support/Wheel.h"
 
 #include <KvGui/KvCheckBox.h>
@@ -13,6 +14,8 @@
 #include <QSpinBox>
 #include <QTcpServer>
 #include <QToolTip>
+
+#include <memory>
 
 using namespace LocalConfigClient;
 
@@ -36,6 +39,7 @@ private slots:
     void TheDialogLocksAndUnlocksWithTheConnection();
     void TheDialogOpensLockedWhileDisconnected();
     void WithoutTheWallRight();
+    void TheWindowMayGoWhileTheDialogIsOpen();
 };
 
 void tst_SettingsInTheClient::EditSaveRestart()
@@ -288,6 +292,25 @@ void tst_SettingsInTheClient::WithoutTheWallRight()
         QVERIFY(!Find<QWidget>(dialog, "m_gBTvwall")->isVisible());
         QVERIFY(!Find<QWidget>(dialog, "m_pTvWall"));
     });
+}
+
+void tst_SettingsInTheClient::TheWindowMayGoWhileTheDialogIsOpen()
+{
+    CJournal journal;
+    CFakeLoginManager loginManager(journal);
+    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    UserManager users({}, &loginManager);
+    auto pWindow = std::make_unique<MainWindow>(service, users);
+    pWindow->show();
+    bool bOpen = false;
+    QTimer::singleShot(100, this, [&] {
+        bOpen = QApplication::activeModalWidget();
+        pWindow.reset();
+    });
+    QTest::mouseClick(pWindow->findChild<QAbstractButton*>("btnSettings"), Qt::LeftButton);
+    QVERIFY(bOpen);
+    QVERIFY(!pWindow);
+    QVERIFY(loginManager.m_listObservers.isEmpty());
 }
 
 QTEST_MAIN(tst_SettingsInTheClient)
