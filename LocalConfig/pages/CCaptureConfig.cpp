@@ -97,7 +97,7 @@ int CCaptureConfig::SaveConfig()
     const int nCount = m_pUi->picNumEdit->text().toInt();
     if (!g_count.Contains(nCount))
     {
-        m_pUi->picNumEdit->showErrorHintNoTip(true);
+        PointAtKept(m_pUi->picNumEdit);
         return -2;
     }
     record.continuousCount = nCount;
@@ -115,6 +115,7 @@ int CCaptureConfig::SaveConfig()
     record.picturePath = m_pUi->picPathEdit->text().toStdString();
     if (record.picturePath.size() > g_nMaxPathBytes)
     {
+        PointAt(m_pUi->picPathEdit, QString());
         return -1;
     }
     record.nameFormat = m_pUi->picNameFormatCmbBox->currentIndex();
@@ -133,13 +134,14 @@ void CCaptureConfig::SetControlsEnabled(bool bEnable)
 bool CCaptureConfig::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     KVGUI::KvLineEdit* pEdit = m_pUi->picNumEdit;
-    if (pWatched == pEdit && pEvent->type() == QEvent::FocusIn)
-    {
-        ClearHint(pEdit);
-    }
-    else if (pWatched == pEdit && pEvent->type() == QEvent::FocusOut && !g_count.Contains(pEdit->text().toInt()))
+    const bool bLeft = pWatched == pEdit && pEvent->type() == QEvent::FocusOut;
+    if (bLeft && !g_count.Contains(pEdit->text().toInt()))
     {
         pEdit->showErrorHint(this, true, tr("Continuously snapshot 2-10 pic."));
+    }
+    else if (bLeft || (pWatched == pEdit && pEvent->type() == QEvent::FocusIn))
+    {
+        ClearHint(pEdit);
     }
     return QWidget::eventFilter(pWatched, pEvent);
 }

@@ -81,12 +81,13 @@ int CRecordConfig::SaveConfig()
     record.recordPath = m_pUi->recPathEdit->text().toStdString();
     if (record.recordPath.size() > g_nMaxPathBytes)
     {
+        PointAt(m_pUi->recPathEdit, QString());
         return -1;
     }
     const int nFileSize = m_pUi->maxRecSizeEdit->text().toInt();
     if (!g_fileSize.Contains(nFileSize))
     {
-        m_pUi->maxRecSizeEdit->showErrorHintNoTip(true);
+        PointAtKept(m_pUi->maxRecSizeEdit);
         return -2;
     }
     record.maxFileSize = nFileSize;
@@ -104,14 +105,15 @@ void CRecordConfig::SetControlsEnabled(bool bEnable)
 bool CRecordConfig::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     KVGUI::KvLineEdit* pEdit = m_pUi->maxRecSizeEdit;
-    if (pWatched == pEdit && pEvent->type() == QEvent::FocusIn)
+    const bool bLeft = pWatched == pEdit && pEvent->type() == QEvent::FocusOut;
+    if (bLeft && !g_fileSize.Contains(pEdit->text().toInt()))
+    {
+        pEdit->showErrorHint(this, true, g_fileSize.Fill(tr("Max size of a file must be within %1-%2.")));
+    }
+    else if (bLeft || (pWatched == pEdit && pEvent->type() == QEvent::FocusIn))
     {
         m_pUi->m_maxRecSizeLabel->clear();
         ClearHint(pEdit);
-    }
-    else if (pWatched == pEdit && pEvent->type() == QEvent::FocusOut && !g_fileSize.Contains(pEdit->text().toInt()))
-    {
-        pEdit->showErrorHint(this, true, g_fileSize.Fill(tr("Max size of a file must be within %1-%2.")));
     }
     return QWidget::eventFilter(pWatched, pEvent);
 }

@@ -236,6 +236,7 @@ int CVideoConfig::SaveConfig()
     record.nSubStreamSplitThreshold = m_pUi->wndSplitCmbBox->currentText().toInt();
     if (!SaveInstantTime(record))
     {
+        PointAt(m_pUi->instantTimeEdit, QString());
         return -1;
     }
     UICommonMdl::CLocalIniFile::WriteValue(QStringLiteral("ProcessDecode"), QStringLiteral("enable"),

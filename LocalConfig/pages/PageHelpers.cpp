@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QRegExpValidator>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTimer>
 #include <QToolTip>
@@ -57,6 +58,58 @@ private:
     QString m_strBefore;
 };
 
+QScrollArea* FindScrollArea(QWidget* pWidget)
+{
+    while (pWidget && !qobject_cast<QScrollArea*>(pWidget))
+    {
+        pWidget = pWidget->parentWidget();
+    }
+    return static_cast<QScrollArea*>(pWidget);
+}
+
+/// Scrolls to a control that is not in sight. On its way is the top of its section, where the navigation takes notice
+/// as it does when a user scrolls there.
+void ScrollTo(QWidget* pControl)
+{
+    QScrollArea* pScrollArea = FindScrollArea(pControl);
+    if (!pScrollArea)
+    {
+        return;
+    }
+    const QWidget* pView = pScrollArea->viewport();
+    if (pView->rect().contains(QRect(pControl->mapTo(pView, QPoint()), pControl->size())))
+    {
+        return;
+    }
+    const QWidget* pSection = pControl;
+    while (pSection->parentWidget() != pScrollArea->widget())
+    {
+        pSection = pSection->parentWidget();
+    }
+    pScrollArea->verticalScrollBar()->setValue(pSection->y());
+    pScrollArea->ensureWidgetVisible(pControl);
+}
+
+/// Puts the focus on a control, scrolled into view, and tells the user about it.
+template <class Tell>
+void Point(QWidget* pControl, Tell tell)
+{
+    const auto point = [pControl, tell] {
+        ScrollTo(pControl);
+        pControl->setFocus();
+        tell();
+    };
+    point();
+    // Once more after a refused save, when the dialog has loaded its pages again: that moves the focus, and the tip
+    // goes. Where several controls were pointed at, the last one has the focus then.
+    QTimer::singleShot(0, pControl, [pControl, point] {
+        if (pControl->isVisible())
+        {
+            point();
+        }
+    });
+}
+
 } // namespace
 
 void AppendColon(const QString& strColon, std::initializer_list<QLabel*> listCaptions)
@@ -79,25 +132,15 @@ QString SRange::Fill(const QString& strTemplate) const
 
 void PointAt(QWidget* pControl, const QString& strText)
 {
-    const auto point = [pControl, strText] {
-        for (QWidget* pWidget = pControl->parentWidget(); pWidget; pWidget = pWidget->parentWidget())
-        {
-            if (auto* pScrollArea = qobject_cast<QScrollArea*>(pWidget))
-            {
-                pScrollArea->ensureWidgetVisible(pControl);
-            }
-        }
-        pControl->setFocus();
-        QToolTip::showText(pControl->mapToGlobal(QPoint(0, 0)), strText, pControl);
-    };
-    point();
-    // Once more after a refused save, when the dialog has loaded its pages again: that moves the focus, and the tip
-    // goes.
-    QTimer::singleShot(0, pControl, [pControl, point] {
-        if (pControl->isVisible())
-        {
-            point();
-        }
+    Point(pControl,
+          [pControl, strText] { QToolTip::showText(pControl->mapToGlobal(QPoint(0, 0)), strText, pControl); });
+}
+
+void PointAtKept(KVGUI::KvLineEdit* pEdit)
+{
+    Point(pEdit, [pEdit] {
+        QToolTip::hideText();
+        pEdit->showErrorHintNoTip(true);
     });
 }
 

@@ -1,0 +1,170 @@
+#include "support/PageFixture.h"
+#include "support/RealDialog.h"
+
+#include <KvGui/KvLineEdit.h>
+
+#include <QToolTip>
+
+using namespace LocalConfig;
+
+namespace
+{
+
+struct SField
+{
+    const char* pszName;
+    QString strRefused;
+    int nIndex; ///< of its section
+};
+
+const SField g_arrFields[] = {
+    {"instantTimeEdit", "9", 1},
+    {"picNumEdit", "1", 3},
+    {"picTmSpinBox", "0", 3},
+    {"picPathEdit", QString(181, 'p'), 3},
+    {"recPathEdit", QString(169, 'r'), 4},
+    {"maxRecSizeEdit", "9", 4},
+    {"lineeditStayTime", "14", 6},
+};
+
+} // namespace
+
+/// Where a save that a page has refused leads the user.
+class tst_RefusedFields : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void TheRefusedFieldHasTheFocusAndIsSeen_data() { Fields(); }
+    void TheRefusedFieldHasTheFocusAndIsSeen();
+    void TheNavigationFollows_data() { Fields(); }
+    void TheNavigationFollows();
+    void AHintLeadsNowhereElse_data() { Fields(); }
+    void AHintLeadsNowhereElse();
+    void AFieldInSightIsNotScrolledTo();
+    void AKeptTextStaysMarkedUntilItIsGood_data();
+    void AKeptTextStaysMarkedUntilItIsGood();
+
+private:
+    static void Fields();
+    /// Types what the row refuses, goes to an end of the content, and saves.
+    void Refuse(SRealDialog& d, int nKey = Qt::Key_Home);
+    bool IsInSight(SRealDialog& d) const;
+
+    SRealHost m_host;
+    QWidget* m_pField = nullptr;
+};
+
+void tst_RefusedFields::init()
+{
+    QApplication::desktop()->setGeometry(0, 0, 1920, 1080);
+    LocalConfigLogical::VideoConfigInfo record;
+    record.bInstantCustom = true;
+    record.nPlayMode = 4;
+    m_host.video.m_record = record;
+}
+
+void tst_RefusedFields::Fields()
+{
+    QTest::addColumn<QString>("strField");
+    QTest::addColumn<QString>("strRefused");
+    QTest::addColumn<int>("nIndex");
+    for (const SField& field : g_arrFields)
+    {
+        QTest::newRow(field.pszName) << field.pszName << field.strRefused << field.nIndex;
+    }
+}
+
+void tst_RefusedFields::Refuse(SRealDialog& d, int nKey)
+{
+    QFETCH(QString, strField);
+    QFETCH(QString, strRefused);
+    d.Open();
+    m_pField = d.dialog.findChild<QWidget*>(strField);
+    auto* pEdit = qobject_cast<QLineEdit*>(m_pField);
+    Type(pEdit ? pEdit : m_pField->findChild<QLineEdit*>(), strRefused);
+    d.List()->setFocus();
+    QTest::keyClick(d.List(), Qt::Key(nKey));
+    d.Click("btnOk");
+    QVERIFY(d.dialog.isVisible());
+    QCoreApplication::processEvents();
+}
+
+bool tst_RefusedFields::IsInSight(SRealDialog& d) const
+{
+    const QWidget* pViewport = d.ScrollArea()->viewport();
+    return pViewport->rect().contains(QRect(m_pField->mapTo(pViewport, QPoint()), m_pField->size()));
+}
+
+void tst_RefusedFields::TheRefusedFieldHasTheFocusAndIsSeen()
+{
+    SRealDialog d(m_host);
+    Refuse(d);
+    QVERIFY(m_pField->hasFocus());
+    QVERIFY(IsInSight(d));
+}
+
+void tst_RefusedFields::TheNavigationFollows()
+{
+    QFETCH(int, nIndex);
+    for (const int nKey : {Qt::Key_Home, Qt::Key_End})
+    {
+        SRealDialog d(m_host);
+        Refuse(d, nKey);
+        QCOMPARE(d.List()->GetCurrentIndex(), nIndex);
+        QCOMPARE(d.SelectedBoxes(), QList<int>{nIndex});
+    }
+}
+
+void tst_RefusedFields::AHintLeadsNowhereElse()
+{
+    m_host.video.m_record.nVideoBufferTime = 5000;
+    SRealDialog d(m_host);
+    Refuse(d);
+    QVERIFY(m_pField->hasFocus());
+    QVERIFY(IsInSight(d));
+    QTRY_VERIFY(!QToolTip::text().startsWith("Video buffer time"));
+}
+
+void tst_RefusedFields::AFieldInSightIsNotScrolledTo()
+{
+    SRealDialog d(m_host);
+    d.Open();
+    m_pField = d.Find<QWidget>("lineeditStayTime");
+    Type(qobject_cast<QLineEdit*>(m_pField), "14");
+    const int nValue = d.ScrollBar()->value();
+    d.Click("btnOk");
+    QCoreApplication::processEvents();
+    QVERIFY(m_pField->hasFocus());
+    QCOMPARE(d.ScrollBar()->value(), nValue);
+}
+
+void tst_RefusedFields::AKeptTextStaysMarkedUntilItIsGood_data()
+{
+    QTest::addColumn<QString>("strField");
+    QTest::addColumn<QString>("strRefused");
+    QTest::newRow("count") << "picNumEdit"
+                           << "1";
+    QTest::newRow("file size") << "maxRecSizeEdit"
+                               << "9";
+}
+
+void tst_RefusedFields::AKeptTextStaysMarkedUntilItIsGood()
+{
+    QFETCH(QString, strRefused);
+    SRealDialog d(m_host);
+    Refuse(d);
+    auto* pEdit = qobject_cast<KVGUI::KvLineEdit*>(m_pField);
+    QCOMPARE(pEdit->text(), strRefused);
+    QVERIFY(pEdit->IsErrorHintShown());
+    Type(pEdit, "10");
+    QTest::keyClick(pEdit, Qt::Key_Tab);
+    QVERIFY(!pEdit->hasFocus());
+    QVERIFY(!pEdit->IsErrorHintShown());
+}
+
+QTEST_MAIN(tst_RefusedFields)
+
+#include "tst_RefusedFields.moc"
