@@ -312,6 +312,7 @@ MainWindow::~MainWindow()
     m_configService.SetProblemHandler({});
     if (auto* pDialog = findChild<LocalConfig::CLocalConfig*>())
     {
+        pDialog->hide();
         pDialog->UnInitUI(); // while its services are there
     }
     if (UserLogical::ILoginManager* pLoginManager = m_userManager.GetLoginManager())

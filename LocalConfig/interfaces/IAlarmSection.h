@@ -29,7 +29,7 @@ struct AlarmConfigInfo
     bool linkVideo = true;
     std::int32_t openVideoType = 0;                     ///< 0 as pop-up, otherwise in live view
     std::map<std::int32_t, bool> flashCategories;       ///< alarm category id: flash the map for it
-    std::map<std::int32_t, AlarmSoundInfo> alarmSounds; ///< by alarm type id
+    std::map<std::int32_t, AlarmSoundInfo> alarmSounds; ///< by alarm type id, or by the key that a group shares
 };
 
 /// Section object of SectionAlarm.

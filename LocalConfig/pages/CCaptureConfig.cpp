@@ -102,7 +102,7 @@ int CCaptureConfig::SaveConfig()
     }
     record.continuousCount = nCount;
 
-    // The text, since the value survives an emptied field; in the digits that the box writes.
+    // The text, since the value is still the last one while the field holds none; in the digits that the box writes.
     const int nInterval = m_pUi->picTmSpinBox->locale().toInt(m_pUi->picTmSpinBox->text());
     if (nInterval < g_interval.nMin)
     {

@@ -10,7 +10,7 @@ namespace LocalConfigClient
 class AutoStart
 {
 public:
-    /// Writes or removes the entry. Other keys of an existing XDG entry stay.
+    /// Writes or removes the entry. Other keys of an existing XDG entry stay, but for those that switch it off.
     /// \param strApplication  the name of the entry
     /// \param strExecutable   what it starts, with "/" between folders
     /// \return a CErrorCode; Success also when there was nothing to do
