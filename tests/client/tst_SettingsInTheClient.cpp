@@ -298,7 +298,7 @@ void tst_SettingsInTheClient::TheWindowMayGoWhileTheDialogIsOpen()
 {
     CJournal journal;
     CFakeLoginManager loginManager(journal);
-    ConfigService service(m_pFolder->path(), ConfigService::ReadWrite);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     UserManager users({}, &loginManager);
     auto pWindow = std::make_unique<MainWindow>(service, users);
     pWindow->show();
