@@ -1,6 +1,7 @@
 #include "Client.h"
 
 #include "MainWindow.h"
+#include "SystemSignals.h"
 #include <client/alarm/AlarmSounds.h>
 #include <client/session/AutoStart.h>
 #include <client/session/LoginManager.h>
@@ -323,6 +324,9 @@ int Client::Run(QApplication& application)
 
 int Client::OpenWindow()
 {
+    const SystemSignals systemSignals;
+    QObject::connect(&systemSignals, &SystemSignals::SignalEnd, &QCoreApplication::quit);
+
     ConfigService service(m_commandLine.strDataFolder, SettingsFile::ReadWrite, &WriteAutoStart);
     service.SeedAlarms(*CAlarmType::Instance());
     if (!ProvideSounds())

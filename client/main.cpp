@@ -1,4 +1,5 @@
 #include "Client.h"
+#include "SystemSignals.h"
 
 #include <QApplication>
 
@@ -26,6 +27,7 @@ bool HasDisplay()
 
 int main(int argc, char* argv[])
 {
+    SystemSignals::SurviveFileSizeLimit();
     QCoreApplication::setApplicationName(QStringLiteral("local-config-client"));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.0.0"));
 
