@@ -1,5 +1,7 @@
 #include "LoginManager.h"
 
+#include "HostLookup.h"
+
 #include <QElapsedTimer>
 #include <QTcpSocket>
 #include <QTimer>
@@ -26,6 +28,7 @@ public:
         , m_nPort(nPort)
         , m_backOff(backOff)
         , m_nDelay(backOff.nFirst)
+        , m_lookup(this)
         , m_socket(this)
         , m_retry(this)
         , m_timeout(this)
@@ -33,7 +36,8 @@ public:
         m_retry.setSingleShot(true);
         m_timeout.setSingleShot(true);
         m_timeout.setInterval(g_nConnectTimeout);
-        connect(&m_retry, &QTimer::timeout, this, &ConnectionWatch::Connect);
+        connect(&m_lookup, &HostLookup::SignalDone, this, &ConnectionWatch::OnLookedUp);
+        connect(&m_retry, &QTimer::timeout, this, &ConnectionWatch::OnRetry);
         connect(&m_timeout, &QTimer::timeout, this, &ConnectionWatch::OnLost);
         connect(&m_socket, &QTcpSocket::connected, this, &ConnectionWatch::OnConnected);
         connect(&m_socket, &QTcpSocket::disconnected, this, &ConnectionWatch::OnLost);
@@ -50,13 +54,53 @@ public:
     void Connect()
     {
         m_timeout.start();
-        m_socket.connectToHost(m_strHost, m_nPort);
+        const QHostAddress address(m_strHost);
+        if (address.isNull())
+        {
+            m_lookup.Start(m_strHost);
+        }
+        else
+        {
+            OnLookedUp({address});
+        }
     }
 
 private:
+    /// May come late, when the attempt that asked for it has been given up.
+    void OnLookedUp(const QVector<QHostAddress>& listAddresses)
+    {
+        m_listAddresses = listAddresses;
+        if (listAddresses.isEmpty())
+        {
+            OnLost();
+            return;
+        }
+        m_retry.stop();
+        ConnectToNext();
+    }
+
+    void ConnectToNext()
+    {
+        m_timeout.start();
+        m_socket.connectToHost(m_listAddresses.takeFirst(), m_nPort);
+    }
+
+    void OnRetry()
+    {
+        if (m_listAddresses.isEmpty())
+        {
+            Connect();
+        }
+        else
+        {
+            ConnectToNext();
+        }
+    }
+
     void OnConnected()
     {
         m_timeout.stop();
+        m_listAddresses.clear();
         m_socket.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
         m_held.start();
         m_manager.SetConnected(true);
@@ -69,6 +113,12 @@ private:
             return; // one loss is reported by several signals
         }
         m_timeout.stop();
+        if (!m_listAddresses.isEmpty())
+        {
+            m_retry.start(0); // the server has another address
+            m_socket.abort();
+            return;
+        }
         if (m_held.isValid() && m_held.elapsed() > m_backOff.nLongest)
         {
             m_nDelay = m_backOff.nFirst; // a server that hangs up at once is tried ever more seldom, too
@@ -85,7 +135,9 @@ private:
     quint16 m_nPort;
     LoginManager::BackOff m_backOff;
     int m_nDelay;
-    QElapsedTimer m_held; // how long the connection has lasted
+    QVector<QHostAddress> m_listAddresses; // that this attempt has not tried yet
+    QElapsedTimer m_held;                  // how long the connection has lasted
+    HostLookup m_lookup;
     QTcpSocket m_socket;
     QTimer m_retry;
     QTimer m_timeout;

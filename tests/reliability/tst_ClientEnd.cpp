@@ -1,7 +1,10 @@
-// How the client's program ends when the operating system tells it to. POSIX only.
+// How the client's program ends when the operating system tells it to. POSIX only. A name server that does not answer
+// comes from the library "FaultFs", preloaded into the client, see support/FaultFs.cpp.
 
 #include "support/ChangedSettings.h"
 #include "support/ClientProcess.h"
+
+#include <QElapsedTimer>
 
 #include <csignal>
 
@@ -19,6 +22,7 @@ private slots:
     void ASignalEndsADumpAtOnce();
     void AFileSizeLimitIsAFullDisk();
     void AFileSizeLimitDoesNotEndTheWindow();
+    void ASilentNameServerDelaysNoEnd();
 
 private:
     void Start(QProcess& process, QStringList listArguments = {}) const
@@ -110,6 +114,25 @@ void tst_ClientEnd::AFileSizeLimitDoesNotEndTheWindow()
     process.terminate();
     QVERIFY(process.waitForFinished(10000));
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+}
+
+void tst_ClientEnd::ASilentNameServerDelaysNoEnd()
+{
+    m_environment.insert("LD_PRELOAD", QString::fromLocal8Bit(qgetenv("KV_FAULT_LIBRARY")));
+    m_environment.insert("ASAN_OPTIONS", "verify_asan_link_order=0");
+    m_environment.insert("KV_SILENT_NAME_SERVER", "20");
+    QProcess process;
+    OpenWindow(process, {"--platform", "server.example:554"});
+    QByteArray told;
+    QTRY_VERIFY((told += process.readAllStandardError()).contains("name server"));
+    QElapsedTimer timer;
+    timer.start();
+    process.terminate();
+    QVERIFY(process.waitForFinished(30000));
+    const qint64 nTime = timer.elapsed();
+    QVERIFY2(nTime < 5000, qPrintable(QString::number(nTime))); // a small part of what the server takes
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_ClientEnd)

@@ -1,8 +1,11 @@
-// A disk that fails, for programs that this library is preloaded into (LD_PRELOAD).
+// A disk or a name server that fails, for programs that this library is preloaded into (LD_PRELOAD).
 //
 // KV_FAULT="<call>:<error>:<text>[:<n>]" makes a call fail for every file whose path contains the text, or only the
 // n-th time, counted from 1. A text that ends in "$" must stand at the path's end. Calls: write, fsync, rename, link,
 // fchmod, flock. Errors: ENOSPC, EIO, EPERM, ENOLCK.
+//
+// KV_SILENT_NAME_SERVER="<seconds>" makes the look-up of a host take so long. Its beginning is told on stderr.
+// KV_ADDRESSES="<address> <address>..." are the addresses of every host.
 
 #include <cerrno>
 #include <cstdio>
@@ -10,6 +13,7 @@
 #include <cstring>
 #include <dlfcn.h>
 #include <map>
+#include <netdb.h>
 #include <sstream>
 #include <string>
 #include <sys/file.h>
@@ -20,11 +24,11 @@
 namespace
 {
 
-std::vector<std::string> Split(const std::string& strText)
+std::vector<std::string> Split(const std::string& strText, char chSeparator)
 {
     std::vector<std::string> listParts;
     std::istringstream stream(strText);
-    for (std::string strPart; std::getline(stream, strPart, ':');)
+    for (std::string strPart; std::getline(stream, strPart, chSeparator);)
     {
         listParts.push_back(strPart);
     }
@@ -55,7 +59,7 @@ bool Fails(const char* pszCall, const std::string& strPath)
     static int nCalls = 0;
 
     const char* pszFault = std::getenv("KV_FAULT");
-    const std::vector<std::string> listParts = Split(pszFault ? pszFault : "");
+    const std::vector<std::string> listParts = Split(pszFault ? pszFault : "", ':');
     if (listParts.size() < 3 || listParts[0] != pszCall || !Matches(strPath, listParts[2]))
     {
         return false;
@@ -130,4 +134,30 @@ VISIBLE int flock(int nHandle, int nOperation) noexcept
 {
     static const auto next = Next<int (*)(int, int)>("flock");
     return Fails("flock", PathOf(nHandle)) ? -1 : next(nHandle, nOperation);
+}
+
+VISIBLE int getaddrinfo(const char* pszHost, const char* pszService, const addrinfo* pHints, addrinfo** ppResult)
+{
+    static const auto next = Next<int (*)(const char*, const char*, const addrinfo*, addrinfo**)>("getaddrinfo");
+    if (const char* pszSeconds = std::getenv("KV_SILENT_NAME_SERVER"))
+    {
+        std::fputs("asking the name server\n", stderr);
+        ::sleep(unsigned(std::atoi(pszSeconds)));
+        return EAI_AGAIN;
+    }
+    const char* pszAddresses = std::getenv("KV_ADDRESSES");
+    if (!pszAddresses)
+    {
+        return next(pszHost, pszService, pHints, ppResult);
+    }
+    int nResult = EAI_NONAME;
+    for (const std::string& strAddress : Split(pszAddresses, ' '))
+    {
+        nResult = next(strAddress.c_str(), pszService, pHints, ppResult);
+        while (nResult == 0 && *ppResult)
+        {
+            ppResult = &(*ppResult)->ai_next;
+        }
+    }
+    return nResult;
 }

@@ -1,4 +1,5 @@
-// Against a real server on this machine, which goes away and comes back.
+// Against a real server on this machine, which goes away and comes back. Its name is known to the preloaded library
+// "FaultFs" alone, see support/FaultFs.cpp.
 
 #include <client/session/LoginManager.h>
 
@@ -86,6 +87,8 @@ class tst_LoginManager : public QObject
     Q_OBJECT
 
 private slots:
+    void cleanup() { qunsetenv("KV_ADDRESSES"); }
+
     void WithoutAServerNobodyIsTold();
     void AConnectionThatSucceedsIsNoNews();
     void LossAndReturn();
@@ -103,6 +106,8 @@ private slots:
     void WhatTheServerSaysIsIgnored();
     void AttemptsBecomeSeldom();
     void EndsWhileConnecting();
+    void EveryAddressOfAHostIsTried();
+    void AHostThatIsUnknownIsALoss();
 };
 
 void tst_LoginManager::WithoutAServerNobodyIsTold()
@@ -421,6 +426,32 @@ void tst_LoginManager::EndsWhileConnecting()
         const LoginManager manager("127.0.0.1", 1, g_fast);
     }
     QVERIFY(timer.elapsed() < 5000);
+}
+
+void tst_LoginManager::EveryAddressOfAHostIsTried()
+{
+    CServer server; // listens at the second one
+    QVERIFY(server.Open());
+    qputenv("KV_ADDRESSES", "127.0.0.2 127.0.0.1");
+    LoginManager manager("server.example", server.Port(), g_fast);
+    CObserver observer;
+    manager.AddObserver(&observer);
+    QTRY_COMPARE(server.m_nConnections, 1);
+    QTest::qWait(50);
+    QCOMPARE(observer.States(), QStringList());
+    server.Close();
+    QTRY_COMPARE(observer.States(), QStringList{"3/0"});
+    manager.RemoveObserver(&observer);
+}
+
+void tst_LoginManager::AHostThatIsUnknownIsALoss()
+{
+    qputenv("KV_ADDRESSES", "");
+    LoginManager manager("server.example", 80, g_fast);
+    CObserver observer;
+    manager.AddObserver(&observer);
+    QTRY_COMPARE(observer.States(), QStringList{"3/0"});
+    manager.RemoveObserver(&observer);
 }
 
 QTEST_GUILESS_MAIN(tst_LoginManager)
