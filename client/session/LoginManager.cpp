@@ -1,6 +1,7 @@
 #include "LoginManager.h"
 
 #include "HostLookup.h"
+#include "KeepAlive.h"
 
 #include <QElapsedTimer>
 #include <QTcpSocket>
@@ -14,7 +15,8 @@ namespace
 
 constexpr int g_nStateConnected = 2;
 constexpr int g_nStateLost = 3;
-constexpr int g_nConnectTimeout = 5000; // milliseconds; the system's own is minutes
+constexpr int g_nConnectTimeout = 5000;     // milliseconds; the system's own is minutes
+constexpr qint64 g_nReadBuffer = 64 * 1024; // bytes of what nobody wants to know
 
 } // namespace
 
@@ -36,6 +38,7 @@ public:
         m_retry.setSingleShot(true);
         m_timeout.setSingleShot(true);
         m_timeout.setInterval(g_nConnectTimeout);
+        m_socket.setReadBufferSize(g_nReadBuffer);
         connect(&m_lookup, &HostLookup::SignalDone, this, &ConnectionWatch::OnLookedUp);
         connect(&m_retry, &QTimer::timeout, this, &ConnectionWatch::OnRetry);
         connect(&m_timeout, &QTimer::timeout, this, &ConnectionWatch::OnLost);
@@ -101,7 +104,7 @@ private:
     {
         m_timeout.stop();
         m_listAddresses.clear();
-        m_socket.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+        KeepAlive(m_socket.socketDescriptor());
         m_held.start();
         m_manager.SetConnected(true);
     }

@@ -7,6 +7,8 @@
 #include <client/store/FolderLock.h>
 
 #include <QSysInfo>
+#include <QTcpServer>
+#include <QTcpSocket>
 
 using namespace LocalConfigClient;
 
@@ -20,6 +22,9 @@ private slots:
     void AReadOnlyFolderLosesNothing();
     void AFullDiskLosesNothing();
     void ASecondClientLosesNothing();
+#ifdef Q_OS_LINUX // where a process tells how much memory it has had
+    void AFloodFromTheServerTakesNoMemory();
+#endif
 };
 
 void tst_ClientFaults::AReadOnlyFolderLosesNothing()
@@ -71,6 +76,61 @@ void tst_ClientFaults::ASecondClientLosesNothing()
     QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
     QCOMPARE(Client({"--dump"}).output, Document(ChangedSettings()));
 }
+
+#ifdef Q_OS_LINUX
+
+namespace
+{
+
+/// The most memory that a process has had, in megabytes.
+int GetPeakMemory(qint64 nProcess)
+{
+    QFile file(QString("/proc/%1/status").arg(nProcess));
+    if (!file.open(QIODevice::ReadOnly))
+    {
+        return -1;
+    }
+    const QByteArray text = file.readAll();
+    const int nStart = text.indexOf("VmHWM:") + 6;
+    return text.mid(nStart, text.indexOf("kB", nStart) - nStart).trimmed().toInt() / 1024;
+}
+
+} // namespace
+
+void tst_ClientFaults::AFloodFromTheServerTakesNoMemory()
+{
+    m_environment.insert("ASAN_OPTIONS", "quarantine_size_mb=1"); // which would be taken for the client's memory
+    QTcpServer server;
+    QVERIFY(server.listen(QHostAddress::LocalHost));
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.start(QString::fromLocal8Bit(qgetenv("KV_CLIENT")),
+                  {"--platform", QString("127.0.0.1:%1").arg(server.serverPort()), "--data-dir", m_pFolder->path()});
+    QVERIFY(server.waitForNewConnection(30000));
+    QTcpSocket* pSocket = server.nextPendingConnection();
+    QTest::qWait(1000); // the window and the dialog have taken what they need
+    const int nBefore = GetPeakMemory(process.processId());
+    QVERIFY(nBefore > 0);
+
+    constexpr qint64 nFlood = 200 * 1024 * 1024;
+    const QByteArray chunk(1024 * 1024, 'x');
+    for (qint64 nSent = 0; nSent < nFlood; nSent += chunk.size())
+    {
+        pSocket->write(chunk);
+        QVERIFY(pSocket->waitForBytesWritten(10000));
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(pSocket->bytesToWrite(), qint64(0), 30000);
+    const int nGrowth = GetPeakMemory(process.processId()) - nBefore;
+    QVERIFY2(nGrowth < 4, qPrintable(QString::number(nGrowth)));
+
+    QElapsedTimer timer;
+    timer.start();
+    process.terminate();
+    QVERIFY(process.waitForFinished(10000));
+    QVERIFY(timer.elapsed() < 5000);
+}
+
+#endif
 
 QTEST_GUILESS_MAIN(tst_ClientFaults)
 

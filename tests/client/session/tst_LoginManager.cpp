@@ -16,6 +16,12 @@
 #include <mutex>
 #include <thread>
 
+#ifdef Q_OS_LINUX
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
+#endif
+
 using namespace LocalConfigClient;
 using UserLogical::ILoginManagerObserver;
 
@@ -80,6 +86,34 @@ private:
     QScopedPointer<QTcpServer> m_pServer;
 };
 
+#ifdef Q_OS_LINUX
+
+/// The socket of this process that is connected to a port; -1 without one.
+int FindSocketTo(quint16 nPort)
+{
+    for (int nSocket = 3; nSocket < 1024; ++nSocket)
+    {
+        sockaddr_in address = {};
+        socklen_t nLength = sizeof(address);
+        if (::getpeername(nSocket, reinterpret_cast<sockaddr*>(&address), &nLength) == 0 &&
+            address.sin_family == AF_INET && address.sin_port == qToBigEndian(nPort))
+        {
+            return nSocket;
+        }
+    }
+    return -1;
+}
+
+int GetOption(int nSocket, int nLevel, int nOption)
+{
+    int nValue = -1;
+    socklen_t nLength = sizeof(nValue);
+    ::getsockopt(nSocket, nLevel, nOption, &nValue, &nLength);
+    return nValue;
+}
+
+#endif
+
 } // namespace
 
 class tst_LoginManager : public QObject
@@ -108,6 +142,9 @@ private slots:
     void EndsWhileConnecting();
     void EveryAddressOfAHostIsTried();
     void AHostThatIsUnknownIsALoss();
+#ifdef Q_OS_LINUX // elsewhere the system does not tell what was set
+    void AServerThatVanishesIsNoticedWithinHalfAMinute();
+#endif
 };
 
 void tst_LoginManager::WithoutAServerNobodyIsTold()
@@ -453,6 +490,26 @@ void tst_LoginManager::AHostThatIsUnknownIsALoss()
     QTRY_COMPARE(observer.States(), QStringList{"3/0"});
     manager.RemoveObserver(&observer);
 }
+
+#ifdef Q_OS_LINUX
+
+void tst_LoginManager::AServerThatVanishesIsNoticedWithinHalfAMinute()
+{
+    CServer server;
+    QVERIFY(server.Open());
+    const LoginManager manager("127.0.0.1", server.Port(), g_fast);
+    QTRY_COMPARE(server.m_nConnections, 1);
+    const int nSocket = FindSocketTo(server.Port());
+    QVERIFY(nSocket > 0);
+    QTRY_COMPARE(GetOption(nSocket, SOL_SOCKET, SO_KEEPALIVE), 1);
+    const auto time = [nSocket] {
+        return GetOption(nSocket, IPPROTO_TCP, TCP_KEEPIDLE) +
+               GetOption(nSocket, IPPROTO_TCP, TCP_KEEPINTVL) * GetOption(nSocket, IPPROTO_TCP, TCP_KEEPCNT);
+    };
+    QTRY_VERIFY2(time() < 30, qPrintable(QString::number(time())));
+}
+
+#endif
 
 QTEST_GUILESS_MAIN(tst_LoginManager)
 
