@@ -97,6 +97,10 @@ QAccessibleInterface* MakeAccessible(const QString& /*strClass*/, QObject* pObje
 
 QWidget* FindWindow(const QWidget* pExcept, bool bMinimized)
 {
+    if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
+    {
+        return nullptr; // a program without windows
+    }
     const auto usable = [pExcept, bMinimized](const QWidget* pWindow) {
         return pWindow && pWindow != pExcept && pWindow->isVisible() && pWindow->isMinimized() == bMinimized &&
                (pWindow->windowType() == Qt::Window || pWindow->windowType() == Qt::Dialog);

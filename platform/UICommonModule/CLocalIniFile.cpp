@@ -4,6 +4,7 @@
 #include "CErrorCode.h"
 
 #include <KvGui/KvDir.h>
+#include <KvGui/KvMessageNotify.h>
 
 #include <QDir>
 #include <QSettings>
@@ -190,6 +191,40 @@ private:
     QList<QByteArray> m_listLines;
 };
 
+int SetKey(const QString& strPath, const QString& strGroup, const QString& strKey, const QString& strValue)
+{
+    QByteArray content;
+    const int nRead = CAtomicFile::Read(strPath, content);
+    if (nRead != CErrorCode::Success && nRead != CErrorCode::FileMissing)
+    {
+        return nRead;
+    }
+    CIniText ini(content);
+    ini.SetKey(strGroup.toUtf8(), strKey.toUtf8(), Escape(strValue));
+    const QByteArray changed = ini.Join();
+    const int nWritten = changed == content ? int(CErrorCode::Success) : CAtomicFile::Write(strPath, changed);
+    return nWritten == CErrorCode::NotYetSafe ? int(CErrorCode::Success) : nWritten;
+}
+
+/// Several pages may write in one save; what fails for all of them is told once, after the save.
+void NotifyLater(const QString& strText)
+{
+    static QStringList listWaiting;
+    if (listWaiting.contains(strText))
+    {
+        return;
+    }
+    listWaiting += strText;
+    auto* pNotify = KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance();
+    QMetaObject::invokeMethod(
+        pNotify,
+        [pNotify, strText] {
+            listWaiting.removeAll(strText);
+            pNotify->AddTextNotification(strText);
+        },
+        Qt::QueuedConnection);
+}
+
 } // namespace
 
 bool CLocalIniFile::WriteValue(const QString& strGroup, const QString& strKey, const QVariant& value,
@@ -201,23 +236,25 @@ bool CLocalIniFile::WriteValue(const QString& strGroup, const QString& strKey, c
         return false;
     }
     const QString strPath = GetPath(strFileName);
-    QByteArray content;
-    const int nRead = CAtomicFile::Read(strPath, content);
-    if (nRead != CErrorCode::Success && nRead != CErrorCode::FileMissing)
+    const int nResult = SetKey(strPath, strGroup, strKey, text.toString());
+    if (nResult != CErrorCode::Success)
     {
-        return false;
+        NotifyLater(CErrorCode::GetErroCodeInfor(tr("Cannot write '%1'").arg(QDir::toNativeSeparators(strPath)),
+                                                 nResult, true, false));
     }
-
-    CIniText ini(content);
-    ini.SetKey(strGroup.toUtf8(), strKey.toUtf8(), Escape(text.toString()));
-    const QByteArray changed = ini.Join();
-    return changed == content || CAtomicFile::Write(strPath, changed) == CErrorCode::Success;
+    return nResult == CErrorCode::Success;
 }
 
 QString CLocalIniFile::ReadValue(const QString& strGroup, const QString& strKey, const QString& strDefault,
                                  const QString& strFileName)
 {
-    QSettings settings(GetPath(strFileName), QSettings::IniFormat);
+    const QString strPath = GetPath(strFileName);
+    QByteArray content;
+    if (CAtomicFile::Read(strPath, content) != CErrorCode::Success)
+    {
+        return strDefault; // QSettings would wait for a pipe
+    }
+    QSettings settings(strPath, QSettings::IniFormat);
     settings.setIniCodec("UTF-8");
     return settings.value(strGroup + QLatin1Char('/') + strKey, strDefault).toString();
 }

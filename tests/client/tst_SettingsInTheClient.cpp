@@ -36,6 +36,7 @@ private slots:
     void TheWheelOverANumberScrollsTheDialog();
     void CancelKeepsWhatIsStored();
     void ASecondClientIsToldOnSaving();
+    void ASaveWithoutTheIniFileSucceedsAndTellsOnce();
     void TheDialogLocksAndUnlocksWithTheConnection();
     void TheDialogOpensLockedWhileDisconnected();
     void WithoutTheWallRight();
@@ -236,6 +237,24 @@ void tst_SettingsInTheClient::ASecondClientIsToldOnSaving()
     QCOMPARE(spy.size(), 1);
     QCOMPARE(spy.first().first().toString(),
              QString("Failed to save config: another client uses the same data folder (code 4)"));
+}
+
+void tst_SettingsInTheClient::ASaveWithoutTheIniFileSucceedsAndTellsOnce()
+{
+    QVERIFY(QDir().mkdir("Localcfg.ini")); // two pages write to it
+    SHOWN_CLIENT;
+    CNotificationSpy spy;
+    InDialog(window, [](QDialog& dialog) {
+        auto* pLogin = Find<KVGUI::KvCheckBox>(dialog, "autologinChkBox");
+        QTest::mouseClick(pLogin, Qt::LeftButton, {}, QPoint(8, pLogin->height() / 2));
+        Click(dialog, "btnOk");
+        QVERIFY(!dialog.isVisible());
+    });
+    QVERIFY(service.GetStored().basic.autoLogin);
+    QTRY_COMPARE(spy.size(), 1);
+    QTest::qWait(20);
+    QCOMPARE(spy.size(), 1);
+    QVERIFY(spy.first().first().toString().contains("Localcfg.ini"));
 }
 
 void tst_SettingsInTheClient::TheDialogLocksAndUnlocksWithTheConnection()

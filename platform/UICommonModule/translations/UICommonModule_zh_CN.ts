@@ -77,6 +77,13 @@
     </message>
 </context>
 <context>
+    <name>CLocalIniFile</name>
+    <message>
+        <source>Cannot write &apos;%1&apos;</source>
+        <translation>无法写入“%1”</translation>
+    </message>
+</context>
+<context>
     <name>UICommonMdl::CAlarmType</name>
     <message>
         <source>No alarm types are known, for &apos;%1&apos; cannot be used</source>

@@ -1,3 +1,6 @@
+#include "support/Notifications.h"
+
+#include <UICommonModule/CErrorCode.h>
 #include <UICommonModule/CLocalIniFile.h>
 
 #include <QDir>
@@ -5,6 +8,11 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
+using UICommonMdl::CErrorCode;
 using UICommonMdl::CLocalIniFile;
 
 class tst_LocalIniFile : public QObject
@@ -13,7 +21,11 @@ class tst_LocalIniFile : public QObject
 
 private slots:
     void init();
-    void cleanup() { QDir::setCurrent(QDir::rootPath()); }
+    void cleanup()
+    {
+        QCoreApplication::sendPostedEvents(); // what a failed write still has to tell
+        QDir::setCurrent(QDir::rootPath());
+    }
 
     void ABareNameLiesInTheWorkingFolder();
     void AnAbsoluteNameIsTaken();
@@ -31,6 +43,11 @@ private slots:
     void AnUnreadableFileIsNotOverwritten();
     void AReadOnlyFolderIsRefused();
     void ReadsWithDefault();
+    void WhatIsNoFileIsNotWaitedFor_data();
+    void WhatIsNoFileIsNotWaitedFor();
+    void AFailedWriteIsToldOnce();
+    void AnotherFailureIsToldAnew();
+    void AWriteThatSucceedsIsNoNews();
 
 private:
     void Put(const QByteArray& content)
@@ -239,6 +256,60 @@ void tst_LocalIniFile::ReadsWithDefault()
     QCOMPARE(CLocalIniFile::ReadValue("G", "k", "default", "test.ini"), QString("v"));
     QCOMPARE(CLocalIniFile::ReadValue("G", "other", "default", "test.ini"), QString("default"));
     QCOMPARE(CLocalIniFile::ReadValue("H", "k", "default", "test.ini"), QString("default"));
+}
+
+void tst_LocalIniFile::WhatIsNoFileIsNotWaitedFor_data()
+{
+    QTest::addColumn<QString>("strFile");
+    QTest::newRow("folder") << QString("folder.ini");
+#ifdef Q_OS_UNIX
+    QTest::newRow("pipe") << QString("pipe.ini");
+    QTest::newRow("device without an end") << QString("/dev/zero");
+#endif
+}
+
+void tst_LocalIniFile::WhatIsNoFileIsNotWaitedFor()
+{
+    QFETCH(QString, strFile);
+    QVERIFY(QDir().mkdir("folder.ini"));
+#ifdef Q_OS_UNIX
+    QCOMPARE(::mkfifo("pipe.ini", 0600), 0);
+#endif
+    QCOMPARE(CLocalIniFile::ReadValue("G", "k", "default", strFile), QString("default"));
+    QVERIFY(!CLocalIniFile::WriteValue("G", "k", "v", strFile));
+}
+
+void tst_LocalIniFile::AFailedWriteIsToldOnce()
+{
+    QVERIFY(QDir().mkdir("test.ini"));
+    CNotificationSpy spy;
+    QVERIFY(!CLocalIniFile::WriteValue("G", "k", "v", "test.ini"));
+    QVERIFY(!CLocalIniFile::WriteValue("H", "k", "v", "test.ini"));
+    QTRY_COMPARE(spy.count(), 1);
+    QTest::qWait(20);
+    QCOMPARE(spy.count(), 1);
+    const QString strText = spy.first().first().toString();
+    QVERIFY2(strText.contains(QDir::toNativeSeparators(m_pFolder->filePath("test.ini"))), qPrintable(strText));
+    QVERIFY2(strText.endsWith(CErrorCode::GetDescription(CErrorCode::Unreadable)), qPrintable(strText));
+}
+
+void tst_LocalIniFile::AnotherFailureIsToldAnew()
+{
+    QVERIFY(QDir().mkdir("test.ini"));
+    CNotificationSpy spy;
+    CLocalIniFile::WriteValue("G", "k", "v", "test.ini");
+    QTRY_COMPARE(spy.count(), 1);
+    CLocalIniFile::WriteValue("G", "k", "v", "test.ini");
+    QTRY_COMPARE(spy.count(), 2);
+}
+
+void tst_LocalIniFile::AWriteThatSucceedsIsNoNews()
+{
+    CNotificationSpy spy;
+    QVERIFY(CLocalIniFile::WriteValue("G", "k", "v", "test.ini"));
+    QVERIFY(CLocalIniFile::WriteValue("G", "k", "v", "test.ini"));
+    QTest::qWait(20);
+    QCOMPARE(spy.count(), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_LocalIniFile)
