@@ -1,7 +1,9 @@
 #include "SettingsDocument.h"
 
-#include <QJsonArray>
+#include "JsonText.h"
+
 #include <QJsonDocument>
+#include <QJsonObject>
 
 #include <cmath>
 #include <limits>
@@ -133,7 +135,7 @@ private:
 
 /// The JSON of a value. \a old is what stood there before, for the keys that nobody here knows.
 template <class Value>
-QJsonValue Write(const Value& value, const QJsonValue& old)
+QVariant Write(const Value& value, const QVariant& old)
 {
     if constexpr (std::is_same_v<Value, bool>)
     {
@@ -141,7 +143,7 @@ QJsonValue Write(const Value& value, const QJsonValue& old)
     }
     else if constexpr (std::is_integral_v<Value>)
     {
-        return static_cast<double>(value);
+        return qlonglong(value);
     }
     else if constexpr (std::is_same_v<Value, std::string>)
     {
@@ -151,52 +153,58 @@ QJsonValue Write(const Value& value, const QJsonValue& old)
         {
             return strText;
         }
-        return QJsonObject{{g_strBase64, QString::fromLatin1(bytes.toBase64())}};
+        return QVariantMap{{g_strBase64, QString::fromLatin1(bytes.toBase64())}};
     }
     else if constexpr (IsMap<Value>::value)
     {
-        const QJsonObject before = old.toObject();
-        QJsonObject object;
-        for (auto it = before.constBegin(); it != before.constEnd(); ++it)
+        const QVariantMap before = old.toMap();
+        QVariantMap map;
+        for (auto it = before.cbegin(); it != before.cend(); ++it)
         {
             std::int32_t nKey = 0;
             if (!ParseKey(it.key(), nKey))
             {
-                object.insert(it.key(), it.value());
+                map.insert(it.key(), it.value());
             }
         }
         for (const auto& [nKey, mapped] : value)
         {
             const QString strKey = QString::number(nKey);
-            object.insert(strKey, Write(mapped, before.value(strKey)));
+            map.insert(strKey, Write(mapped, before.value(strKey)));
         }
-        return object;
+        return map;
     }
     else
     {
-        QJsonObject object = old.toObject();
-        VisitFields(value, [&object](const char* pszName, const auto& field) {
-            const QString strName = QString::fromLatin1(pszName);
-            object.insert(strName, Write(field, object.value(strName)));
+        QVariantMap map = old.toMap();
+        VisitFields(value, [&map](const char* pszName, const auto& field) {
+            QVariant& json = map[QString::fromLatin1(pszName)];
+            json = Write(field, json);
         });
-        return object;
+        return map;
     }
 }
 
-/// Objects are united at every level; anything else of \a over takes the place of what is in \a base.
-QJsonValue Merge(const QJsonValue& base, const QJsonValue& over)
+bool IsObject(const QVariant& json)
 {
-    if (!base.isObject() || !over.isObject())
+    return json.userType() == QMetaType::QVariantMap;
+}
+
+/// Objects are united at every level; anything else of \a over takes the place of what is in \a base.
+QVariant Merge(const QVariant& base, const QVariant& over)
+{
+    if (!IsObject(base) || !IsObject(over))
     {
         return over;
     }
-    QJsonObject object = base.toObject();
-    const QJsonObject other = over.toObject();
-    for (auto it = other.constBegin(); it != other.constEnd(); ++it)
+    QVariantMap map = base.toMap();
+    const QVariantMap other = over.toMap();
+    for (auto it = other.cbegin(); it != other.cend(); ++it)
     {
-        object.insert(it.key(), object.contains(it.key()) ? Merge(object.value(it.key()), *it) : *it);
+        QVariant& json = map[it.key()];
+        json = Merge(json, it.value());
     }
-    return object;
+    return map;
 }
 
 } // namespace
@@ -238,20 +246,20 @@ SettingsDocument::Result SettingsDocument::Parse(const QByteArray& content, QStr
         return fail(Damaged, tr("impossible value of %1").arg(reader.GetWrong()));
     }
     m_settings = settings;
-    m_root = root;
+    m_root = root.toVariantMap();
     return Good;
 }
 
 void SettingsDocument::TakeUnknownKeys(const SettingsDocument& other)
 {
-    m_root = Merge(m_root, other.m_root).toObject();
+    m_root = Merge(m_root, other.m_root).toMap();
 }
 
 QSet<int> SettingsDocument::GetMissingRights() const
 {
     QSet<int> setRights;
-    const QJsonArray arrRights = m_root.value(QLatin1String("missingRights")).toArray();
-    for (const QJsonValue& right : arrRights)
+    const QVariantList listRights = m_root.value(QStringLiteral("missingRights")).toList();
+    for (const QVariant& right : listRights)
     {
         setRights.insert(right.toInt());
     }
@@ -260,15 +268,15 @@ QSet<int> SettingsDocument::GetMissingRights() const
 
 QByteArray SettingsDocument::Serialize() const
 {
-    QJsonObject root = m_root;
-    root.insert(g_strVersion, g_nVersion);
+    QVariantMap root = m_root;
+    root.insert(g_strVersion, qlonglong(g_nVersion));
     root.insert(g_strSections, Write(m_settings, root.value(g_strSections)));
-    return QJsonDocument(root).toJson(QJsonDocument::Indented);
+    return ToJsonText(root);
 }
 
 bool operator==(const Settings& left, const Settings& right)
 {
-    return Write(left, QJsonValue()) == Write(right, QJsonValue());
+    return Write(left, QVariant()) == Write(right, QVariant());
 }
 
 } // namespace LocalConfigClient

@@ -4,9 +4,9 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
-#include <QJsonObject>
 #include <QSet>
 #include <QString>
+#include <QVariant>
 
 namespace LocalConfigClient
 {
@@ -46,7 +46,8 @@ public:
 
 private:
     Settings m_settings;
-    QJsonObject m_root; // as it was read, for the keys that this version does not know
+    QVariantMap
+        m_root; // as it was read, for the keys that this version does not know; QJsonObject rounds their numbers
 };
 
 /// Whether all fields of two sets of settings are equal.

@@ -6,6 +6,8 @@
 #include <QJsonDocument>
 #include <QtTest>
 
+#include <algorithm>
+
 using namespace LocalConfigClient;
 
 namespace
@@ -129,6 +131,9 @@ private slots:
     void AByteOrderMarkIsNoDamage();
     void ANewerDocumentIsTold();
     void ADamagedDocumentChangesNothing();
+    void ItIsWrittenAsQtWritesIt();
+    void LargeNumbersOfUnknownKeysSurvive();
+    void LargeMapsTakeTheirShareOfTime();
 };
 
 void tst_SettingsDocument::DefaultsRoundTrip()
@@ -392,6 +397,62 @@ void tst_SettingsDocument::ADamagedDocumentChangesNothing()
     QCOMPARE(document.Parse(R"({"version": 1, "sections": {"basic": {"skin": 2, "clientSize": "big"}}})"),
              SettingsDocument::Damaged);
     QVERIFY(document.GetSettings() == ChangedSettings());
+}
+
+void tst_SettingsDocument::ItIsWrittenAsQtWritesIt()
+{
+    // Earlier versions have written documents with Qt, and the same settings are to give the same bytes.
+    const QByteArray content = R"({"version": 1, "sections": {}, "unknown": {"object": {}, "array": [], "": "",
+        "list": [1, [2], {"a": null}], "text": "\"\\\/\b\f\n\r\t\u0001 \u5ba2 \ud83c\udfa5", "half": 1.5,
+        "small": 1e-300, "negative": -3, "yes": true, "no": false}})";
+    SettingsDocument document;
+    QCOMPARE(document.Parse(content), SettingsDocument::Good);
+    const QByteArray written = document.Serialize();
+    QCOMPARE(written, QJsonDocument::fromJson(written).toJson(QJsonDocument::Indented));
+    QCOMPARE(FromBytes(written).value("unknown"), FromBytes(content).value("unknown"));
+}
+
+void tst_SettingsDocument::LargeNumbersOfUnknownKeysSurvive()
+{
+    const QByteArray numbers = R"({"a": 9007199254740993, "b": [-9007199254740995, {"c": 9223372036854775807}]})";
+    const QByteArray content = R"({"version": 1, "sections": {"alarm": {"flashCategories": {"7": true, "later": )" +
+                               numbers + R"(}, "later": )" + numbers + R"(}}, "later": )" + numbers + "}";
+    SettingsDocument document;
+    QCOMPARE(document.Parse(content), SettingsDocument::Good);
+    SettingsDocument merged;
+    merged.TakeUnknownKeys(document);
+    for (const QByteArray& written : {document.Serialize(), merged.Serialize()})
+    {
+        for (const char* pszNumber : {"9007199254740993", "-9007199254740995", "9223372036854775807"})
+        {
+            QCOMPARE(written.count(pszNumber), 3);
+        }
+    }
+}
+
+void tst_SettingsDocument::LargeMapsTakeTheirShareOfTime()
+{
+    const auto time = [](int nEntries) {
+        Settings settings;
+        for (int n = 0; n < nEntries; ++n)
+        {
+            settings.alarm.flashCategories[n] = true;
+        }
+        SettingsDocument document;
+        document.SetSettings(settings);
+        QElapsedTimer timer;
+        timer.start();
+        SettingsDocument read;
+        const bool bRead = read.Parse(document.Serialize()) == SettingsDocument::Good && read.GetSettings() == settings;
+        SettingsDocument merged;
+        merged.TakeUnknownKeys(read);
+        merged.TakeUnknownKeys(document);
+        return bRead ? double(timer.nsecsElapsed()) : -1.0;
+    };
+    const double dFew = std::min(time(20000), time(20000));
+    const double dMany = time(200000);
+    QVERIFY(dFew > 0 && dMany > 0);
+    QVERIFY2(dMany < 40 * dFew, qPrintable(QString("%1 times as long").arg(dMany / dFew)));
 }
 
 QTEST_APPLESS_MAIN(tst_SettingsDocument)
