@@ -89,6 +89,14 @@ std::unique_ptr<LoginManager> MakeLoginManager(const CommandLine& commandLine)
                                          : std::make_unique<LoginManager>(commandLine.strHost, commandLine.nPort);
 }
 
+/// Those that the command line takes, and those that the document takes.
+MissingRights GetMissingRights(const CommandLine& commandLine, const ConfigService& service)
+{
+    MissingRights missing = service.GetMissingRights();
+    missing.setRights += commandLine.setMissingRights;
+    return missing;
+}
+
 } // namespace
 
 Client::Client(const CommandLine& commandLine)
@@ -334,7 +342,7 @@ int Client::OpenWindow()
         Complain(tr("Not all alarm sounds could be put into the data folder."));
     }
     const std::unique_ptr<LoginManager> pLoginManager = MakeLoginManager(m_commandLine);
-    UserManager userManager(m_commandLine.setMissingRights + service.GetMissingRights(), pLoginManager.get());
+    UserManager userManager(GetMissingRights(m_commandLine, service), pLoginManager.get());
     MainWindow window(service, userManager);
     window.show();
 
@@ -360,7 +368,7 @@ int Client::TakeScreenshot()
     ComplainAbout(service);
     service.SeedAlarms(*CAlarmType::Instance());
     const std::unique_ptr<LoginManager> pLoginManager = MakeLoginManager(m_commandLine);
-    UserManager userManager(m_commandLine.setMissingRights + service.GetMissingRights(), pLoginManager.get());
+    UserManager userManager(GetMissingRights(m_commandLine, service), pLoginManager.get());
     if (QGuiApplication::platformName() == QLatin1String("offscreen"))
     {
         // That plug-in's screen is lower than any desktop; the dialog is to be seen as on an ordinary one.

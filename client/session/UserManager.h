@@ -1,8 +1,7 @@
 #pragma once
 
 #include <LocalConfig/interfaces/IUserManager.h>
-
-#include <QSet>
+#include <client/store/MissingRights.h>
 
 namespace LocalConfigClient
 {
@@ -11,14 +10,14 @@ namespace LocalConfigClient
 class UserRight final : public UserLogical::IUserRight
 {
 public:
-    explicit UserRight(const QSet<int>& setMissing)
-        : m_setMissing(setMissing)
+    explicit UserRight(const MissingRights& missing)
+        : m_missing(missing)
     {}
 
-    bool HasRight(int nRight) override { return !m_setMissing.contains(nRight); }
+    bool HasRight(int nRight) override { return !m_missing.Contains(nRight); }
 
 private:
-    QSet<int> m_setMissing;
+    MissingRights m_missing;
 };
 
 /// The client's user manager. One rights object serves everybody who asks, so handing it back does nothing.
@@ -26,8 +25,8 @@ class UserManager final : public UserLogical::IUserManager
 {
 public:
     /// \param pLoginManager  not owned; may be null
-    UserManager(const QSet<int>& setMissingRights, UserLogical::ILoginManager* pLoginManager)
-        : m_right(setMissingRights)
+    UserManager(const MissingRights& missing, UserLogical::ILoginManager* pLoginManager)
+        : m_right(missing)
         , m_pLoginManager(pLoginManager)
     {}
 

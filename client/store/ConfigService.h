@@ -46,7 +46,7 @@ public:
     void SeedAlarms(const UICommonMdl::CAlarmType& catalogue);
 
     /// The rights that the document takes from the user.
-    QSet<int> GetMissingRights() const { return m_file.GetDocument().GetMissingRights(); }
+    MissingRights GetMissingRights() const { return m_file.GetDocument().GetMissingRights(); }
 
     /// How often a save was tried.
     int GetSaveAttempts() const { return m_nSaveAttempts; }

@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <map>
@@ -19,6 +20,7 @@ namespace
 constexpr int g_nVersion = 1;
 const QLatin1String g_strVersion("version");
 const QLatin1String g_strSections("sections");
+const QLatin1String g_strMissingRights("missingRights");
 const QLatin1String g_strBase64("base64");
 
 template <class Value>
@@ -207,6 +209,13 @@ QVariant Merge(const QVariant& base, const QVariant& over)
     return map;
 }
 
+/// A number from 1 on; no other stands for a right.
+bool IsRight(const QVariant& json)
+{
+    return json.userType() == QMetaType::LongLong && json.toLongLong() > 0 &&
+           json.toLongLong() <= std::numeric_limits<int>::max();
+}
+
 } // namespace
 
 SettingsDocument::Result SettingsDocument::Parse(const QByteArray& content, QString* pError)
@@ -255,15 +264,18 @@ void SettingsDocument::TakeUnknownKeys(const SettingsDocument& other)
     m_root = Merge(m_root, other.m_root).toMap();
 }
 
-QSet<int> SettingsDocument::GetMissingRights() const
+MissingRights SettingsDocument::GetMissingRights() const
 {
-    QSet<int> setRights;
-    const QVariantList listRights = m_root.value(QStringLiteral("missingRights")).toList();
+    const QVariant rights = m_root.value(g_strMissingRights, QVariantList());
+    const QVariantList listRights = rights.toList();
+    MissingRights missing;
+    missing.bAll =
+        rights.userType() != QMetaType::QVariantList || !std::all_of(listRights.begin(), listRights.end(), IsRight);
     for (const QVariant& right : listRights)
     {
-        setRights.insert(right.toInt());
+        missing.setRights.insert(right.toInt());
     }
-    return setRights;
+    return missing;
 }
 
 QByteArray SettingsDocument::Serialize() const

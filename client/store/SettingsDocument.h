@@ -1,10 +1,10 @@
 #pragma once
 
+#include "MissingRights.h"
 #include "RecordFields.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
-#include <QSet>
 #include <QString>
 #include <QVariant>
 
@@ -38,8 +38,9 @@ public:
     /// Adds the keys of another document that this version does not know to those of this one.
     void TakeUnknownKeys(const SettingsDocument& other);
 
-    /// The rights that the document takes from the user: whole numbers under the key "missingRights".
-    QSet<int> GetMissingRights() const;
+    /// The rights that the document takes from the user: an array of numbers from 1 on under the key "missingRights".
+    /// Anything else there takes all of them.
+    MissingRights GetMissingRights() const;
 
     /// The same settings always give the same bytes.
     QByteArray Serialize() const;

@@ -45,6 +45,11 @@ SettingsFile::SettingsFile(const QString& strFolder, Mode eMode)
         }
     }
     Load();
+    if (m_document.GetMissingRights().bAll)
+    {
+        m_listProblems +=
+            tr("The missing rights in the settings file cannot be understood; the user is taken to have no rights.");
+    }
 }
 
 QString SettingsFile::GetPath(const char* pszName) const

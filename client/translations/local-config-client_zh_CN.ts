@@ -361,5 +361,9 @@
         <source>The settings file is missing and the last good settings cannot be used; the default settings are used.</source>
         <translation>设置文件丢失，最近一次的正常设置也无法使用，已使用默认设置。</translation>
     </message>
+    <message>
+        <source>The missing rights in the settings file cannot be understood; the user is taken to have no rights.</source>
+        <translation>设置文件中列出的缺失权限无法识别，该用户视为没有任何权限。</translation>
+    </message>
 </context>
 </TS>

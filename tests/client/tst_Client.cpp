@@ -58,6 +58,8 @@ private slots:
     void MessagesAreInTheLanguageOfTheIniFile();
     void ADumpThatCannotBePrintedFails();
     void RightsOfTheDocument();
+    void RightsThatCannotBeUnderstoodAreMissing_data();
+    void RightsThatCannotBeUnderstoodAreMissing();
     void WithoutADisplayTheWindowSaysSo();
 };
 
@@ -351,6 +353,29 @@ void tst_Client::RightsOfTheDocument()
     QVERIFY(!with.isNull());
     QCOMPARE(without.size(), with.size());
     QVERIFY(without != with);
+}
+
+void tst_Client::RightsThatCannotBeUnderstoodAreMissing_data()
+{
+    QTest::addColumn<QByteArray>("rights");
+    QTest::newRow("a text") << QByteArray(R"("26, 45")");
+    QTest::newRow("texts") << QByteArray(R"(["26"])");
+    QTest::newRow("a number") << QByteArray("26");
+}
+
+void tst_Client::RightsThatCannotBeUnderstoodAreMissing()
+{
+    QFETCH(QByteArray, rights);
+    Put(Path("settings.json"), R"({"version": 1, "missingRights": [26, 45], "sections": {}})");
+    Client({"--screenshot", m_pOther->filePath("without.png")});
+    Put(Path("settings.json"), R"({"version": 1, "missingRights": )" + rights + R"(, "sections": {}})");
+    const SRun run = Client({"--screenshot", m_pOther->filePath("unknown.png")});
+    QCOMPARE(run.nExitCode, 0);
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY2(run.listErrors.first().contains("rights"), qPrintable(run.listErrors.first()));
+    const QImage without(m_pOther->filePath("without.png"));
+    QVERIFY(!without.isNull());
+    QCOMPARE(QImage(m_pOther->filePath("unknown.png")), without);
 }
 
 void tst_Client::WithoutADisplayTheWindowSaysSo()

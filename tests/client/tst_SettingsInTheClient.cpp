@@ -304,7 +304,7 @@ void tst_SettingsInTheClient::TheDialogOpensLockedWhileDisconnected()
 void tst_SettingsInTheClient::WithoutTheWallRight()
 {
     ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
-    UserManager users({26}, nullptr);
+    UserManager users({{26}}, nullptr);
     MainWindow window(service, users);
     window.show();
     InDialog(window, [](QDialog& dialog) {

@@ -12,6 +12,7 @@ class tst_UserManager : public QObject
 private slots:
     void EveryRightIsHeldButTheMissingOnes_data();
     void EveryRightIsHeldButTheMissingOnes();
+    void NoRightIsHeldWhenAllAreMissing();
     void TheLoginManagerIsHandedOut();
     void RightsHandedBackServeTheNextOne();
 };
@@ -31,10 +32,19 @@ void tst_UserManager::EveryRightIsHeldButTheMissingOnes()
 {
     QFETCH(int, nRight);
     QFETCH(bool, bHeld);
-    UserManager manager({26, 45}, nullptr);
+    UserManager manager({{26, 45}}, nullptr);
     UserLogical::IUserRight* pRight = manager.GetUserRight();
     QCOMPARE(pRight->HasRight(nRight), bHeld);
     manager.ReleaseUserRight(pRight);
+}
+
+void tst_UserManager::NoRightIsHeldWhenAllAreMissing()
+{
+    UserManager manager({{}, true}, nullptr);
+    for (int nRight : {26, 45, 1, 0})
+    {
+        QVERIFY(!manager.GetUserRight()->HasRight(nRight));
+    }
 }
 
 void tst_UserManager::TheLoginManagerIsHandedOut()
@@ -46,7 +56,7 @@ void tst_UserManager::TheLoginManagerIsHandedOut()
 
 void tst_UserManager::RightsHandedBackServeTheNextOne()
 {
-    UserManager manager({26}, nullptr);
+    UserManager manager({{26}}, nullptr);
     manager.ReleaseUserRight(manager.GetUserRight());
     manager.ReleaseUserRight(nullptr);
     QVERIFY(!manager.GetUserRight()->HasRight(26));

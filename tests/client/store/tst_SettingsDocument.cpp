@@ -134,6 +134,8 @@ private slots:
     void ItIsWrittenAsQtWritesIt();
     void LargeNumbersOfUnknownKeysSurvive();
     void LargeMapsTakeTheirShareOfTime();
+    void MissingRights_data();
+    void MissingRights();
 };
 
 void tst_SettingsDocument::DefaultsRoundTrip()
@@ -453,6 +455,37 @@ void tst_SettingsDocument::LargeMapsTakeTheirShareOfTime()
     const double dMany = time(200000);
     QVERIFY(dFew > 0 && dMany > 0);
     QVERIFY2(dMany < 40 * dFew, qPrintable(QString("%1 times as long").arg(dMany / dFew)));
+}
+
+void tst_SettingsDocument::MissingRights_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<bool>("bAll");
+    QTest::addColumn<QSet<int>>("setRights");
+    QTest::newRow("none") << QByteArray("[]") << false << QSet<int>();
+    QTest::newRow("some") << QByteArray("[26, 45, 26]") << false << QSet<int>{26, 45};
+    QTest::newRow("whole all the same") << QByteArray("[26.0]") << false << QSet<int>{26};
+    for (const char* pszValue : {"26", "\"26\"", "{}", "null", "true", "[\"26\"]", "[26, null]", "[26.5]", "[0]",
+                                 "[-26]", "[2147483648]", "[[26]]"})
+    {
+        QTest::newRow(pszValue) << QByteArray(pszValue) << true << QSet<int>();
+    }
+}
+
+void tst_SettingsDocument::MissingRights()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(bool, bAll);
+    QFETCH(QSet<int>, setRights);
+    SettingsDocument document;
+    QVERIFY(!document.GetMissingRights().bAll);
+    QCOMPARE(document.Parse(R"({"version": 1, "sections": {}, "missingRights": )" + value + "}"),
+             SettingsDocument::Good);
+    QCOMPARE(document.GetMissingRights().bAll, bAll);
+    if (!bAll)
+    {
+        QCOMPARE(document.GetMissingRights().setRights, setRights);
+    }
 }
 
 QTEST_APPLESS_MAIN(tst_SettingsDocument)
