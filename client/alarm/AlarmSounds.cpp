@@ -1,13 +1,17 @@
 #include "AlarmSounds.h"
 
+#include <UICommonModule/CAtomicFile.h>
+#include <UICommonModule/CErrorCode.h>
 #include <UICommonModule/CGlobalInfo.h>
 #include <client/store/AlarmRecord.h>
 
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 
 using LocalConfigLogical::AlarmConfigInfo;
 using UICommonMdl::CAlarmType;
+using UICommonMdl::CAtomicFile;
+using UICommonMdl::CErrorCode;
 using UICommonMdl::CGlobalInfo;
 
 namespace LocalConfigClient
@@ -17,6 +21,34 @@ namespace
 {
 
 constexpr char g_szSounds[] = "Sound";
+
+/// A power cut, or a client that was killed, may have left the beginning of a file; what is no beginning is the
+/// operator's own.
+bool IsCut(const QString& strFile, const QByteArray& whole)
+{
+    QByteArray content;
+    return CAtomicFile::Read(strFile, content) == CErrorCode::Success && whole.startsWith(content);
+}
+
+bool ProvideSound(const QString& strSource, const QString& strTarget)
+{
+    const bool bExists = QFileInfo::exists(strTarget);
+    if (bExists && QFileInfo(strTarget).size() >= QFileInfo(strSource).size())
+    {
+        return true;
+    }
+    QByteArray whole;
+    if (CAtomicFile::Read(strSource, whole) != CErrorCode::Success)
+    {
+        return false;
+    }
+    if (bExists && !IsCut(strTarget, whole))
+    {
+        return true;
+    }
+    const int nResult = CAtomicFile::Write(strTarget, whole);
+    return nResult == CErrorCode::Success || nResult == CErrorCode::NotYetSafe;
+}
 
 } // namespace
 
@@ -47,7 +79,7 @@ bool ProvideSounds()
         for (const QString& strFile : folder.entryList(QDir::Files))
         {
             const QString strTarget = QDir(target.filePath(strFolder)).filePath(strFile);
-            bGood = (QFile::exists(strTarget) || QFile::copy(folder.filePath(strFile), strTarget)) && bGood;
+            bGood = ProvideSound(folder.filePath(strFile), strTarget) && bGood;
         }
     }
     return bGood;

@@ -21,9 +21,19 @@ private slots:
     }
     void SoundsAreProvided();
     void AChangedSoundStays();
+    void ACutSoundIsReplaced_data();
+    void ACutSoundIsReplaced();
+#ifndef Q_OS_WIN // where no disk can be told to fail
+    void ASoundIsOnTheDiskOrNotThere();
+#endif
     void AFolderThatCannotBeWrittenIsReported();
 
 private:
+    static QByteArray Get(const QString& strName)
+    {
+        QFile file(strName);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+    }
     static void Put(const QString& strName, const QByteArray& content)
     {
         QFile file(strName);
@@ -53,11 +63,44 @@ void tst_AlarmSounds::AChangedSoundStays()
     QVERIFY(QDir().mkpath("Sound/sound_en"));
     Put("Sound/sound_en/door.wav", "mine");
     QVERIFY(ProvideSounds());
-    QFile file("Sound/sound_en/door.wav");
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("mine"));
+    QCOMPARE(Get("Sound/sound_en/door.wav"), QByteArray("mine"));
     QVERIFY(QFileInfo("Sound/sound_zh_CN/door.wav").size() > 1000);
 }
+
+void tst_AlarmSounds::ACutSoundIsReplaced_data()
+{
+    QTest::addColumn<int>("nLength");
+    QTest::newRow("empty") << 0;
+    QTest::newRow("the header") << 44;
+    QTest::newRow("all but the last byte") << -1;
+}
+
+void tst_AlarmSounds::ACutSoundIsReplaced()
+{
+    QFETCH(int, nLength);
+    QVERIFY(ProvideSounds());
+    const QByteArray whole = Get("Sound/sound_en/door.wav");
+    Put("Sound/sound_en/door.wav", whole.left(nLength < 0 ? whole.size() + nLength : nLength));
+    QVERIFY(ProvideSounds());
+    QCOMPARE(Get("Sound/sound_en/door.wav"), whole);
+}
+
+#ifndef Q_OS_WIN
+
+void tst_AlarmSounds::ASoundIsOnTheDiskOrNotThere()
+{
+    qputenv("KV_FAULT", "fsync:EIO:door.wav");
+    const bool bProvided = ProvideSounds();
+    qunsetenv("KV_FAULT");
+    QVERIFY(!bProvided);
+    const QDir folder("Sound/sound_en");
+    QCOMPARE(folder.entryList({"door.wav*"}), QStringList());
+    QVERIFY2(folder.entryList(QDir::Files).size() > 1, "the others are provided all the same");
+    QVERIFY(ProvideSounds());
+    QVERIFY(folder.exists("door.wav"));
+}
+
+#endif
 
 void tst_AlarmSounds::AFolderThatCannotBeWrittenIsReported()
 {
