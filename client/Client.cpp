@@ -15,6 +15,7 @@
 #include <UICommonModule/CAtomicFile.h>
 #include <UICommonModule/CErrorCode.h>
 #include <UICommonModule/CGlobalInfo.h>
+#include <UICommonModule/COutputFile.h>
 #include <UICommonModule/Pxa.h>
 
 #include <QApplication>
@@ -37,6 +38,7 @@ using UICommonMdl::CAlarmType;
 using UICommonMdl::CAtomicFile;
 using UICommonMdl::CErrorCode;
 using UICommonMdl::CGlobalInfo;
+using UICommonMdl::COutputFile;
 
 namespace LocalConfigClient
 {
@@ -257,7 +259,7 @@ int Client::WriteSettings() const
 int Client::WriteFile(const QByteArray& content) const
 {
     const int nWritten =
-        content.isEmpty() ? int(CErrorCode::IoError) : CAtomicFile::Write(m_commandLine.strFile, content);
+        content.isEmpty() ? int(CErrorCode::IoError) : COutputFile::Write(m_commandLine.strFile, content);
     return nWritten == CErrorCode::Success ? g_nExitGood
                                            : Fail(tr("Cannot write '%1'").arg(m_commandLine.strFile), nWritten);
 }

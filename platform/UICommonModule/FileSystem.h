@@ -26,6 +26,14 @@ int OpenToRead(const QString& strFile, QFile& file);
 /// \return Success, FileExists, or what GetSystemError makes of the failure
 int OpenNew(const QString& strFile, QFile& file);
 
+/// Whether what has a name takes bytes one after the other and keeps none to be replaced: a device, a pipe, or what
+/// this program's standard output goes to.
+bool IsStream(const QString& strFile);
+
+/// Opens a stream to be written, unbuffered. Waits until somebody reads a pipe.
+/// \return Success or what GetSystemError makes of the failure
+int OpenStream(const QString& strFile, QFile& file);
+
 /// Opens a file, made when it is missing, and takes the system's lock on it, which goes when the file is closed.
 /// A link or a pipe of that name, on which nobody can hold a lock, is replaced.
 /// \return Success; Locked when another process, or this one, holds it; else what GetSystemError makes of the failure

@@ -63,6 +63,20 @@ int GetReadError(const QByteArray& path)
     }
 }
 
+/// The program's own output that a file is; -1 when it is none.
+int FindOutput(const struct stat& status)
+{
+    for (int nHandle : {STDOUT_FILENO, STDERR_FILENO})
+    {
+        struct stat own = {};
+        if (::fstat(nHandle, &own) == 0 && own.st_dev == status.st_dev && own.st_ino == status.st_ino)
+        {
+            return nHandle;
+        }
+    }
+    return -1;
+}
+
 int OpenForLock(const QByteArray& path)
 {
     // Neither waits for a pipe nor follows a link.
@@ -163,6 +177,24 @@ int OpenNew(const QString& strFile, QFile& file)
         return GetSystemError();
     }
     return Adopt(nHandle, QIODevice::WriteOnly, file);
+}
+
+bool IsStream(const QString& strFile)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(strFile).constData(), &status) == 0 &&
+           (S_ISCHR(status.st_mode) || S_ISFIFO(status.st_mode) || FindOutput(status) >= 0);
+}
+
+int OpenStream(const QString& strFile, QFile& file)
+{
+    const QByteArray path = QFile::encodeName(strFile);
+    struct stat status = {};
+    const int nOutput = ::stat(path.constData(), &status) == 0 ? FindOutput(status) : -1;
+    // What the output goes to is not opened anew: that would begin a file again that the shell has begun.
+    const int nHandle =
+        nOutput >= 0 ? ::fcntl(nOutput, F_DUPFD_CLOEXEC, 0) : ::open(path.constData(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
+    return nHandle < 0 ? GetSystemError() : Adopt(nHandle, QIODevice::WriteOnly, file);
 }
 
 int OpenLocked(const QString& strFile, QFile& file)

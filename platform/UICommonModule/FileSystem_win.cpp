@@ -37,6 +37,12 @@ int Adopt(HANDLE hFile, int nFlags, QIODevice::OpenMode eMode, QFile& file)
     return CErrorCode::Success;
 }
 
+HANDLE OpenExisting(const QString& strFile)
+{
+    return ::CreateFileW(Native(strFile).c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                         OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
 /// Why a file could not be opened to be read.
 int GetReadError(const std::wstring& path)
 {
@@ -113,6 +119,25 @@ int OpenNew(const QString& strFile, QFile& file)
         return GetSystemError();
     }
     return Adopt(hFile, _O_WRONLY | _O_BINARY, QIODevice::WriteOnly, file);
+}
+
+bool IsStream(const QString& strFile)
+{
+    const HANDLE hFile = OpenExisting(strFile);
+    if (hFile == INVALID_HANDLE_VALUE)
+    {
+        return false;
+    }
+    const DWORD nType = ::GetFileType(hFile);
+    ::CloseHandle(hFile);
+    return nType == FILE_TYPE_CHAR || nType == FILE_TYPE_PIPE;
+}
+
+int OpenStream(const QString& strFile, QFile& file)
+{
+    const HANDLE hFile = OpenExisting(strFile);
+    return hFile == INVALID_HANDLE_VALUE ? GetSystemError()
+                                         : Adopt(hFile, _O_WRONLY | _O_BINARY, QIODevice::WriteOnly, file);
 }
 
 int OpenLocked(const QString& strFile, QFile& file)

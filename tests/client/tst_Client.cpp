@@ -51,6 +51,10 @@ private slots:
     void ADocumentThatCannotBeReadIsNotExported();
 #ifndef Q_OS_WIN // there links need a right of their own
     void AnOwnFileIsKnownBehindALink();
+    void AnExportToAStreamGoesThere_data();
+    void AnExportToAStreamGoesThere();
+    void AnExportToTheOutputAppendsWhereTheShellDoes();
+    void AnExportToAFullDeviceFails();
 #endif
     void AMissingFolderIsNotMade_data();
     void AMissingFolderIsNotMade();
@@ -293,6 +297,52 @@ void tst_Client::AnOwnFileIsKnownBehindALink()
 }
 
 #endif
+
+void tst_Client::AnExportToAStreamGoesThere_data()
+{
+    QTest::addColumn<QString>("strCommand");
+    QTest::newRow("output") << QString("\"$0\" --data-dir \"$1\" --export /dev/stdout");
+    QTest::newRow("error output") << QString("\"$0\" --data-dir \"$1\" --export /dev/stderr 2>&1");
+    QTest::newRow("file descriptor") << QString("\"$0\" --data-dir \"$1\" --export /dev/fd/3 3>&1");
+    QTest::newRow("pipe with a name") << QString(
+        "mkfifo \"$1/p\" && (cat \"$1/p\" & \"$0\" --data-dir \"$1\" --export \"$1/p\" && wait)");
+}
+
+void tst_Client::AnExportToAStreamGoesThere()
+{
+    QFETCH(QString, strCommand);
+    Put(Path("settings.json"), Document(ChangedSettings()));
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.start("sh", {"-c", strCommand, QString::fromLocal8Bit(qgetenv("KV_CLIENT")), m_pFolder->path()});
+    QVERIFY(process.waitForFinished(30000));
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+    QCOMPARE(process.exitCode(), 0);
+    QCOMPARE(process.readAllStandardOutput(), Document(ChangedSettings()));
+}
+
+void tst_Client::AnExportToTheOutputAppendsWhereTheShellDoes()
+{
+    Put(Path("settings.json"), Document(ChangedSettings()));
+    Put(m_pOther->filePath("log"), "before\n");
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.setStandardOutputFile(m_pOther->filePath("log"), QIODevice::Append);
+    process.start(QString::fromLocal8Bit(qgetenv("KV_CLIENT")),
+                  {"--export", "/dev/stdout", "--data-dir", m_pFolder->path()});
+    QVERIFY(process.waitForFinished(30000));
+    QCOMPARE(process.exitCode(), 0);
+    QCOMPARE(Snapshot(m_pOther->path()).value("log"), "before\n" + Document(ChangedSettings()));
+}
+
+void tst_Client::AnExportToAFullDeviceFails()
+{
+    const SRun run = Client({"--export", "/dev/full"});
+    QCOMPARE(run.nExitCode, 1);
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY2(run.listErrors.first().contains("/dev/full"), qPrintable(run.listErrors.first()));
+    QVERIFY2(run.listErrors.first().contains("the disk is full"), qPrintable(run.listErrors.first()));
+}
 
 void tst_Client::AMissingFolderIsNotMade_data()
 {
