@@ -223,11 +223,10 @@ int Client::ImportSettings() const
     }
     ConfigService service(m_commandLine.strDataFolder, SettingsFile::ReadWrite);
     const int nResult = service.Import(content, &strError);
-    const QStringList& listProblems = service.GetFile().GetProblems();
-    if (nResult != CErrorCode::Success && !listProblems.isEmpty())
+    const QString& strHindrance = service.GetFile().GetHindrance();
+    if (nResult != CErrorCode::Success && !strHindrance.isEmpty())
     {
-        // What is wrong with the data folder says more than the code: who holds the lock, or which file cannot be read.
-        Complain(tr("Cannot import '%1': %2").arg(m_commandLine.strFile, listProblems.last()));
+        Complain(tr("Cannot import '%1': %2").arg(m_commandLine.strFile, strHindrance));
         return g_nExitFailed;
     }
     if (nResult != CErrorCode::Success)

@@ -41,7 +41,8 @@ SettingsFile::SettingsFile(const QString& strFolder, Mode eMode)
         m_bLoadedWithoutLock = nLock != CErrorCode::Success;
         if (m_bLoadedWithoutLock)
         {
-            m_listProblems += DescribeLockFailure(nLock);
+            m_strHindrance = DescribeLockFailure(nLock);
+            m_listProblems += m_strHindrance;
         }
     }
     Load();
@@ -90,6 +91,16 @@ QString SettingsFile::DescribeLockFailure(int nCode) const
                : tr("Another client (%1) uses this data folder; changes cannot be saved meanwhile.").arg(strHolder);
 }
 
+QString SettingsFile::DescribeUnreadable(int nCode)
+{
+    return tr("The settings file cannot be read: %1. Changes cannot be saved.").arg(CErrorCode::GetDescription(nCode));
+}
+
+QString SettingsFile::DescribeNewer()
+{
+    return tr("The settings file is from a newer version. Changes cannot be saved.");
+}
+
 /// What clients that were killed in a save have left. Under the lock nobody else is writing.
 void SettingsFile::RemoveLeftovers() const
 {
@@ -113,8 +124,8 @@ void SettingsFile::Load()
     {
         m_eState = Unreadable;
         LoadLastGood();
-        m_listProblems +=
-            tr("The settings file cannot be read: %1. Changes cannot be saved.").arg(CErrorCode::GetDescription(nRead));
+        m_strHindrance = DescribeUnreadable(nRead);
+        m_listProblems += m_strHindrance;
         return;
     }
     QString strError;
@@ -125,7 +136,8 @@ void SettingsFile::Load()
         break;
     case SettingsDocument::Newer:
         m_eState = Unreadable;
-        m_listProblems += tr("The settings file is from a newer version. Changes cannot be saved.");
+        m_strHindrance = DescribeNewer();
+        m_listProblems += m_strHindrance;
         break;
     case SettingsDocument::Damaged:
         LoadDamaged(strError);
@@ -242,12 +254,15 @@ int SettingsFile::Save(const Settings& settings, const SettingsDocument* pImport
     {
         return CErrorCode::NoPermission;
     }
+    m_strHindrance.clear();
     int nResult = TakeLock();
-    QByteArray onDisk;
-    if (nResult == CErrorCode::Success)
+    if (nResult != CErrorCode::Success)
     {
-        nResult = TakeOverFromDisk(onDisk);
+        m_strHindrance = DescribeLockFailure(nResult);
+        return nResult;
     }
+    QByteArray onDisk;
+    nResult = TakeOverFromDisk(onDisk);
     if (nResult != CErrorCode::Success)
     {
         return nResult;
@@ -259,6 +274,13 @@ int SettingsFile::Save(const Settings& settings, const SettingsDocument* pImport
     }
     document.SetSettings(settings);
     nResult = WriteGenerations(onDisk, document.Serialize());
+    if (nResult == CErrorCode::NotAFile)
+    {
+        const bool bLastGood = QFileInfo(GetPath(g_szDocument)).isFile();
+        m_strHindrance = tr("A folder or a device stands in the place of '%1'. Changes cannot be saved.")
+                             .arg(QDir::toNativeSeparators(GetPath(bLastGood ? g_szLastGood : g_szDocument)));
+        Report(m_strHindrance);
+    }
     if (IsStored(nResult))
     {
         m_document = document;
@@ -275,6 +297,7 @@ int SettingsFile::TakeOverFromDisk(QByteArray& onDisk)
     const int nRead = CAtomicFile::Read(GetPath(g_szDocument), onDisk);
     if (nRead != CErrorCode::Success && nRead != CErrorCode::FileMissing)
     {
+        m_strHindrance = DescribeUnreadable(nRead);
         return CErrorCode::Unreadable;
     }
     const bool bChanged = onDisk != m_onDisk;
@@ -290,6 +313,7 @@ int SettingsFile::TakeOverFromDisk(QByteArray& onDisk)
         nRead == CErrorCode::Success ? m_document.Parse(onDisk) : SettingsDocument::Good;
     if (eResult == SettingsDocument::Newer)
     {
+        m_strHindrance = DescribeNewer();
         return CErrorCode::Unreadable;
     }
     if (eResult == SettingsDocument::Damaged)

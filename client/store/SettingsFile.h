@@ -53,6 +53,10 @@ public:
     ///         and nothing is stored
     int Save(const Settings& settings, const SettingsDocument* pImported);
 
+    /// What keeps changes from being saved, as far as it is known; it says more than the code of a save. Empty when
+    /// nothing does, or nothing more is known.
+    const QString& GetHindrance() const { return m_strHindrance; }
+
     /// Whether a file is one that the client keeps in the data folder, and so no place for anything else. Links are
     /// followed, those to nothing included.
     bool IsOwnFile(const QString& strPath) const;
@@ -73,6 +77,8 @@ private:
 
     int TakeLock();
     QString DescribeLockFailure(int nCode) const;
+    static QString DescribeUnreadable(int nCode);
+    static QString DescribeNewer();
     void RemoveLeftovers() const;
     void Load();
     void LoadMissing();
@@ -97,6 +103,7 @@ private:
     QByteArray m_onDisk; // the document as it was last read or written
     bool m_bOnDiskGood = false;
     QStringList m_listProblems;
+    QString m_strHindrance;
     ProblemHandler m_problemHandler;
 };
 

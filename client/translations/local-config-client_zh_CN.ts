@@ -365,5 +365,9 @@
         <source>The missing rights in the settings file cannot be understood; the user is taken to have no rights.</source>
         <translation>设置文件中列出的缺失权限无法识别，该用户视为没有任何权限。</translation>
     </message>
+    <message>
+        <source>A folder or a device stands in the place of &apos;%1&apos;. Changes cannot be saved.</source>
+        <translation>“%1”的位置上是一个文件夹或设备。更改无法保存。</translation>
+    </message>
 </context>
 </TS>

@@ -47,6 +47,8 @@ private slots:
     void BadInput();
     void ADamagedDocumentIsReportedAndLeftAlone();
     void ImportOfADamagedDocumentLosesNothing();
+    void ARefusedImportTellsWhatRefusesIt_data();
+    void ARefusedImportTellsWhatRefusesIt();
     void ADocumentThatCannotBeReadIsNotExported_data();
     void ADocumentThatCannotBeReadIsNotExported();
 #ifndef Q_OS_WIN // there links need a right of their own
@@ -246,6 +248,39 @@ void tst_Client::ImportOfADamagedDocumentLosesNothing()
     QCOMPARE(run.listErrors.size(), 1);
     QVERIFY(run.listErrors.first().contains("sections.basic.skin"));
     QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
+}
+
+void tst_Client::ARefusedImportTellsWhatRefusesIt_data()
+{
+    QTest::addColumn<QByteArray>("document"); // empty: a folder
+    QTest::addColumn<QString>("strFolder");
+    QTest::addColumn<QString>("strReason");
+    QTest::newRow("a newer document") << QByteArray(R"({"version": 2, "sections": {}})") << QString()
+                                      << "newer version";
+    QTest::newRow("a folder in place of the document") << QByteArray() << "settings.json"
+                                                       << "settings file cannot be read";
+    QTest::newRow("a folder in place of the last good one") << Document(Settings()) << "settings.json.bak"
+                                                            << "settings.json.bak";
+    QTest::newRow("and rights that cannot be understood")
+        << QByteArray(R"({"version": 1, "missingRights": 1, "sections": {}})") << "settings.json.bak"
+        << "settings.json.bak";
+}
+
+void tst_Client::ARefusedImportTellsWhatRefusesIt()
+{
+    QFETCH(QByteArray, document);
+    QFETCH(QString, strFolder);
+    QFETCH(QString, strReason);
+    if (!document.isEmpty())
+    {
+        Put(Path("settings.json"), document);
+    }
+    QVERIFY(strFolder.isEmpty() || QDir().mkdir(Path(strFolder)));
+    Put(m_pOther->filePath("in.json"), Document(ChangedSettings()));
+    const SRun run = Client({"--import", m_pOther->filePath("in.json")});
+    QCOMPARE(run.nExitCode, 1);
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY2(run.listErrors.first().contains(strReason), qPrintable(run.listErrors.first()));
 }
 
 void tst_Client::ADocumentThatCannotBeReadIsNotExported_data()
