@@ -9,6 +9,7 @@
 #include <UICommonModule/CAlarmType.h>
 #include <UICommonModule/CAudioOutput.h>
 #include <UICommonModule/CGlobalInfo.h>
+#include <UICommonModule/CWaveFile.h>
 #include <UICommonModule/Pxa.h>
 
 #include <QDir>
@@ -455,7 +456,7 @@ void CAlarmConfig::OnSoundPlayBtnClicked()
         m_pSound.reset();
     }
     const QString strPath = Resolve(m_pUi->editSoundPath->text());
-    if (QFileInfo(strPath).isFile() && UICommonMdl::CAudioOutput::IsAvailable())
+    if (UICommonMdl::CWaveFile::IsPlayableFile(strPath) && UICommonMdl::CAudioOutput::IsAvailable())
     {
         m_pSound = std::make_unique<QSound>(strPath);
         m_pSound->play();

@@ -8,8 +8,8 @@
 #include <KvGui/KvCustomDialog.h>
 #include <UICommonModule/CAlarmType.h>
 #include <UICommonModule/CAudioOutput.h>
+#include <UICommonModule/CWaveFile.h>
 
-#include <QFileInfo>
 #include <QLabel>
 #include <QSound>
 #include <QTimer>
@@ -112,7 +112,7 @@ void AlarmCenter::Acknowledge()
 void AlarmCenter::Play(int nAlarmType, bool bLoop)
 {
     const QString strFile = GetSoundFile(*CAlarmType::Instance(), m_configService.GetStored().alarm, nAlarmType);
-    if (!QFileInfo(strFile).isFile() || !UICommonMdl::CAudioOutput::IsAvailable())
+    if (!UICommonMdl::CWaveFile::IsPlayableFile(strFile) || !UICommonMdl::CAudioOutput::IsAvailable())
     {
         return;
     }

@@ -29,6 +29,8 @@ private slots:
     void TheLoopOptionDoesNotCount();
     void PlayingAgainStartsAnew();
     void AFileThatIsNoSoundIsSilent();
+    void ADamagedSoundIsSilent_data();
+    void ADamagedSoundIsSilent();
     void AMissingFileIsSilent();
 
 private:
@@ -137,6 +139,35 @@ void tst_SoundPreview::AFileThatIsNoSoundIsSilent()
     const QVector<qint16> listSamples = m_server.Record([this] { Play(); }, 900);
     QVERIFY(!listSamples.isEmpty());
     QVERIFY(Strength(listSamples, 1000) < 10);
+    QVERIFY(Heard(listSamples).isEmpty());
+}
+
+void tst_SoundPreview::ADamagedSoundIsSilent_data()
+{
+    // What the reader behind QSound would believe: offsets into the file that MakeWav makes, and what stands there.
+    QTest::addColumn<int>("nOffset");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("no channels") << 22 << QByteArray(2, '\0');
+    QTest::newRow("too many channels") << 22 << QByteArray(2, '\xff');
+    QTest::newRow("no rate") << 24 << QByteArray(4, '\0');
+    QTest::newRow("absurd rate") << 24 << QByteArray(4, '\xff');
+    QTest::newRow("no bits") << 34 << QByteArray(2, '\0');
+    QTest::newRow("seven bits") << 34 << QByteArray("\x07\0", 2);
+    QTest::newRow("absurd size of the samples") << 40 << QByteArray("\xf0\xff\xff\x7f", 4);
+    QTest::newRow("negative size of the samples") << 40 << QByteArray(4, '\xff');
+    QTest::newRow("absurd size of the format") << 16 << QByteArray(4, '\xff');
+}
+
+void tst_SoundPreview::ADamagedSoundIsSilent()
+{
+    QFETCH(int, nOffset);
+    QFETCH(QByteArray, bytes);
+    Show(Put("tone.wav", MakeWav(Tone(1000, 0.4)).replace(nOffset, bytes.size(), bytes)));
+    QElapsedTimer timer;
+    timer.start();
+    const QVector<qint16> listSamples = m_server.Record([this] { Play(); }, 900);
+    QVERIFY2(timer.elapsed() < 5000, "the page did not answer");
+    QVERIFY(!listSamples.isEmpty());
     QVERIFY(Heard(listSamples).isEmpty());
 }
 

@@ -78,6 +78,7 @@ private slots:
     void TheSoundIsHeardOnce();
     void ALoopedSoundIsHeardUntilAcknowledged();
     void ACustomSoundIsHeard();
+    void ADamagedSoundIsSilent();
 
 private:
     QString Put(const QString& strName, const QByteArray& content) const
@@ -260,6 +261,20 @@ void tst_AlarmCenter::ALoopedSoundIsHeardUntilAcknowledged()
     client.Click("btnAcknowledge");
     QTest::qWait(500); // what the server had been given already
     QVERIFY(Heard(m_server.Record([] {}, 500)).isEmpty());
+}
+
+void tst_AlarmCenter::ADamagedSoundIsSilent()
+{
+    Settings settings;
+    const QByteArray absurdSize("\xf0\xff\xff\x7f", 4);
+    const QString strFile = Put("mine.wav", MakeWav(Tone(600, 0.3)).replace(40, absurdSize.size(), absurdSize));
+    settings.alarm.alarmSounds[302].customSound = strFile.toStdString();
+    Store(settings);
+    SClient client(m_pFolder->path());
+    client.Choose(302);
+    QVERIFY(Heard(m_server.Record([&client] { client.Click("btnTestAlarm"); }, 900)).isEmpty());
+    QVERIFY(client.Alarms()->IsActive());
+    QCOMPARE(client.Alarms()->GetPlayedFile(), QString());
 }
 
 void tst_AlarmCenter::ACustomSoundIsHeard()
