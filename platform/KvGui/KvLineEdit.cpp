@@ -104,6 +104,7 @@ void KvLineEdit::ShowTip(QWidget* pTipParent, const QString& strText)
 void KvLineEdit::DropTip()
 {
     delete m_pTip;
+    m_pTip.clear();
 }
 
 void KvLineEdit::OnTipGone()

@@ -105,7 +105,7 @@ std::optional<CAlarmTypeCombox::SChoice> CAlarmTypeCombox::FindType(int nAlarmTy
     const int nSubItem = CAlarmType::Instance()->GetIndexByAlarmTypeId(nAlarmType);
     for (auto it = m_mapMain.cbegin(); it != m_mapMain.cend(); ++it)
     {
-        if (const std::optional<SChoice> choice = Find(it.key(), nSubItem))
+        if (std::optional<SChoice> choice = Find(it.key(), nSubItem))
         {
             return choice;
         }

@@ -2,7 +2,6 @@
 
 #include "support/RealDialog.h"
 
-#include <KvGui/KvCheckBox.h>
 #include <KvGui/KvListWidget.h>
 #include <LocalConfig/widgets/QCheckableComboBox.h>
 #include <UICommonModule/CAlarmType.h>
@@ -13,7 +12,6 @@
 
 #include <functional>
 
-using KVGUI::KvCheckBox;
 using KVGUI::KvListWidget;
 using LocalConfig::QCheckableComboBox;
 using UICommonMdl::CAlarmType;

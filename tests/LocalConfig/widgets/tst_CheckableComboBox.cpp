@@ -388,7 +388,9 @@ void tst_CheckableComboBox::TheSummaryStandsHoweverTheListCloses_data()
     QTest::newRow("Alt+Down") << key(Qt::Key_Down, Qt::AltModifier);
     QTest::newRow("Alt+Up") << key(Qt::Key_Up, Qt::AltModifier);
     QTest::newRow("F4") << key(Qt::Key_F4);
-    const auto row = [](const char* pszName, std::function<void(Test&)> close) { QTest::newRow(pszName) << close; };
+    const auto row = [](const char* pszName, const std::function<void(Test&)>& close) {
+        QTest::newRow(pszName) << close;
+    };
     row("Return to the list itself", [](const Test& test) { QTest::keyClick(test.List(), Qt::Key_Return); });
     row("a click outside", [](const Test& test) {
         QWidget* pPopup = test.List()->window();
