@@ -21,7 +21,8 @@ void CSkinIconEngine::paint(QPainter* pPainter, const QRect& rect, QIcon::Mode e
 QPixmap CSkinIconEngine::pixmap(const QSize& size, QIcon::Mode eMode, QIcon::State /*eState*/)
 {
     const QString strPath = m_mapFiles.value(eMode == QIcon::Disabled ? QIcon::Normal : eMode);
-    const QString strKey = QStringLiteral("%1@%2x%3").arg(strPath).arg(size.width()).arg(size.height());
+    const QString strKey =
+        QStringLiteral("%1@%2x%3").arg(strPath, QString::number(size.width()), QString::number(size.height()));
     QPixmap pixmap;
     if (!QPixmapCache::find(strKey, &pixmap))
     {

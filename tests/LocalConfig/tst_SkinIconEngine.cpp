@@ -32,6 +32,7 @@ private slots:
     void PicturesAreSharpAtEverySize();
     void PaintsAtTheDevicesScale();
     void AFileIsReadOnce();
+    void AFileWhoseNameLooksLikeAPlaceholderIsItself();
 
 private:
     QString Svg(const QString& strName, const QString& strColor) const
@@ -132,6 +133,16 @@ void tst_SkinIconEngine::AFileIsReadOnce()
     QCOMPARE(Middle(icon.pixmap(20)), QColor(Qt::red));
     QVERIFY(QFile::remove(strPath));
     QCOMPARE(Middle(icon.pixmap(20)), QColor(Qt::red));
+}
+
+void tst_SkinIconEngine::AFileWhoseNameLooksLikeAPlaceholderIsItself()
+{
+    auto* pRed = new CSkinIconEngine;
+    pRed->AddFile(QIcon::Normal, Svg("%2.svg", "#ff0000"));
+    auto* pBlue = new CSkinIconEngine;
+    pBlue->AddFile(QIcon::Normal, Svg("20.svg", "#0000ff"));
+    QCOMPARE(Middle(QIcon(pRed).pixmap(20)), QColor(Qt::red));
+    QCOMPARE(Middle(QIcon(pBlue).pixmap(20)), QColor(Qt::blue));
 }
 
 QTEST_MAIN(tst_SkinIconEngine)
