@@ -4,6 +4,7 @@
 #include <QApplication>
 
 #include <cstdio>
+#include <cstdlib>
 
 using namespace LocalConfigClient;
 
@@ -13,14 +14,40 @@ namespace
 constexpr int g_nExitFailed = 1;
 constexpr int g_nExitUsage = 2;
 
-bool HasDisplay()
+bool HasDisplay(CommandLine::Action eAction)
 {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
-           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    // A picture needs no display, so nobody asks whether the one that is named is there.
+    const bool bNamed = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    return (bNamed && eAction == CommandLine::OpenWindow) || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 #else
+    Q_UNUSED(eAction)
     return true;
 #endif
+}
+
+int FailWithoutDisplay(CommandLine::Action eAction)
+{
+    Client::Complain(eAction == CommandLine::OpenWindow
+                         ? QStringLiteral("There is no display; --screenshot FILE renders the dialog without one.")
+                         : QStringLiteral("There is no display of the kind that QT_QPA_PLATFORM names."));
+    return g_nExitFailed;
+}
+
+CommandLine::Action g_eAction = CommandLine::OpenWindow;
+QtMessageHandler g_defaultHandler = nullptr;
+
+/// While the application is made: where no display is to be had, Qt warns, and then it aborts the program.
+void OnMessage(QtMsgType eType, const QMessageLogContext& context, const QString& strText)
+{
+    if (eType == QtFatalMsg)
+    {
+        std::_Exit(FailWithoutDisplay(g_eAction));
+    }
+    if (qstrncmp(context.category, "qt.qpa.", 7) != 0)
+    {
+        g_defaultHandler(eType, context, strText);
+    }
 }
 
 } // namespace
@@ -62,18 +89,20 @@ int main(int argc, char* argv[])
         return Client(commandLine).RunWithoutDisplay();
     }
 
-    if (!HasDisplay())
+    if (!HasDisplay(commandLine.eAction))
     {
         if (commandLine.eAction == CommandLine::OpenWindow)
         {
-            Client::Complain(QStringLiteral("There is no display; --screenshot FILE renders the dialog without one."));
-            return g_nExitFailed;
+            return FailWithoutDisplay(commandLine.eAction);
         }
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qputenv("QT_LOGGING_RULES", "default.warning=false"); // what that plug-in lacks is no news to an operator
     }
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    g_eAction = commandLine.eAction;
+    g_defaultHandler = qInstallMessageHandler(&OnMessage);
     QApplication application(nOwnArguments, argv);
+    qInstallMessageHandler(nullptr);
     return Client(commandLine).Run(application);
 }

@@ -38,6 +38,7 @@ private slots:
     void ScreenshotShowsTheDialog_data();
     void ScreenshotShowsTheDialog();
     void ScreenshotOfASection();
+    void ScreenshotWithoutADisplay_data();
     void ScreenshotWithoutADisplay();
     void TheSkinOfTheIniFileIsUsed();
     void TheLanguageIsUsed();
@@ -66,6 +67,7 @@ private slots:
     void RightsOfTheDocument();
     void RightsThatCannotBeUnderstoodAreMissing_data();
     void RightsThatCannotBeUnderstoodAreMissing();
+    void WithoutADisplayTheWindowSaysSo_data();
     void WithoutADisplayTheWindowSaysSo();
 };
 
@@ -147,11 +149,23 @@ void tst_Client::ScreenshotOfASection()
     QVERIFY(first != last);
 }
 
+void tst_Client::ScreenshotWithoutADisplay_data()
+{
+    QTest::addColumn<QString>("strDisplay");
+    QTest::newRow("none") << QString();
+    QTest::newRow("one that is not there") << ":4242";
+}
+
 void tst_Client::ScreenshotWithoutADisplay()
 {
+    QFETCH(QString, strDisplay);
     for (const char* pszName : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_LOGGING_RULES"})
     {
         m_environment.remove(pszName);
+    }
+    if (!strDisplay.isEmpty())
+    {
+        m_environment.insert("DISPLAY", strDisplay);
     }
     const SRun run = Client({"--screenshot", m_pOther->filePath("a.png")});
     QCOMPARE(run.listErrors, QStringList());
@@ -463,11 +477,28 @@ void tst_Client::RightsThatCannotBeUnderstoodAreMissing()
     QCOMPARE(QImage(m_pOther->filePath("unknown.png")), without);
 }
 
+void tst_Client::WithoutADisplayTheWindowSaysSo_data()
+{
+    QTest::addColumn<QString>("strName");
+    QTest::addColumn<QString>("strValue");
+    QTest::newRow("none") << QString() << QString();
+    QTest::newRow("one that is not there") << "DISPLAY"
+                                           << ":4242";
+    QTest::newRow("an unknown kind") << "QT_QPA_PLATFORM"
+                                     << "none";
+}
+
 void tst_Client::WithoutADisplayTheWindowSaysSo()
 {
-    for (const char* pszName : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    QFETCH(QString, strName);
+    QFETCH(QString, strValue);
+    for (const char* pszName : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_LOGGING_RULES"})
     {
         m_environment.remove(pszName);
+    }
+    if (!strName.isEmpty())
+    {
+        m_environment.insert(strName, strValue);
     }
     const SRun run = Client({});
     QCOMPARE(run.nExitCode, 1);
