@@ -71,6 +71,17 @@ void ComplainAbout(const ConfigService& service)
     }
 }
 
+/// Makes the alarms of the catalogue known, or says why there are none.
+void LoadCatalogue(ConfigService& service)
+{
+    const CAlarmType* pCatalogue = CAlarmType::Instance();
+    service.SeedAlarms(*pCatalogue);
+    if (!pCatalogue->GetProblem().isEmpty())
+    {
+        Client::Complain(pCatalogue->GetProblem());
+    }
+}
+
 /// A PNG; empty when there is none to be had.
 QByteArray Draw(QWidget& widget)
 {
@@ -337,7 +348,7 @@ int Client::OpenWindow()
     QObject::connect(&systemSignals, &SystemSignals::SignalEnd, &QCoreApplication::quit);
 
     ConfigService service(m_commandLine.strDataFolder, SettingsFile::ReadWrite, &WriteAutoStart);
-    service.SeedAlarms(*CAlarmType::Instance());
+    LoadCatalogue(service);
     if (!ProvideSounds())
     {
         Complain(tr("Not all alarm sounds could be put into the data folder."));
@@ -367,7 +378,7 @@ int Client::TakeScreenshot()
         return g_nExitFailed;
     }
     ComplainAbout(service);
-    service.SeedAlarms(*CAlarmType::Instance());
+    LoadCatalogue(service);
     const std::unique_ptr<LoginManager> pLoginManager = MakeLoginManager(m_commandLine);
     UserManager userManager(GetMissingRights(m_commandLine, service), pLoginManager.get());
     if (QGuiApplication::platformName() == QLatin1String("offscreen"))

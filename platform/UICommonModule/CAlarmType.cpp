@@ -48,12 +48,11 @@ CAlarmType* CAlarmType::Instance()
 
 CAlarmType::CAlarmType()
 {
-    const QString strFile = GetClientsFile();
-    const int nResult = Read(strFile);
-    if (nResult != CErrorCode::Success)
+    Read(GetClientsFile());
+    if (!m_strProblem.isEmpty())
     {
         // The first use is often the making of a window, so that nothing could be seen yet.
-        QTimer::singleShot(g_nFirstNotificationDelay, this, [strFile, nResult] { Notify(strFile, nResult); });
+        QTimer::singleShot(g_nFirstNotificationDelay, this, [strProblem = m_strProblem] { Notify(strProblem); });
     }
 }
 
@@ -62,11 +61,9 @@ QString CAlarmType::GetClientsFile()
     return QDir(CGlobalInfo::GetResourcePath()).filePath(QString::fromLatin1(g_szFile));
 }
 
-void CAlarmType::Notify(const QString& strFile, int nCode)
+void CAlarmType::Notify(const QString& strProblem)
 {
-    KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(CErrorCode::GetErroCodeInfor(
-        tr("No alarm types are known, for '%1' cannot be used").arg(QDir::toNativeSeparators(strFile)), nCode, true,
-        false));
+    KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(strProblem);
 }
 
 int CAlarmType::Load(const QString& strFile)
@@ -75,9 +72,9 @@ int CAlarmType::Load(const QString& strFile)
     const int nResult = Read(strPath);
     emit SignalUpdateAlarmType();
     emit SignalUpdateCustomAlarmType();
-    if (nResult != CErrorCode::Success)
+    if (!m_strProblem.isEmpty())
     {
-        Notify(strPath, nResult);
+        Notify(m_strProblem);
     }
     return nResult;
 }
@@ -91,9 +88,13 @@ int CAlarmType::Read(const QString& strFile)
     {
         nResult = Parse(content);
     }
+    m_strProblem.clear();
     if (nResult != CErrorCode::Success)
     {
         Clear();
+        m_strProblem = CErrorCode::GetErroCodeInfor(
+            tr("No alarm types are known, for '%1' cannot be used").arg(QDir::toNativeSeparators(strFile)), nResult,
+            true, false);
     }
     return nResult;
 }

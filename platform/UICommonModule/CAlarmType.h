@@ -47,6 +47,9 @@ public:
     ///         empty and the operator is notified
     int Load(const QString& strFile = QString());
 
+    /// Why no types are known; empty when the catalogue could be used.
+    QString GetProblem() const { return m_strProblem; }
+
     /// \param mapMain      category id -> name
     /// \param mapSub       category id -> (index of a type -> name)
     /// \param pSetAlarmId  type ids; null: none
@@ -90,12 +93,13 @@ private:
 
     CAlarmType();
     static QString GetClientsFile();
-    static void Notify(const QString& strFile, int nCode);
+    static void Notify(const QString& strProblem);
     int Read(const QString& strFile);
     int Parse(const QByteArray& content);
     void Clear();
     const SType* Find(int nAlarmId) const;
 
+    QString m_strProblem;
     QVector<SType> m_listTypes;
     QHash<int, int> m_hashIndices; // by type id
     QMap<int, QString> m_mapCategories;

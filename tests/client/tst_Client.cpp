@@ -67,6 +67,7 @@ private slots:
     void RightsOfTheDocument();
     void RightsThatCannotBeUnderstoodAreMissing_data();
     void RightsThatCannotBeUnderstoodAreMissing();
+    void AnUnusableCatalogueIsTold();
     void WithoutADisplayTheWindowSaysSo_data();
     void WithoutADisplayTheWindowSaysSo();
 };
@@ -475,6 +476,21 @@ void tst_Client::RightsThatCannotBeUnderstoodAreMissing()
     const QImage without(m_pOther->filePath("without.png"));
     QVERIFY(!without.isNull());
     QCOMPARE(QImage(m_pOther->filePath("unknown.png")), without);
+}
+
+void tst_Client::AnUnusableCatalogueIsTold()
+{
+    QVERIFY(QDir(m_pOther->path()).mkdir("resources"));
+    const QDir shipped(QString::fromLocal8Bit(qgetenv("KV_CLIENT_RESOURCES")));
+    const QString strFolder = m_pOther->filePath("resources");
+    QVERIFY(QFile::link(shipped.filePath("skin"), strFolder + "/skin"));
+    Put(strFolder + "/AlarmTypes.xml", "<AlarmTypes><Cate");
+    m_environment.insert("KV_CLIENT_RESOURCES", strFolder);
+    const SRun run = Client({"--screenshot", m_pOther->filePath("a.png")});
+    QCOMPARE(run.nExitCode, 0); // the picture shows what the operator sees
+    QVERIFY(!QImage(m_pOther->filePath("a.png")).isNull());
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY2(run.listErrors.first().contains("AlarmTypes.xml"), qPrintable(run.listErrors.first()));
 }
 
 void tst_Client::WithoutADisplayTheWindowSaysSo_data()
