@@ -48,6 +48,7 @@ namespace
 
 constexpr int g_nExitGood = 0;
 constexpr int g_nExitFailed = 1;
+constexpr char g_szResources[] = "KV_CLIENT_RESOURCES";
 constexpr QRect g_pictureDesktop(0, 0, 1920, 1080);
 constexpr int g_nLayoutTime = 120; // milliseconds until the dialog has computed its final layout
 
@@ -82,6 +83,17 @@ void LoadCatalogue(ConfigService& service)
     }
 }
 
+/// Whether a name could be understood. One that is no text in the system's encoding would lead to another file.
+bool IsText(const QString& strName)
+{
+    const bool bText = !strName.contains(QChar(QChar::ReplacementCharacter));
+    if (!bText)
+    {
+        Client::Complain(Client::tr("'%1' is no text in the encoding of this system.").arg(strName));
+    }
+    return bText;
+}
+
 /// A PNG; empty when there is none to be had.
 QByteArray Draw(QWidget& widget)
 {
@@ -110,12 +122,22 @@ MissingRights GetMissingRights(const CommandLine& commandLine, const ConfigServi
     return missing;
 }
 
+void SettleResourceFolder()
+{
+    const QString strFolder = qEnvironmentVariable(g_szResources);
+    if (!strFolder.isEmpty())
+    {
+        qputenv(g_szResources, QFile::encodeName(QFileInfo(strFolder).absoluteFilePath()));
+    }
+}
+
 } // namespace
 
 Client::Client(const CommandLine& commandLine)
     : m_commandLine(commandLine)
 {
     // The client works in its data folder, so the paths that it was given must be settled before.
+    SettleResourceFolder();
     if (!m_commandLine.strFile.isEmpty())
     {
         m_commandLine.strFile = QFileInfo(m_commandLine.strFile).absoluteFilePath();
@@ -148,6 +170,10 @@ bool Client::EnterDataFolder()
     if (!bNamed)
     {
         strFolder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    }
+    if (!IsText(strFolder) || !IsText(m_commandLine.strFile))
+    {
+        return false;
     }
     if (QFileInfo::exists(strFolder) && !QFileInfo(strFolder).isDir())
     {

@@ -47,6 +47,10 @@
         <source>Not all alarm sounds could be put into the data folder.</source>
         <translation>部分报警声音无法放入数据文件夹。</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is no text in the encoding of this system.</source>
+        <translation>“%1”不是此系统编码中的文本。</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>

@@ -70,6 +70,11 @@ private slots:
     void AnUnusableCatalogueIsTold();
     void WithoutADisplayTheWindowSaysSo_data();
     void WithoutADisplayTheWindowSaysSo();
+    void TheResourceFolderIsThatOfTheCaller();
+#ifndef Q_OS_WIN // where every name is text
+    void ANameThatIsNoTextIsRefused_data();
+    void ANameThatIsNoTextIsRefused();
+#endif
 };
 
 void tst_Client::DumpShowsDefaultsAtFirst()
@@ -492,6 +497,47 @@ void tst_Client::AnUnusableCatalogueIsTold()
     QCOMPARE(run.listErrors.size(), 1);
     QVERIFY2(run.listErrors.first().contains("AlarmTypes.xml"), qPrintable(run.listErrors.first()));
 }
+
+void tst_Client::TheResourceFolderIsThatOfTheCaller()
+{
+    const QDir shipped(QString::fromLocal8Bit(qgetenv("KV_CLIENT_RESOURCES")));
+    m_environment.insert("KV_CLIENT_RESOURCES", shipped.dirName());
+    const SRun run = Run({"--screenshot", m_pOther->filePath("a.png"), "--data-dir", m_pFolder->path()}, m_environment,
+                         QFileInfo(shipped.path()).path());
+    QCOMPARE(run.listErrors, QStringList());
+    QCOMPARE(run.nExitCode, 0);
+    QVERIFY(Colors(m_pOther->filePath("a.png")) > 50);
+}
+
+#ifndef Q_OS_WIN
+
+void tst_Client::ANameThatIsNoTextIsRefused_data()
+{
+    QTest::addColumn<QString>("strCommand");
+    QTest::newRow("data folder") << QString(R"("$KV_CLIENT" --import in.json --data-dir "$NAME")");
+    QTest::newRow("exported file") << QString(R"("$KV_CLIENT" --data-dir . --export "$NAME")");
+    QTest::newRow("own folder") << QString(R"(XDG_DATA_HOME="$PWD/$NAME" "$KV_CLIENT" --screenshot a.png)");
+    QTest::newRow("folder that it is started in")
+        << QString(R"(mkdir "$NAME" && cd "$NAME" && "$KV_CLIENT" --data-dir . --import ../in.json; s=$?;
+                      cd .. && rmdir "$NAME" && exit $s)");
+}
+
+void tst_Client::ANameThatIsNoTextIsRefused()
+{
+    QFETCH(QString, strCommand);
+    Put(m_pOther->filePath("in.json"), Document(ChangedSettings()));
+    const QStringList listBefore = QDir(m_pOther->path()).entryList(QDir::AllEntries | QDir::Hidden);
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.setWorkingDirectory(m_pOther->path());
+    process.start("sh", {"-c", R"(NAME=$(printf 'caf\351'); )" + strCommand});
+    QVERIFY(process.waitForFinished(30000));
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(process.readAllStandardError().count('\n'), 1);
+    QCOMPARE(QDir(m_pOther->path()).entryList(QDir::AllEntries | QDir::Hidden), listBefore);
+}
+
+#endif
 
 void tst_Client::WithoutADisplayTheWindowSaysSo_data()
 {
