@@ -7,9 +7,10 @@
 #include <KvGui/KvMessageNotify.h>
 
 #include <QDir>
-#include <QSettings>
 
 #include <algorithm>
+#include <cstring>
+#include <optional>
 
 namespace UICommonMdl
 {
@@ -69,6 +70,93 @@ QByteArray Escape(const QString& strValue)
     return bQuote ? '"' + result + '"' : result;
 }
 
+/// Where an unquoted comment begins in a value; the value's size without one.
+int FindComment(const QByteArray& value)
+{
+    bool bQuoted = false;
+    for (int n = 0; n < value.size(); ++n)
+    {
+        switch (value[n])
+        {
+        case '\\':
+            ++n;
+            break;
+        case '"':
+            bQuoted = !bQuoted;
+            break;
+        case ';':
+            if (!bQuoted)
+            {
+                return n;
+            }
+            break;
+        default:
+            break;
+        }
+    }
+    return value.size();
+}
+
+/// The number behind a backslash, of digits to a base; \a nPlace moves behind it.
+QChar ReadCode(const QByteArray& value, int& nPlace, int nBase)
+{
+    ushort nCode = 0;
+    bool bDigit = true;
+    while (nPlace < value.size())
+    {
+        const int nDigit = value.mid(nPlace, 1).toInt(&bDigit, nBase);
+        if (!bDigit)
+        {
+            break;
+        }
+        nCode = ushort(nCode * nBase + nDigit);
+        ++nPlace;
+    }
+    return nCode;
+}
+
+/// The character that an escape stands for; \a nPlace, behind the backslash, moves behind it.
+QChar ReadEscape(const QByteArray& value, int& nPlace)
+{
+    constexpr char szNames[] = "abfnrtv";
+    constexpr char szMeanings[] = "\a\b\f\n\r\t\v";
+    const char ch = value[nPlace];
+    if (ch >= '0' && ch <= '7')
+    {
+        return ReadCode(value, nPlace, 8);
+    }
+    ++nPlace;
+    if (ch == 'x')
+    {
+        return ReadCode(value, nPlace, 16);
+    }
+    const char* pszName = ch ? std::strchr(szNames, ch) : nullptr;
+    return QLatin1Char(pszName ? szMeanings[pszName - szNames] : ch);
+}
+
+/// What Escape, QSettings or a person has written behind the key.
+QString Unescape(const QByteArray& written)
+{
+    const QByteArray value = written.left(FindComment(written)).trimmed();
+    QString strValue;
+    int nPlace = 0;
+    while (nPlace < value.size())
+    {
+        int nPlain = nPlace;
+        while (nPlain < value.size() && value[nPlain] != '\\' && value[nPlain] != '"')
+        {
+            ++nPlain;
+        }
+        strValue += QString::fromUtf8(value.mid(nPlace, nPlain - nPlace));
+        nPlace = nPlain + 1;
+        if (nPlain < value.size() && value[nPlain] == '\\' && nPlace < value.size())
+        {
+            strValue += ReadEscape(value, nPlace);
+        }
+    }
+    return strValue.startsWith(QLatin1String("@@")) ? strValue.mid(1) : strValue;
+}
+
 /// Lines with their ends, so that every byte can be put back.
 QList<QByteArray> SplitLines(const QByteArray& content)
 {
@@ -124,12 +212,25 @@ public:
         m_listLines.insert(nEnd < 0 ? AddGroup(header) : nEnd, line);
     }
 
+    /// What stands behind the key; none without it.
+    std::optional<QByteArray> GetValue(const QByteArray& group, const QByteArray& key) const
+    {
+        std::optional<QByteArray> value;
+        VisitGroup('[' + group + ']', [&](int n) {
+            if (IsKey(m_listLines[n], key))
+            {
+                value = m_listLines[n].mid(m_listLines[n].indexOf('=') + 1);
+            }
+        });
+        return value;
+    }
+
     QByteArray Join() const { return m_byteOrderMark + m_listLines.join(); }
 
 private:
     /// Calls visit(line) for each line of a group, which may stand in several pieces; their headers count as theirs.
     template <class Visitor>
-    void VisitGroup(const QByteArray& header, Visitor visit)
+    void VisitGroup(const QByteArray& header, Visitor visit) const
     {
         bool bInGroup = false;
         for (int n = 0; n < m_listLines.size(); ++n)
@@ -160,7 +261,7 @@ private:
     }
 
     /// Behind the last line of a group that says something; -1 without the group.
-    int FindEnd(const QByteArray& header)
+    int FindEnd(const QByteArray& header) const
     {
         int nEnd = -1;
         VisitGroup(header, [&](int n) { nEnd = IsBlank(m_listLines[n]) ? nEnd : n + 1; });
@@ -248,15 +349,12 @@ bool CLocalIniFile::WriteValue(const QString& strGroup, const QString& strKey, c
 QString CLocalIniFile::ReadValue(const QString& strGroup, const QString& strKey, const QString& strDefault,
                                  const QString& strFileName)
 {
-    const QString strPath = GetPath(strFileName);
+    // Line by line, as it is written: to QSettings, a quotation mark that some other line leaves open hides all the
+    // rest.
     QByteArray content;
-    if (CAtomicFile::Read(strPath, content) != CErrorCode::Success)
-    {
-        return strDefault; // QSettings would wait for a pipe
-    }
-    QSettings settings(strPath, QSettings::IniFormat);
-    settings.setIniCodec("UTF-8");
-    return settings.value(strGroup + QLatin1Char('/') + strKey, strDefault).toString();
+    CAtomicFile::Read(GetPath(strFileName), content);
+    const std::optional<QByteArray> value = CIniText(content).GetValue(strGroup.toUtf8(), strKey.toUtf8());
+    return value ? Unescape(*value) : strDefault;
 }
 
 } // namespace UICommonMdl

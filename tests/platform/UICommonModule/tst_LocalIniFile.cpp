@@ -33,6 +33,10 @@ private slots:
     void EveryOtherByteStays();
     void ValuesComeBackThroughQSettings_data();
     void ValuesComeBackThroughQSettings();
+    void ValuesComeBackFromAnyFile_data();
+    void ValuesComeBackFromAnyFile();
+    void ValuesOfOthersAreRead_data();
+    void ValuesOfOthersAreRead();
     void BoolsAndNumbers();
     void AByteOrderMarkStaysInFront();
     void NamesThatAreNoneAreRefused_data();
@@ -156,6 +160,54 @@ void tst_LocalIniFile::ValuesComeBackThroughQSettings()
     QCOMPARE(settings.value("Group/key").toString(), strValue);
     QCOMPARE(settings.value("Group/other").toString(), QString("stays"));
     QCOMPARE(CLocalIniFile::ReadValue("Group", "key", "default", "test.ini"), strValue);
+}
+
+void tst_LocalIniFile::ValuesComeBackFromAnyFile_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::newRow("a quotation mark left open in front") << QByteArray("[H]\na=\"open\n[Skin]\nb=2\n");
+    QTest::newRow("a quotation mark left open in a comment") << QByteArray("# 24\" screens\n[Skin]\nversion=1\n");
+    QTest::newRow("a quotation mark left open in the value") << QByteArray("[Skin]\nversion=\"1\n");
+    QTest::newRow("a backslash at the end of a line") << QByteArray("[Skin]\npath=C:\\\nversion=1\n");
+    QTest::newRow("a line that is none") << QByteArray("[Ckin]\nversi\nve\0@x\\\\\"\n;#=,on=2\n[Skin]\nve", 39);
+    QTest::newRow("the key in another spelling behind") << QByteArray("[Skin]\nversion=1\n%76ersion=2\n");
+    QTest::newRow("the key in other letters behind") << QByteArray("[Skin]\nversion=1\n[skin]\nVERSION=2\n");
+}
+
+void tst_LocalIniFile::ValuesComeBackFromAnyFile()
+{
+    QFETCH(QByteArray, before);
+    Put(before);
+    QVERIFY(CLocalIniFile::WriteValue("Skin", "version", "White", "test.ini"));
+    QCOMPARE(CLocalIniFile::ReadValue("Skin", "version", "none", "test.ini"), QString("White"));
+}
+
+void tst_LocalIniFile::ValuesOfOthersAreRead_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QString>("strValue");
+    QTest::newRow("plain") << QByteArray("White") << "White";
+    QTest::newRow("nothing") << QByteArray("") << "";
+    QTest::newRow("spaces") << QByteArray("  Two Words\t") << "Two Words";
+    QTest::newRow("comment") << QByteArray("White ; or DustyBlue") << "White";
+    QTest::newRow("quoted") << QByteArray("\" a;b \" ; c") << " a;b ";
+    QTest::newRow("a quoted part") << QByteArray("a\"b c\"d") << "ab cd";
+    QTest::newRow("escapes") << QByteArray("a\\tb\\n\\\"\\\\") << "a\tb\n\"\\";
+    QTest::newRow("hexadecimal") << QByteArray("\\x41\\x5ba2g") << QString::fromUtf8("A\xe5\xae\xa2g");
+    QTest::newRow("octal") << QByteArray("\\101\\0") << QString("A") + QChar(0);
+    QTest::newRow("no escape") << QByteArray("C:\\Qt") << "C:Qt";
+    QTest::newRow("a backslash at the end") << QByteArray("a\\") << "a";
+    QTest::newRow("letters of other languages") << QByteArray("\xc3\xa9\xe5\x9b\xbe") << QString::fromUtf8("é图");
+    QTest::newRow("at sign") << QByteArray("@@home") << "@home";
+}
+
+/// Values as other programs write them, by hand or through QSettings.
+void tst_LocalIniFile::ValuesOfOthersAreRead()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(QString, strValue);
+    Put("[G]\r\nk=" + value + "\r\n");
+    QCOMPARE(CLocalIniFile::ReadValue("G", "k", "none", "test.ini"), strValue);
 }
 
 void tst_LocalIniFile::BoolsAndNumbers()
