@@ -16,15 +16,8 @@ namespace
 
 constexpr long g_nNothingForced = -1;
 
-} // namespace
-
-std::optional<bool> ReadForcedAlarmSound(const QString& strFile)
+std::optional<bool> FindForcedAlarmSound(const pugi::xml_document& document)
 {
-    pugi::xml_document document;
-    if (!QFileInfo(strFile).isFile() || !document.load_file(strFile.toStdWString().c_str()))
-    {
-        return std::nullopt;
-    }
     const pugi::xml_node root = document.child("AlarmLink");
     for (pugi::xml_node child = root.first_child(); child; child = child.next_sibling())
     {
@@ -35,6 +28,22 @@ std::optional<bool> ReadForcedAlarmSound(const QString& strFile)
         }
     }
     return std::nullopt;
+}
+
+} // namespace
+
+std::optional<bool> ReadForcedAlarmSound(const QString& strFile)
+{
+    pugi::xml_document document;
+    const bool bLoaded = QFileInfo(strFile).isFile() && document.load_file(strFile.toStdWString().c_str());
+    return bLoaded ? FindForcedAlarmSound(document) : std::nullopt;
+}
+
+std::optional<bool> ParseForcedAlarmSound(const QByteArray& content)
+{
+    pugi::xml_document document;
+    const bool bLoaded = document.load_buffer(content.constData(), std::size_t(content.size()));
+    return bLoaded ? FindForcedAlarmSound(document) : std::nullopt;
 }
 
 } // namespace LocalConfig

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+class QByteArray;
 class QString;
 
 namespace LocalConfig
@@ -11,5 +12,8 @@ namespace LocalConfig
 /// AlarmLink, as a number.
 /// \return nothing where the file is missing, cannot be read or understood, or does not say
 std::optional<bool> ReadForcedAlarmSound(const QString& strFile);
+
+/// Likewise, for what stands in such a file.
+std::optional<bool> ParseForcedAlarmSound(const QByteArray& content);
 
 } // namespace LocalConfig
