@@ -172,6 +172,11 @@ QList<QByteArray> SplitLines(const QByteArray& content)
     return listLines;
 }
 
+QByteArray GetEnd(const QByteArray& line)
+{
+    return line.endsWith("\r\n") ? "\r\n" : line.endsWith('\n') ? "\n" : "";
+}
+
 bool IsGroup(const QByteArray& line)
 {
     return line.trimmed().startsWith('[');
@@ -202,14 +207,14 @@ public:
     void SetKey(const QByteArray& group, const QByteArray& key, const QByteArray& value)
     {
         const QByteArray header = '[' + group + ']';
-        const QByteArray line = key + '=' + value + m_lineEnd;
+        const QByteArray line = key + '=' + value;
         if (ReplaceKey(header, key, line))
         {
             return;
         }
         EndLastLine();
         const int nEnd = FindEnd(header);
-        m_listLines.insert(nEnd < 0 ? AddGroup(header) : nEnd, line);
+        m_listLines.insert(nEnd < 0 ? AddGroup(header) : nEnd, line + m_lineEnd);
     }
 
     /// What stands behind the key; none without it.
@@ -253,7 +258,7 @@ private:
         VisitGroup(header, [&](int n) {
             if (IsKey(m_listLines[n], key))
             {
-                m_listLines[n] = line;
+                m_listLines[n] = line + GetEnd(m_listLines[n]);
                 bReplaced = true;
             }
         });

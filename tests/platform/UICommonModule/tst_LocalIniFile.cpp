@@ -109,6 +109,10 @@ void tst_LocalIniFile::EveryOtherByteStays_data()
     QTest::newRow("a group twice") << QByteArray("[G]\nk=1\n[H]\n[G]\nk=2\n")
                                    << QByteArray("[G]\nk=v\n[H]\n[G]\nk=v\n");
     QTest::newRow("longer key") << QByteArray("[G]\nkk=1\n") << QByteArray("[G]\nkk=1\nk=v\n");
+    QTest::newRow("line ends of two kinds")
+        << QByteArray("[G]\r\na=1\r\nk=old\n[H]\r\n") << QByteArray("[G]\r\na=1\r\nk=v\n[H]\r\n");
+    QTest::newRow("replaced without a line end") << QByteArray("[G]\nk=old") << QByteArray("[G]\nk=v");
+    QTest::newRow("a carriage return at the end") << QByteArray("[H]\nx\r") << QByteArray("[H]\nx\r\n\n[G]\nk=v\n");
     QTest::newRow("bytes that are no text")
         << QByteArray("[H]\nx=\xff\xfe\n[G]\nk=o\n") << QByteArray("[H]\nx=\xff\xfe\n[G]\nk=v\n");
 }
@@ -118,6 +122,8 @@ void tst_LocalIniFile::EveryOtherByteStays()
     QFETCH(QByteArray, before);
     QFETCH(QByteArray, after);
     Put(before);
+    QVERIFY(CLocalIniFile::WriteValue("G", "k", "v", "test.ini"));
+    QCOMPARE(Get(), after);
     QVERIFY(CLocalIniFile::WriteValue("G", "k", "v", "test.ini"));
     QCOMPARE(Get(), after);
 }
