@@ -10,6 +10,7 @@ prepare $BUILD_PACKAGES clang libclang-rt-14-dev
 [ -f build/fuzz/build.ninja ] || quietly cmake --preset fuzz
 quietly cmake --build --preset fuzz
 
+export QT_QPA_PLATFORM=offscreen LSAN_OPTIONS="suppressions=$PWD/tests/support/lsan.supp:print_suppressions=0"
 length=-max_total_time=60
 [ "${KV_LONG:-0}" = 0 ] || length=-runs=1000000
 

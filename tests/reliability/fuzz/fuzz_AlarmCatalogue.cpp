@@ -5,7 +5,7 @@
 #include <UICommonModule/CAlarmType.h>
 #include <UICommonModule/CErrorCode.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -19,7 +19,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSize)
     DEMAND(ftruncate(nFile, 0) == 0 && pwrite(nFile, pData, nSize, 0) == ssize_t(nSize));
 
     static int nArguments = 0;
-    static const QCoreApplication application(nArguments, nullptr); // for the timers of the catalogue
+    static const QApplication application(nArguments, nullptr); // for the notification of a file that cannot be used
     CAlarmType* pCatalogue = CAlarmType::Instance();
     const bool bLoaded = pCatalogue->Load(strFile) == UICommonMdl::CErrorCode::Success;
     const int nTypes = pCatalogue->GetAlarmTypeCount();

@@ -71,11 +71,11 @@ bool IsReplaced(const QList<QByteArray>& listBefore, const QList<QByteArray>& li
 }
 
 /// Whether the lines are those from before, but for some that were put in at one place, the key's the last of them.
-bool IsInserted(QList<QByteArray> listBefore, const QList<QByteArray>& listAfter)
+bool IsInserted(QList<QByteArray> listBefore, const QList<QByteArray>& listAfter, const char* pszLineEnd)
 {
     if (!listBefore.isEmpty() && !listBefore.last().endsWith('\n'))
     {
-        listBefore.last() += listAfter.first().endsWith("\r\n") ? "\r\n" : "\n";
+        listBefore.last() += pszLineEnd;
     }
     const int nMore = listAfter.size() - listBefore.size();
     int nPlace = 0;
@@ -109,8 +109,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSize)
     const QList<QByteArray> listBefore = Lines(before.mid(nMark));
     const QList<QByteArray> listAfter = Lines(after.mid(nMark));
     DEMAND(listAfter.size() >= listBefore.size());
-    DEMAND(listAfter.size() == listBefore.size() ? IsReplaced(listBefore, listAfter)
-                                                 : IsInserted(listBefore, listAfter));
+    DEMAND(listAfter.size() == listBefore.size()
+               ? IsReplaced(listBefore, listAfter)
+               : IsInserted(listBefore, listAfter, before.contains("\r\n") ? "\r\n" : "\n"));
 
     DEMAND(CLocalIniFile::WriteValue("Skin", "version", strValue, g_strFile));
     DEMAND(Get() == after);
