@@ -52,6 +52,15 @@ void TakeWarning(QtMsgType eType, const QMessageLogContext& /*context*/, const Q
     }
 }
 
+struct SModifier
+{
+    Qt::KeyboardModifier eModifier = Qt::NoModifier;
+    Qt::Key eKey = Qt::Key_unknown;
+};
+
+constexpr SModifier g_arrModifiers[] = {
+    {Qt::ShiftModifier, Qt::Key_Shift}, {Qt::ControlModifier, Qt::Key_Control}, {Qt::AltModifier, Qt::Key_Alt}};
+
 constexpr Qt::Key g_arrKeys[] = {
     Qt::Key_Tab,   Qt::Key_Tab,   Qt::Key_Backtab,   Qt::Key_Return, Qt::Key_Enter,  Qt::Key_Escape, Qt::Key_Space,
     Qt::Key_Up,    Qt::Key_Down,  Qt::Key_Left,      Qt::Key_Right,  Qt::Key_PageUp, Qt::Key_Home,   Qt::Key_End,
@@ -103,6 +112,8 @@ private:
     QPoint PlaceIn(QWidget* pTarget);
     Qt::KeyboardModifiers Modifiers();
     void ClickAt(QWidget* pTarget, const QPoint& place, Qt::MouseButton eButton, Qt::KeyboardModifiers eModifiers);
+    static void Key(const QPointer<QWindow>& pWindow, QEvent::Type eType, Qt::Key eKey,
+                    Qt::KeyboardModifiers eModifiers, const QString& strText);
     void Mouse(QWidget* pTarget, const QPoint& place, QEvent::Type eType, Qt::MouseButton eButton,
                Qt::KeyboardModifiers eModifiers);
     void Note(const QString& strWhat) { m_listTrail.last() += QLatin1Char(' ') + strWhat; }
@@ -348,12 +359,19 @@ void tst_Monkey::PressKey()
 {
     const QPointer<QWindow> pWindow = Target()->windowHandle();
     const Qt::Key eKey = m_chance.OneOf(g_arrKeys);
-    const Qt::KeyboardModifiers eModifiers = Modifiers();
-    Note(QKeySequence(int(eKey) | int(eModifiers)).toString());
-    QTest::keyPress(pWindow, eKey, eModifiers);
-    if (pWindow)
+    const SModifier modifier = m_chance.OneIn(4) ? m_chance.OneOf(g_arrModifiers) : SModifier();
+    Note(QKeySequence(int(eKey) | int(modifier.eModifier)).toString());
+    const bool bText = eKey < Qt::Key_Escape && modifier.eModifier != Qt::ControlModifier;
+    const QString strText = bText ? QString(QChar(eKey)).toLower() : QString();
+    if (modifier.eModifier)
     {
-        QTest::keyRelease(pWindow, eKey, eModifiers);
+        Key(pWindow, QEvent::KeyPress, modifier.eKey, {}, QString());
+    }
+    Key(pWindow, QEvent::KeyPress, eKey, modifier.eModifier, strText);
+    Key(pWindow, QEvent::KeyRelease, eKey, modifier.eModifier, strText);
+    if (modifier.eModifier)
+    {
+        Key(pWindow, QEvent::KeyRelease, modifier.eKey, modifier.eModifier, QString());
     }
 }
 
@@ -363,12 +381,11 @@ void tst_Monkey::TypeText()
         QString::fromUtf8("0123456789013579 abcxyz/\\:.-+,;%&\"'<>\xc3\xa9\xe5\x9b\xbe");
     for (int n = 1 + m_chance.Below(m_chance.OneIn(20) ? 200 : 6); n > 0; --n)
     {
-        if (QWindow* pWindow = Target()->windowHandle())
-        {
-            const QString strCharacter(m_chance.OneOf(strCharacters));
-            Note(strCharacter);
-            QTest::sendKeyEvent(QTest::Click, pWindow, Qt::Key_unknown, strCharacter, {});
-        }
+        const QString strCharacter(m_chance.OneOf(strCharacters));
+        Note(strCharacter);
+        const QPointer<QWindow> pWindow = Target()->windowHandle();
+        Key(pWindow, QEvent::KeyPress, Qt::Key_unknown, {}, strCharacter);
+        Key(pWindow, QEvent::KeyRelease, Qt::Key_unknown, {}, strCharacter);
     }
 }
 
@@ -507,7 +524,7 @@ void tst_Monkey::AnswerFileDialog(QFileDialog& dialog)
 {
     if (m_chance.OneIn(2))
     {
-        QTest::sendKeyEvent(QTest::Press, dialog.windowHandle(), Qt::Key_Escape, QString(), {});
+        Key(dialog.windowHandle(), QEvent::KeyPress, Qt::Key_Escape, {}, QString());
         return;
     }
     static const QString arrNames[] = {"one.wav", "two.txt", "none.wav", "."};
@@ -526,9 +543,9 @@ void tst_Monkey::AnswerOther(QWidget& inFront)
     {
         ClickAt(&inFront, pButton->mapTo(&inFront, pButton->rect().center()), Qt::LeftButton, {});
     }
-    else if (QWindow* pWindow = inFront.windowHandle())
+    else
     {
-        QTest::sendKeyEvent(QTest::Press, pWindow, m_chance.OneOf(arrAnswers), QString(), {});
+        Key(inFront.windowHandle(), QEvent::KeyPress, m_chance.OneOf(arrAnswers), {}, QString());
     }
 }
 
@@ -561,8 +578,7 @@ QPoint tst_Monkey::PlaceIn(QWidget* pTarget)
 
 Qt::KeyboardModifiers tst_Monkey::Modifiers()
 {
-    static constexpr Qt::KeyboardModifier arrModifiers[] = {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier};
-    return m_chance.OneIn(4) ? m_chance.OneOf(arrModifiers) : Qt::NoModifier;
+    return m_chance.OneIn(4) ? m_chance.OneOf(g_arrModifiers).eModifier : Qt::NoModifier;
 }
 
 void tst_Monkey::ClickAt(QWidget* pTarget, const QPoint& place, Qt::MouseButton eButton,
@@ -580,6 +596,17 @@ void tst_Monkey::ClickAt(QWidget* pTarget, const QPoint& place, Qt::MouseButton 
                   Qt::NoButton, eModifiers);
         }
         Mouse(pKept, place, QEvent::MouseButtonRelease, eButton, eModifiers);
+    }
+}
+
+/// An event as the window system sends it; none for a window that has gone meanwhile.
+void tst_Monkey::Key(const QPointer<QWindow>& pWindow, QEvent::Type eType, Qt::Key eKey,
+                     Qt::KeyboardModifiers eModifiers, const QString& strText)
+{
+    if (pWindow)
+    {
+        qt_handleKeyEvent(pWindow, eType, eKey, eModifiers, strText);
+        QCoreApplication::processEvents();
     }
 }
 
