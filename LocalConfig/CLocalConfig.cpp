@@ -244,6 +244,7 @@ void CLocalConfig::AddSection(int nIndex)
     {
         // Added and taken out again, so that the entries after it keep their indices.
         pBox->hide();
+        pBox->move(pBox->x(), -2 * g_nScrollBand); // where no scrolling gets to
         m_mapGroupBox.insert(nIndex, pBox);
         m_pUi->m_pToolListView->RemoveItem(nIndex);
         return;
@@ -533,15 +534,17 @@ void CLocalConfig::OnSaveBtnClicked()
         return;
     }
 
-    for (int nIndex = 0; nIndex < SectionCount; ++nIndex) // in navigation order, unlike the save
-    {
-        IConfigPage* pPage = m_vecPages[nIndex];
-        const bool bMayKeep = nIndex == IndexSnapshot || nIndex == IndexRecord;
-        if (pPage && !(bMayKeep && mapResults.value(pPage) == g_nKeepInput))
+    KeepFocusOn(focusWidget(), [&] {
+        for (int nIndex = 0; nIndex < SectionCount; ++nIndex) // in navigation order, unlike the save
         {
-            pPage->ReloadConfig(false);
+            IConfigPage* pPage = m_vecPages[nIndex];
+            const bool bMayKeep = nIndex == IndexSnapshot || nIndex == IndexRecord;
+            if (pPage && !(bMayKeep && mapResults.value(pPage) == g_nKeepInput))
+            {
+                pPage->ReloadConfig(false);
+            }
         }
-    }
+    });
     Notify(CFormText::tr("Failed to save configuration, some values are illegal."));
 }
 
@@ -567,7 +570,19 @@ void CLocalConfig::OnCloseBtmClicked()
 
 void CLocalConfig::ReloadPages(bool bDefault)
 {
-    ForEachPage([bDefault](IConfigPage& page) { page.ReloadConfig(bDefault); });
+    KeepFocusOn(focusWidget(), [&] { ForEachPage([bDefault](IConfigPage& page) { page.ReloadConfig(bDefault); }); });
+}
+
+/// Does what takes the focus, and gives it to its holder again; to the navigation list when that is locked or hidden.
+template <class Action>
+void CLocalConfig::KeepFocusOn(QPointer<QWidget> pHolder, Action action)
+{
+    action();
+    if (focusWidget() != pHolder)
+    {
+        const bool bCanTakeIt = pHolder && pHolder->isEnabled() && pHolder->isVisibleTo(this);
+        (bCanTakeIt ? pHolder.data() : m_pUi->m_pToolListView)->setFocus();
+    }
 }
 
 // --- Connection state
@@ -584,10 +599,23 @@ void CLocalConfig::OnReconnect()
 
 void CLocalConfig::SetConnected(bool bConnected)
 {
-    SetButtonEnable(Other, bConnected);
-    SetButtonEnable(Ok, bConnected);
-    SetButtonEnable(Cancel, bConnected);
-    ForEachPage([bConnected](IConfigPage& page) { page.SetControlsEnabled(bConnected); });
+    // Whom the lock has taken the focus from gets it back, unless the user has gone elsewhere meanwhile.
+    const bool bGiveBack = bConnected && m_pLockedHolder && focusWidget() == m_pUi->m_pToolListView;
+    const QPointer<QWidget> pHolder = bGiveBack ? m_pLockedHolder.data() : focusWidget();
+    KeepFocusOn(pHolder, [&] {
+        SetButtonEnable(Other, bConnected);
+        SetButtonEnable(Ok, bConnected);
+        SetButtonEnable(Cancel, bConnected);
+        ForEachPage([bConnected](IConfigPage& page) { page.SetControlsEnabled(bConnected); });
+    });
+    if (bConnected)
+    {
+        m_pLockedHolder = nullptr;
+    }
+    else if (focusWidget() != pHolder)
+    {
+        m_pLockedHolder = pHolder;
+    }
 }
 
 } // namespace LocalConfig

@@ -5,6 +5,7 @@
 #include <LocalConfig/interfaces/IUserManager.h>
 
 #include <QMap>
+#include <QPointer>
 
 #include <memory>
 #include <vector>
@@ -104,6 +105,8 @@ private:
     void ForEachPage(Action action);
     void ReloadPages(bool bDefault);
     void SetConnected(bool bConnected);
+    template <class Action>
+    void KeepFocusOn(QPointer<QWidget> pHolder, Action action);
 
     CGroupBox* GetGroupBoxByIndex(int iIndex) const;
     CGroupBox* GetGroupBoxByVerticalScrollBarValue(int iValue) const;
@@ -119,6 +122,7 @@ private:
     bool m_bTvWallRight = false;
     std::vector<IConfigPage*> m_vecPages; // by navigation index; Qt children of their group boxes
     QMap<int, CGroupBox*> m_mapGroupBox;
+    QPointer<QWidget> m_pLockedHolder; // of the focus, when the connection went
 };
 
 } // namespace LocalConfig

@@ -14,6 +14,8 @@ private slots:
     void EverySectionHasItsPage_data() { BoxRows(); }
     void EverySectionHasItsPage();
     void SavingAsksEverySection();
+    void ScrollingSelectsAShownSection_data();
+    void ScrollingSelectsAShownSection();
 };
 
 void tst_RealDialog::EverySectionHasItsPage()
@@ -38,6 +40,30 @@ void tst_RealDialog::SavingAsksEverySection()
     QCOMPARE(listCalls.filter(QRegularExpression("^SetConfig")).size(), 9);
     QCOMPARE(listCalls.last(), QString("SaveAll"));
     QVERIFY(!d.dialog.isVisible());
+}
+
+void tst_RealDialog::ScrollingSelectsAShownSection_data()
+{
+    QTest::addColumn<QSet<int>>("setMissing");
+    QTest::newRow("with the wall") << QSet<int>();
+    QTest::newRow("without the wall") << QSet<int>{26};
+}
+
+void tst_RealDialog::ScrollingSelectsAShownSection()
+{
+    QFETCH(QSet<int>, setMissing);
+    SRealHost host;
+    host.userRight.m_setMissing = setMissing;
+    SRealDialog d(host);
+    d.Open();
+    const int nEnd = d.ScrollBar()->maximum();
+    for (int n = 0; n <= 2 * nEnd; ++n) // down and up
+    {
+        d.ScrollBar()->setValue(nEnd - qAbs(nEnd - n));
+        const QList<int> listSelected = d.SelectedBoxes();
+        QCOMPARE(listSelected, QList<int>{d.List()->GetCurrentIndex()});
+        QVERIFY(d.Box(listSelected.first())->isVisible());
+    }
 }
 
 QTEST_MAIN(tst_RealDialog)
