@@ -95,8 +95,11 @@ CAlarmTypeMenu::CAlarmTypeMenu(QWidget* pOwner)
     connect(m_pMainList->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &CAlarmTypeMenu::OnMainItemChanged);
     connect(m_pSubList, &QListView::clicked, this, &CAlarmTypeMenu::Choose);
-    connect(m_pSubList, &QListView::entered, m_pSubList, &QListView::setCurrentIndex);
-    m_pMainList->viewport()->installEventFilter(this);
+    for (QListView* pList : {m_pMainList, m_pSubList})
+    {
+        // Not the list's own signal, which also tells of items that come under a resting mouse when the list scrolls.
+        pList->viewport()->installEventFilter(this);
+    }
     m_mouseRests.setSingleShot(true);
     m_mouseRests.setInterval(g_nMouseRests);
     connect(&m_mouseRests, &QTimer::timeout, this, &CAlarmTypeMenu::ShowCategoryUnderMouse);
@@ -225,6 +228,15 @@ void CAlarmTypeMenu::ShowCategoryUnderMouse()
     }
 }
 
+void CAlarmTypeMenu::MarkType(const QPoint& pos)
+{
+    const QModelIndex index = m_pSubList->indexAt(pos);
+    if (index.isValid())
+    {
+        m_pSubList->setCurrentIndex(index);
+    }
+}
+
 bool CAlarmTypeMenu::OnKey(const QObject* pList, int nKey)
 {
     const bool bMain = pList == m_pMainList;
@@ -273,6 +285,10 @@ bool CAlarmTypeMenu::eventFilter(QObject* pWatched, QEvent* pEvent)
         if (bCategories)
         {
             FollowMouse(static_cast<QMouseEvent*>(pEvent)->pos());
+        }
+        else if (pWatched == m_pSubList->viewport())
+        {
+            MarkType(static_cast<QMouseEvent*>(pEvent)->pos());
         }
         return false;
     case QEvent::Leave:

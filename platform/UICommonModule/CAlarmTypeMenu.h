@@ -49,6 +49,7 @@ private:
     void FollowMouse(const QPoint& pos);
     bool IsOnTheWayToTypes(const QPoint& pos) const;
     void ShowCategoryUnderMouse();
+    void MarkType(const QPoint& pos);
     void Place();
 
     QMap<int, QMap<int, QString>> m_mapSub;

@@ -97,6 +97,9 @@ private slots:
     void HidingThePopupClosesTheMenu();
     void TheWheelChangesNothing();
     void LongMenusScroll();
+    void ARestingMouseLeavesTheKeysTheirType_data();
+    void ARestingMouseLeavesTheKeysTheirType();
+    void TheMouseMarksTheTypeUnderIt();
     void TenThousandTypesOpenQuickly();
 
 private:
@@ -147,6 +150,8 @@ private:
         CAlarmType::Instance()->GetAlarmCategory(mapMain, mapSub);
         m_pCombo->InitMenu(mapMain, mapSub);
     }
+
+    void UseLongMenu(int nTypes);
 
     QScopedPointer<QWidget> m_pWindow;
     CAlarmTypeCombox* m_pCombo = nullptr;
@@ -680,14 +685,19 @@ void tst_AlarmTypeCombox::TheWheelChangesNothing()
     QCOMPARE(m_pSpy->size(), 0);
 }
 
-void tst_AlarmTypeCombox::LongMenusScroll()
+void tst_AlarmTypeCombox::UseLongMenu(int nTypes)
 {
     QMap<int, QString> mapLong;
-    for (int n = 0; n < 200; ++n)
+    for (int n = 0; n < nTypes; ++n)
     {
         mapLong.insert(n, QString("Type %1").arg(n));
     }
     m_pCombo->InitMenu({{1, "All"}}, {{1, mapLong}});
+}
+
+void tst_AlarmTypeCombox::LongMenusScroll()
+{
+    UseLongMenu(200);
     m_pCombo->ChooseItem(1, 150);
     m_pCombo->showPopup();
     QVERIFY(Menu()->height() < 500);
@@ -698,16 +708,49 @@ void tst_AlarmTypeCombox::LongMenusScroll()
     QVERIFY(Sub()->viewport()->rect().intersects(Sub()->visualRect(Sub()->currentIndex())));
 }
 
+void tst_AlarmTypeCombox::ARestingMouseLeavesTheKeysTheirType_data()
+{
+    QTest::addColumn<int>("nKey");
+    QTest::addColumn<int>("nType");
+    QTest::newRow("opened") << 0 << 100;
+    QTest::newRow("down by more rows than there are in sight") << int(Qt::Key_Down) << 120;
+    QTest::newRow("to the end") << int(Qt::Key_End) << 199;
+}
+
+void tst_AlarmTypeCombox::ARestingMouseLeavesTheKeysTheirType()
+{
+    QFETCH(int, nKey);
+    QFETCH(int, nType);
+    UseLongMenu(200);
+    m_pCombo->showPopup();
+    QCursor::setPos(Menu()->mapToGlobal(QPoint()));
+    QCursor::setPos(Sub()->viewport()->mapToGlobal(RowOf(Sub(), 2).center()));
+    QTRY_COMPARE(Current(Sub()), QString("Type 2")); // has moved there
+    m_pCombo->hidePopup();
+    m_pCombo->ChooseItem(1, 100);
+    m_pCombo->showPopup();
+    QVERIFY(QTest::qWaitForWindowExposed(Menu()));
+    for (int n = 0; nKey != 0 && n < 20; ++n)
+    {
+        QTest::keyClick(Sub(), Qt::Key(nKey));
+    }
+    QCOMPARE(Current(Sub()), QString("Type %1").arg(nType));
+}
+
+void tst_AlarmTypeCombox::TheMouseMarksTheTypeUnderIt()
+{
+    m_pCombo->ChooseItem(3, 4);
+    m_pCombo->showPopup();
+    QTest::mouseMove(Sub()->viewport(), RowOf(Sub(), 0).center());
+    QTest::mouseMove(Sub()->viewport(), RowOf(Sub(), 1).center());
+    QTRY_COMPARE(Current(Sub()), QString("Motion"));
+}
+
 void tst_AlarmTypeCombox::TenThousandTypesOpenQuickly()
 {
-    QMap<int, QString> mapLong;
-    for (int n = 0; n < 10000; ++n)
-    {
-        mapLong.insert(n, QString("Type %1").arg(n));
-    }
     QElapsedTimer clock;
     clock.start();
-    m_pCombo->InitMenu({{1, "All"}}, {{1, mapLong}});
+    UseLongMenu(10000);
     m_pCombo->showPopup();
     QCoreApplication::processEvents();
     QVERIFY2(clock.elapsed() < 1000, qPrintable(QString::number(clock.elapsed())));
