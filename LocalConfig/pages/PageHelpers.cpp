@@ -90,13 +90,28 @@ void ScrollTo(QWidget* pControl)
     pScrollArea->ensureWidgetVisible(pControl);
 }
 
+/// The control, or the last one before it that is not locked: what a control is locked by stands before it.
+QWidget* FindUsable(QWidget* pControl)
+{
+    QWidget* pUsable = pControl;
+    while (!pUsable->isEnabled() || !(pUsable->focusPolicy() & Qt::TabFocus))
+    {
+        pUsable = pUsable->previousInFocusChain();
+        if (pUsable == pControl)
+        {
+            break;
+        }
+    }
+    return pUsable;
+}
+
 /// Puts the focus on a control, scrolled into view, and tells the user about it.
 template <class Tell>
 void Point(QWidget* pControl, Tell tell)
 {
     const auto point = [pControl, tell] {
         ScrollTo(pControl);
-        pControl->setFocus();
+        FindUsable(pControl)->setFocus();
         tell();
     };
     point();

@@ -44,6 +44,7 @@ private slots:
     void AHintLeadsNowhereElse_data() { Fields(); }
     void AHintLeadsNowhereElse();
     void AFieldInSightIsNotScrolledTo();
+    void AFieldThatTheReloadLocksLeadsToItsChoice();
     void AKeptTextStaysMarkedUntilItIsGood_data();
     void AKeptTextStaysMarkedUntilItIsGood();
 
@@ -139,6 +140,23 @@ void tst_RefusedFields::AFieldInSightIsNotScrolledTo()
     QCoreApplication::processEvents();
     QVERIFY(m_pField->hasFocus());
     QCOMPARE(d.ScrollBar()->value(), nValue);
+}
+
+void tst_RefusedFields::AFieldThatTheReloadLocksLeadsToItsChoice()
+{
+    m_host.video.m_record.bInstantCustom = false;
+    SRealDialog d(m_host);
+    d.Open();
+    auto* pChoice = d.Find<QWidget>("instantComboBox");
+    pChoice->setFocus();
+    QTest::keyClick(pChoice, Qt::Key_End);
+    m_pField = d.Find<QWidget>("instantTimeEdit");
+    Type(qobject_cast<QLineEdit*>(m_pField), "9");
+    QTest::keyClick(m_pField, Qt::Key_Return);
+    QVERIFY(d.dialog.isVisible());
+    QCoreApplication::processEvents();
+    QVERIFY(!m_pField->isEnabled());
+    QCOMPARE(d.dialog.focusWidget(), pChoice);
 }
 
 void tst_RefusedFields::AKeptTextStaysMarkedUntilItIsGood_data()
