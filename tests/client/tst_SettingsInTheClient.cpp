@@ -138,7 +138,7 @@ void tst_SettingsInTheClient::ARefusedSnapshotOrRecordPageKeepsTheDialogOpen()
         Click(dialog, "btnOk");
         QVERIFY(dialog.isVisible());
         QCOMPARE(pField->text() == strText, bKept);
-        QCOMPARE(pField->IsErrorHintShown(), bKept);
+        QTRY_COMPARE(pField->IsErrorHintShown(), bKept);
         Click(dialog, "btnCancel");
     });
     QCOMPARE(spy.size(), 1);
@@ -188,7 +188,7 @@ void tst_SettingsInTheClient::ARefusalPointsAtItsField()
         }
         QVERIFY(dialog.isVisible());
         QTRY_VERIFY(pField->hasFocus());
-        QVERIFY(QToolTip::isVisible());
+        QTRY_VERIFY(QToolTip::isVisible());
         QCOMPARE(QToolTip::text(), strTip);
         const QPoint corner = pField->mapTo(pScrollArea->viewport(), QPoint());
         QVERIFY(pScrollArea->viewport()->rect().contains(QRect(corner, pField->size())));
