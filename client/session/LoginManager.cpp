@@ -15,8 +15,8 @@ namespace
 
 constexpr int g_nStateConnected = 2;
 constexpr int g_nStateLost = 3;
-constexpr int g_nConnectTimeout = 5000;     // milliseconds; the system's own is minutes
-constexpr qint64 g_nReadBuffer = 64 * 1024; // bytes of what nobody wants to know
+constexpr int g_nConnectTimeout = 5000;             // milliseconds; the system's own is minutes
+constexpr qint64 g_nReadBuffer = qint64(64) * 1024; // bytes of what nobody wants to know
 
 } // namespace
 
