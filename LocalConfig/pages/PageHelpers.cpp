@@ -3,6 +3,7 @@
 #include <KvGui/KvDir.h>
 #include <KvGui/KvLineEdit.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
@@ -57,6 +58,41 @@ private:
     QLineEdit* m_pEdit;
     QString m_strBefore;
 };
+
+/// Stands between the events and the tip that is shown, so that the tip does not go when it comes under the mouse: its
+/// window makes the mouse leave the one below.
+class CTipKeeper : public QObject
+{
+public:
+    explicit CTipKeeper(QWidget* pTip)
+        : QObject(pTip)
+        , m_strText(QToolTip::text())
+    {
+        qApp->removeEventFilter(pTip);
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+    {
+        const bool bKeep = pEvent->type() == QEvent::Leave && QToolTip::text() == m_strText;
+        return !bKeep && parent()->eventFilter(pWatched, pEvent);
+    }
+
+private:
+    QString m_strText;
+};
+
+void ShowTip(QWidget* pControl, const QString& strText)
+{
+    QToolTip::showText(pControl->mapToGlobal(QPoint(0, 0)), strText, pControl);
+    for (QWidget* pWindow : QApplication::topLevelWidgets())
+    {
+        if (pWindow->inherits("QTipLabel") && pWindow->isVisible())
+        {
+            new CTipKeeper(pWindow); // dies with the tip
+        }
+    }
+}
 
 QScrollArea* FindScrollArea(QWidget* pWidget)
 {
@@ -147,8 +183,7 @@ QString SRange::Fill(const QString& strTemplate) const
 
 void PointAt(QWidget* pControl, const QString& strText)
 {
-    Point(pControl,
-          [pControl, strText] { QToolTip::showText(pControl->mapToGlobal(QPoint(0, 0)), strText, pControl); });
+    Point(pControl, [pControl, strText] { ShowTip(pControl, strText); });
 }
 
 void PointAtKept(KVGUI::KvLineEdit* pEdit)

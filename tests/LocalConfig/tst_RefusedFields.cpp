@@ -45,11 +45,16 @@ private slots:
     void AHintLeadsNowhereElse();
     void AFieldInSightIsNotScrolledTo();
     void AFieldThatTheReloadLocksLeadsToItsChoice();
+    void AMessageStaysWhenItComesUnderTheMouse_data() { Messages(); }
+    void AMessageStaysWhenItComesUnderTheMouse();
+    void AMessageGoesWhenTheUserGoesOn_data() { Messages(); }
+    void AMessageGoesWhenTheUserGoesOn();
     void AKeptTextStaysMarkedUntilItIsGood_data();
     void AKeptTextStaysMarkedUntilItIsGood();
 
 private:
     static void Fields();
+    static void Messages();
     /// Types what the row refuses, goes to an end of the content, and saves.
     void Refuse(SRealDialog& d, int nKey = Qt::Key_Home);
     bool IsInSight(SRealDialog& d) const;
@@ -157,6 +162,39 @@ void tst_RefusedFields::AFieldThatTheReloadLocksLeadsToItsChoice()
     QCoreApplication::processEvents();
     QVERIFY(!m_pField->isEnabled());
     QCOMPARE(d.dialog.focusWidget(), pChoice);
+}
+
+void tst_RefusedFields::Messages()
+{
+    QTest::addColumn<QString>("strField");
+    QTest::addColumn<QString>("strRefused");
+    QTest::newRow("interval") << "picTmSpinBox"
+                              << "0";
+    QTest::newRow("stay time") << "lineeditStayTime"
+                               << "14";
+}
+
+void tst_RefusedFields::AMessageStaysWhenItComesUnderTheMouse()
+{
+    SRealDialog d(m_host);
+    Refuse(d);
+    QVERIFY(QToolTip::isVisible());
+    for (QWidget* pLeft : {m_pField, static_cast<QWidget*>(&d.dialog)})
+    {
+        QEvent leave(QEvent::Leave); // as the message's own window makes them
+        QApplication::sendEvent(pLeft, &leave);
+    }
+    QTest::qWait(500); // a tip that has been left goes after 300 ms
+    QVERIFY(QToolTip::isVisible());
+}
+
+void tst_RefusedFields::AMessageGoesWhenTheUserGoesOn()
+{
+    SRealDialog d(m_host);
+    Refuse(d);
+    QVERIFY(QToolTip::isVisible());
+    QTest::keyClick(m_pField, Qt::Key_Tab);
+    QTRY_VERIFY(!QToolTip::isVisible());
 }
 
 void tst_RefusedFields::AKeptTextStaysMarkedUntilItIsGood_data()
