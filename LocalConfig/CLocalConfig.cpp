@@ -430,6 +430,7 @@ void CLocalConfig::OnVideoConfigChangeSize()
 
 void CLocalConfig::OnToolListCurrentIndexChanged(int iIndex)
 {
+    m_pLockedHolder = nullptr;
     {
         QScrollBar* pScrollBar = m_pUi->scrollArea->verticalScrollBar();
         const CScopedDisconnect quiet(pScrollBar, &QScrollBar::valueChanged, this,

@@ -28,6 +28,7 @@ private slots:
     void ALockedControlHandsTheFocusToTheNavigation_data();
     void ALockedControlHandsTheFocusToTheNavigation();
     void AFocusThatTheUserMovedMeanwhileStays();
+    void AUserWhoNavigatesMeanwhileStaysInTheNavigation();
     void DefaultsThatLockAFieldHandTheFocusToTheNavigation();
 
 private:
@@ -176,6 +177,17 @@ void tst_FocusKept::AFocusThatTheUserMovedMeanwhileStays()
     pField->setFocus();
     Connect(true);
     QCOMPARE(d.dialog.focusWidget(), pField);
+}
+
+void tst_FocusKept::AUserWhoNavigatesMeanwhileStaysInTheNavigation()
+{
+    SRealDialog d(m_host);
+    d.Open();
+    d.Find<QWidget>("picNumEdit")->setFocus();
+    Connect(false);
+    QTest::keyClick(d.dialog.focusWidget(), Qt::Key_Down);
+    Connect(true);
+    QVERIFY(d.List()->hasFocus());
 }
 
 void tst_FocusKept::DefaultsThatLockAFieldHandTheFocusToTheNavigation()
