@@ -576,13 +576,13 @@ void CLocalConfig::ReloadPages(bool bDefault)
 
 /// Does what takes the focus, and gives it to its holder again; to the navigation list when that is locked or hidden.
 template <class Action>
-void CLocalConfig::KeepFocusOn(QPointer<QWidget> pHolder, Action action)
+void CLocalConfig::KeepFocusOn(QWidget* pHolder, Action action)
 {
     action();
     if (focusWidget() != pHolder)
     {
         const bool bCanTakeIt = pHolder && pHolder->isEnabled() && pHolder->isVisibleTo(this);
-        (bCanTakeIt ? pHolder.data() : m_pUi->m_pToolListView)->setFocus();
+        (bCanTakeIt ? pHolder : m_pUi->m_pToolListView)->setFocus();
     }
 }
 
@@ -602,7 +602,7 @@ void CLocalConfig::SetConnected(bool bConnected)
 {
     // Whom the lock has taken the focus from gets it back, unless the user has gone elsewhere meanwhile.
     const bool bGiveBack = bConnected && m_pLockedHolder && focusWidget() == m_pUi->m_pToolListView;
-    const QPointer<QWidget> pHolder = bGiveBack ? m_pLockedHolder.data() : focusWidget();
+    QWidget* pHolder = bGiveBack ? m_pLockedHolder.data() : focusWidget();
     KeepFocusOn(pHolder, [&] {
         SetButtonEnable(Other, bConnected);
         SetButtonEnable(Ok, bConnected);
@@ -611,7 +611,7 @@ void CLocalConfig::SetConnected(bool bConnected)
     });
     if (bConnected)
     {
-        m_pLockedHolder = nullptr;
+        m_pLockedHolder.clear();
     }
     else if (focusWidget() != pHolder)
     {

@@ -106,7 +106,7 @@ private:
     void ReloadPages(bool bDefault);
     void SetConnected(bool bConnected);
     template <class Action>
-    void KeepFocusOn(QPointer<QWidget> pHolder, Action action);
+    void KeepFocusOn(QWidget* pHolder, Action action);
 
     CGroupBox* GetGroupBoxByIndex(int iIndex) const;
     CGroupBox* GetGroupBoxByVerticalScrollBarValue(int iValue) const;
