@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 
 namespace UICommonMdl
 {
@@ -16,28 +17,12 @@ namespace
 
 constexpr char g_szTemporary[] = ".tmp-";
 constexpr int g_nNumberWidth = 8;
-constexpr int g_nMaxLinks = 40; // as many as the system itself follows
 
 QString GetTemporaryName(const QString& strFile)
 {
     const quint32 nNumber = QRandomGenerator::global()->generate();
     return strFile + QLatin1String(g_szTemporary) +
            QStringLiteral("%1").arg(nNumber, g_nNumberWidth, 16, QLatin1Char('0'));
-}
-
-/// Whether a name may be written over.
-int CheckTarget(const QString& strTarget)
-{
-    const QFileInfo info(strTarget);
-    if (!info.exists())
-    {
-        return CErrorCode::Success;
-    }
-    if (!info.isFile())
-    {
-        return CErrorCode::NotAFile;
-    }
-    return info.isWritable() ? CErrorCode::Success : CErrorCode::NoPermission;
 }
 
 /// A complete and flushed file under a name of its own beside the target, with the attributes of a model that need not
@@ -55,7 +40,7 @@ int WriteTemporary(const QString& strTarget, const QString& strModel, const QByt
     {
         return nResult;
     }
-    if (QFileInfo(strModel).isFile())
+    if (!strModel.isEmpty())
     {
         nResult = CopyAttributes(strModel, file);
     }
@@ -108,26 +93,69 @@ int Place(const QString& strTarget, const QString& strModel, const QByteArray& c
     return nResult == CErrorCode::Success ? MoveToTarget(strTemporary, strTarget, eTarget) : nResult;
 }
 
+int FindTarget(const QString& strFile, QString& strTarget, bool& bExists)
+{
+    const int nResult = FollowLinks(strFile, strTarget);
+    return nResult == CErrorCode::Success ? CheckReplaceable(strTarget, bExists) : nResult;
+}
+
+int FlushContent(const QString& strFile)
+{
+    QFile file;
+    const int nResult = OpenToRead(strFile, file);
+    if (nResult != CErrorCode::Success)
+    {
+        return nResult;
+    }
+    return FlushFile(file.handle()) ? int(CErrorCode::Success) : GetSystemError();
+}
+
+int FlushName(const QString& strFile)
+{
+    return FlushFolder(QFileInfo(strFile).absolutePath()) ? CErrorCode::Success : CErrorCode::NotYetSafe;
+}
+
+/// Removes the temporary files in a folder whose names begin in a way; strBegin is a regular expression.
+void RemoveTemporaries(const QDir& folder, const QString& strBegin)
+{
+    const QRegularExpression pattern(
+        QStringLiteral("^%1%2[0-9a-f]{%3}$")
+            .arg(strBegin, QRegularExpression::escape(QLatin1String(g_szTemporary)), QString::number(g_nNumberWidth)));
+    for (const QString& strName : folder.entryList(QDir::Files | QDir::Hidden | QDir::System))
+    {
+        if (pattern.match(strName).hasMatch())
+        {
+            QFile::remove(folder.filePath(strName));
+        }
+    }
+}
+
 } // namespace
 
-int CAtomicFile::Write(const QString& strFile, const QByteArray& content, Target eTarget)
+int CAtomicFile::Write(const QString& strFile, const QByteArray& content, Target eTarget, const QString& strModel)
 {
-    const QString strTarget = eTarget == FollowLink ? GetTarget(strFile) : strFile;
-    int nResult = eTarget == FollowLink ? CheckTarget(strTarget) : int(CErrorCode::Success);
+    QString strTarget = strFile;
+    bool bExists = false;
+    int nResult = CErrorCode::Success;
+    if (eTarget == FollowLink)
+    {
+        nResult = FindTarget(strFile, strTarget, bExists);
+    }
     if (nResult == CErrorCode::Success)
     {
         // A link that is to go says nothing of what comes in its place.
-        nResult = Place(strTarget, eTarget == FollowLink ? strTarget : QString(), content, eTarget);
+        nResult = Place(strTarget, bExists ? strTarget : strModel, content, eTarget);
     }
-    return nResult == CErrorCode::Success ? Flush(strTarget) : nResult;
+    return nResult == CErrorCode::Success ? FlushName(strTarget) : nResult;
 }
 
 int CAtomicFile::WriteAndKeep(const QString& strFile, const QByteArray& content, const QString& strName,
                               const QByteArray& before)
 {
     // The step that a full disk refuses comes first, so that a refused write leaves both files as they were.
-    const QString strTarget = GetTarget(strFile);
-    int nResult = CheckTarget(strTarget);
+    QString strTarget;
+    bool bExists = false;
+    int nResult = FindTarget(strFile, strTarget, bExists);
     QString strTemporary;
     if (nResult == CErrorCode::Success)
     {
@@ -144,23 +172,17 @@ int CAtomicFile::WriteAndKeep(const QString& strFile, const QByteArray& content,
         return nResult;
     }
     nResult = MoveToTarget(strTemporary, strTarget, FollowLink);
-    return nResult == CErrorCode::Success ? Flush(strTarget) : nResult;
+    return nResult == CErrorCode::Success ? FlushName(strTarget) : nResult;
 }
 
 int CAtomicFile::Keep(const QString& strFile, const QByteArray& content, const QString& strName)
 {
-    const QString strTarget = GetTarget(strFile);
+    QString strTarget;
+    const int nFound = FollowLinks(strFile, strTarget);
+    const int nFlushed = nFound == CErrorCode::Success ? FlushContent(strTarget) : nFound;
+    if (nFlushed != CErrorCode::Success)
     {
-        QFile file;
-        const int nResult = OpenToRead(strTarget, file);
-        if (nResult != CErrorCode::Success)
-        {
-            return nResult;
-        }
-        if (!FlushFile(file.handle()))
-        {
-            return GetSystemError();
-        }
+        return nFlushed;
     }
     const QString strTemporary = GetTemporaryName(strName);
     if (Link(strTarget, strTemporary) != CErrorCode::Success)
@@ -174,16 +196,16 @@ int CAtomicFile::Keep(const QString& strFile, const QByteArray& content, const Q
 
 int CAtomicFile::Flush(const QString& strFile)
 {
-    return FlushFolder(QFileInfo(GetTarget(strFile)).absolutePath()) ? CErrorCode::Success : CErrorCode::NotYetSafe;
+    QString strTarget;
+    const bool bFlushed =
+        FollowLinks(strFile, strTarget) == CErrorCode::Success && FlushContent(strTarget) == CErrorCode::Success;
+    return bFlushed ? FlushName(strTarget) : int(CErrorCode::NotYetSafe);
 }
 
 QString CAtomicFile::GetTarget(const QString& strFile)
 {
-    QString strTarget = strFile;
-    for (int n = 0; n < g_nMaxLinks && QFileInfo(strTarget).isSymLink(); ++n)
-    {
-        strTarget = QFileInfo(strTarget).symLinkTarget();
-    }
+    QString strTarget;
+    FollowLinks(strFile, strTarget);
     return strTarget;
 }
 
@@ -222,15 +244,13 @@ int CAtomicFile::Remove(const QString& strFile)
 void CAtomicFile::RemoveLeftovers(const QString& strFile)
 {
     const QFileInfo info(GetTarget(strFile));
-    const QDir folder = info.absoluteDir();
-    const QString strBegin = info.fileName() + QLatin1String(g_szTemporary);
-    for (const QString& strName : folder.entryList(QDir::Files | QDir::Hidden | QDir::System))
-    {
-        if (strName.startsWith(strBegin) && strName.size() == strBegin.size() + g_nNumberWidth)
-        {
-            QFile::remove(folder.filePath(strName));
-        }
-    }
+    RemoveTemporaries(info.absoluteDir(), QRegularExpression::escape(info.fileName()));
+}
+
+void CAtomicFile::RemoveLeftoversOfNames(const QString& strBegin)
+{
+    const QFileInfo info(strBegin);
+    RemoveTemporaries(info.absoluteDir(), QRegularExpression::escape(info.fileName()) + QStringLiteral(".*"));
 }
 
 } // namespace UICommonMdl

@@ -27,10 +27,12 @@ public:
     /// file, flush of the folder. An existing file keeps its permissions, and its owner where the system lets this
     /// user. After a failure the old file is as it was and no temporary file is left.
     ///
+    /// \param strModel  a file whose permissions and owner a new one gets; that file need not exist
     /// \return CErrorCode::Success, or DiskFull, NoPermission, FolderMissing, IoError, NotAFile, FileExists (of
     /// NewName);
     ///         NotYetSafe when the new file stands there and only its name may not be on the disk yet
-    static int Write(const QString& strFile, const QByteArray& content, Target eTarget = FollowLink);
+    static int Write(const QString& strFile, const QByteArray& content, Target eTarget = FollowLink,
+                     const QString& strModel = {});
 
     /// Write with FollowLink, whereby the file that is replaced stays under a second name. That name loses what it
     /// stood for only when the new file is complete. \param before  the content that is replaced, see Keep \return as
@@ -44,7 +46,7 @@ public:
     /// \return as Write
     static int Keep(const QString& strFile, const QByteArray& content, const QString& strName);
 
-    /// Waits until what a Write with NotYetSafe has left is on the disk.
+    /// Waits until a file is on the disk, such as one that a Write with NotYetSafe has left.
     /// \return CErrorCode::Success or NotYetSafe
     static int Flush(const QString& strFile);
 
@@ -62,6 +64,10 @@ public:
 
     /// Removes what killed writers of a file have left beside it. For a caller who knows that nobody is writing now.
     static void RemoveLeftovers(const QString& strFile);
+
+    /// The same for all files whose paths begin with a text, such as those that Keep makes of one. Links are not
+    /// followed.
+    static void RemoveLeftoversOfNames(const QString& strBegin);
 };
 
 } // namespace UICommonMdl

@@ -13,10 +13,22 @@ CFileLock::CFileLock(const QString& strFile)
 
 CFileLock::~CFileLock()
 {
-    if (IsHeld())
+    Release();
+}
+
+bool CFileLock::IsHeld() const
+{
+    return m_file.isOpen() && IsNameOf(m_strFile, m_file);
+}
+
+void CFileLock::Release()
+{
+    if (m_file.isOpen())
     {
         m_file.resize(0); // nobody holds it now
     }
+    m_file.close();
+    m_folder.close();
 }
 
 int CFileLock::Take(const QByteArray& note)
@@ -25,7 +37,8 @@ int CFileLock::Take(const QByteArray& note)
     {
         return CErrorCode::Success;
     }
-    const int nResult = OpenLocked(m_strFile, m_file);
+    Release();
+    const int nResult = OpenLocked(m_strFile, m_file, m_folder);
     if (nResult == CErrorCode::Success)
     {
         // On a full disk nobody learns who holds the lock; it holds all the same.

@@ -10,7 +10,8 @@ namespace UICommonMdl
 {
 
 /// A lock of the operating system's, on an open file: it goes with its process, whatever way that ends. The file itself
-/// stays, and what it says is for people alone. A second lock on the same file is refused within one process, too.
+/// stays, and what it says is for people alone. A second lock on the same file is refused within one process, too, and
+/// where folders can be locked, so is one on another file of that folder: a folder has one lock.
 class UICOMMONMODULE_EXPORT CFileLock
 {
 public:
@@ -26,14 +27,18 @@ public:
     ///         FolderMissing, NotAFile, IoError
     int Take(const QByteArray& note);
 
-    bool IsHeld() const { return m_file.isOpen(); }
+    /// False, too, when somebody has removed or replaced the file, since that lock keeps nobody out.
+    bool IsHeld() const;
 
     /// What the file says; empty when nobody holds the lock or nothing could be read.
     QByteArray GetNote() const;
 
 private:
+    void Release();
+
     QString m_strFile;
-    QFile m_file; // open while the lock is held
+    QFile m_file;   // open while the lock is held
+    QFile m_folder; // and its folder, where folders can be locked
 };
 
 } // namespace UICommonMdl

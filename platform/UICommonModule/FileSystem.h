@@ -34,12 +34,26 @@ bool IsStream(const QString& strFile);
 /// \return Success or what GetSystemError makes of the failure
 int OpenStream(const QString& strFile, QFile& file);
 
-/// Opens a file, made when it is missing, and takes the system's lock on it, which goes when the file is closed.
-/// A link or a pipe of that name, on which nobody can hold a lock, is replaced.
+/// Opens a file, made when it is missing, and takes the system's lock on it, which goes when the file is closed. Where
+/// the system has such, its folder is locked, too, and stays open: a file can be removed while somebody holds it.
+/// A link or a pipe of that name, on which nobody can hold a lock, and a file of somebody else's that this user cannot
+/// write and nobody holds, are replaced.
 /// \return Success; Locked when another process, or this one, holds it; else what GetSystemError makes of the failure
-int OpenLocked(const QString& strFile, QFile& file);
+int OpenLocked(const QString& strFile, QFile& file, QFile& folder);
 
-/// Gives an open file the mode of another one, and its owner where the system lets this user.
+/// Whether a name still stands for an open file. Somebody may have removed or replaced it meanwhile.
+bool IsNameOf(const QString& strFile, const QFile& file);
+
+/// Finds where a chain of links ends, whether or not something is there; a file that is no link is its own target.
+/// \return Success; NotAFile for a chain without an end; else what GetSystemError makes of the failure
+int FollowLinks(const QString& strFile, QString& strTarget);
+
+/// Whether what has a name may be written over; a link of that name is followed.
+/// \return Success, also where nothing has that name; NotAFile; else what GetSystemError makes of the failure
+int CheckReplaceable(const QString& strFile, bool& bExists);
+
+/// Gives an open file the mode of another one, and its owner and group as far as the system lets this user. A model
+/// that is missing, or is no regular file, says nothing.
 int CopyAttributes(const QString& strModel, QFile& file);
 
 /// Gives a file a name in the same folder, from which an older file of that name goes. A link of that name is replaced

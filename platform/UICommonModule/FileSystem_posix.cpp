@@ -2,10 +2,11 @@
 #include "FileSystem.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <cerrno>
+#include <climits>
 #include <cstdio>
+#include <cstdlib>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -18,6 +19,8 @@ namespace
 {
 
 constexpr mode_t g_nModeBits = 07777;
+constexpr int g_nMaxLinks = 40;       // as many as the system itself follows
+constexpr int g_nMaxLockTries = 1000; // against somebody who keeps removing the file
 
 /// Closes a handle without losing the error that led there.
 void CloseQuietly(int nHandle)
@@ -42,6 +45,28 @@ bool IsMissing(int nError)
     return nError == ENOENT || nError == ENOTDIR;
 }
 
+/// Everything before the name; "." where there is nothing.
+QByteArray GetFolder(const QByteArray& path)
+{
+    const int nName = path.lastIndexOf('/');
+    return nName < 0 ? QByteArray(".") : path.left(qMax(nName, 1));
+}
+
+/// Whether a file that is not found is behind a link that leads nowhere, perhaps to a disk that is not there now.
+bool IsBehindLostLink(QByteArray path)
+{
+    struct stat status = {};
+    while (::lstat(path.constData(), &status) != 0)
+    {
+        if (!IsMissing(errno) || path == GetFolder(path))
+        {
+            return false;
+        }
+        path = GetFolder(path);
+    }
+    return S_ISLNK(status.st_mode) && ::stat(path.constData(), &status) != 0;
+}
+
 /// Why a file could not be opened to be read.
 int GetReadError(const QByteArray& path)
 {
@@ -52,9 +77,13 @@ int GetReadError(const QByteArray& path)
     case ENOTDIR:
         if (::lstat(path.constData(), &status) == 0)
         {
-            return CErrorCode::Unreadable; // a link that leads nowhere, perhaps to a disk that is not there now
+            return CErrorCode::Unreadable;
         }
-        return IsMissing(errno) ? int(CErrorCode::FileMissing) : GetSystemError();
+        if (!IsMissing(errno))
+        {
+            return GetSystemError();
+        }
+        return IsBehindLostLink(path) ? CErrorCode::Unreadable : CErrorCode::FileMissing;
     case ELOOP:
     case ENXIO:
         return CErrorCode::Unreadable;
@@ -77,28 +106,24 @@ int FindOutput(const struct stat& status)
     return -1;
 }
 
-int OpenForLock(const QByteArray& path)
+/// Replaces the folder that a path names by the one that it really is, where that can be found.
+QByteArray WithRealFolder(const QByteArray& path)
 {
-    // Neither waits for a pipe nor follows a link.
-    return ::open(path.constData(), O_RDWR | O_CREAT | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC, 0666);
+    char szFolder[PATH_MAX];
+    if (::realpath(GetFolder(path).constData(), szFolder) == nullptr)
+    {
+        return path;
+    }
+    return QByteArray(szFolder) + '/' + path.mid(path.lastIndexOf('/') + 1);
 }
 
-/// Removes what stands in a lock file's place and is none. Two processes at once must not remove each other's new file,
-/// so they take turns by a lock of the folder.
-void RemoveStranger(const QByteArray& path, const QString& strFolder)
+/// What a link says; empty where there is none.
+int ReadLink(const QByteArray& path, QByteArray& link)
 {
-    const int nFolder = ::open(QFile::encodeName(strFolder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (nFolder < 0)
-    {
-        return;
-    }
-    struct stat status = {};
-    if (::flock(nFolder, LOCK_EX | LOCK_NB) == 0 && ::lstat(path.constData(), &status) == 0 &&
-        !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode))
-    {
-        ::unlink(path.constData());
-    }
-    ::close(nFolder);
+    char szLink[PATH_MAX];
+    const ssize_t nLength = ::readlink(path.constData(), szLink, sizeof(szLink));
+    link = QByteArray(szLink, int(qMax<ssize_t>(nLength, 0)));
+    return nLength >= 0 || errno == EINVAL || IsMissing(errno) ? int(CErrorCode::Success) : GetSystemError();
 }
 
 bool IsRegular(int nHandle)
@@ -107,13 +132,92 @@ bool IsRegular(int nHandle)
     return ::fstat(nHandle, &status) == 0 && S_ISREG(status.st_mode);
 }
 
-/// Whether a name still stands for an open file. Somebody may have removed or replaced it meanwhile.
 bool IsNameOf(const QByteArray& path, int nHandle)
 {
     struct stat named = {};
     struct stat open = {};
     return ::lstat(path.constData(), &named) == 0 && ::fstat(nHandle, &open) == 0 && named.st_dev == open.st_dev &&
            named.st_ino == open.st_ino;
+}
+
+/// Takes a folder's own lock. One that has none, such as that of some shares, counts as locked, but stays closed.
+int LockFolder(const QByteArray& path, QFile& folder)
+{
+    const int nHandle = ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (nHandle < 0)
+    {
+        return CErrorCode::Success;
+    }
+    if (::flock(nHandle, LOCK_EX | LOCK_NB) == 0)
+    {
+        return Adopt(nHandle, QIODevice::ReadOnly, folder);
+    }
+    CloseQuietly(nHandle);
+    return errno == EWOULDBLOCK ? CErrorCode::Locked : CErrorCode::Success;
+}
+
+int OpenForLock(const QByteArray& path, int nMode)
+{
+    // Neither waits for a pipe nor follows a link.
+    return ::open(path.constData(), nMode | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC, 0666);
+}
+
+/// Removes what stands in a lock file's place and cannot be one, or not for this user. The folder must be locked, so
+/// that two processes do not remove each other's new file.
+int RemoveStranger(const QByteArray& path)
+{
+    struct stat status = {};
+    if (::lstat(path.constData(), &status) != 0)
+    {
+        return IsMissing(errno) ? int(CErrorCode::Success) : GetSystemError();
+    }
+    const int nHandle = S_ISREG(status.st_mode) ? OpenForLock(path, O_RDONLY) : -1;
+    if (nHandle >= 0 && ::flock(nHandle, LOCK_EX | LOCK_NB) != 0)
+    {
+        CloseQuietly(nHandle);
+        return errno == EWOULDBLOCK ? int(CErrorCode::Locked) : GetSystemError();
+    }
+    const bool bGone = ::unlink(path.constData()) == 0 || IsMissing(errno);
+    const int nResult = bGone ? int(CErrorCode::Success) : GetSystemError();
+    if (nHandle >= 0)
+    {
+        ::close(nHandle);
+    }
+    return nResult;
+}
+
+/// One try to open and lock a file. bAgain tells that what stood there has changed, so that the next try may do.
+int TryOpenLocked(const QByteArray& path, bool bMayRemove, QFile& file, bool& bAgain)
+{
+    bAgain = false;
+    const int nHandle = OpenForLock(path, O_RDWR | O_CREAT);
+    if (nHandle < 0 ? errno == ELOOP || errno == ENXIO || errno == EACCES : !IsRegular(nHandle))
+    {
+        const int nError = nHandle < 0 ? GetSystemError() : int(CErrorCode::IoError);
+        if (nHandle >= 0)
+        {
+            ::close(nHandle);
+        }
+        const int nRemoved = bMayRemove ? RemoveStranger(path) : nError;
+        bAgain = nRemoved == CErrorCode::Success;
+        return bAgain ? nError : nRemoved;
+    }
+    if (nHandle < 0)
+    {
+        return GetSystemError();
+    }
+    if (::flock(nHandle, LOCK_EX | LOCK_NB) != 0)
+    {
+        CloseQuietly(nHandle);
+        return errno == EWOULDBLOCK ? int(CErrorCode::Locked) : GetSystemError();
+    }
+    if (!IsNameOf(path, nHandle))
+    {
+        ::close(nHandle);
+        bAgain = true;
+        return CErrorCode::IoError;
+    }
+    return Adopt(nHandle, QIODevice::ReadWrite, file);
 }
 
 } // namespace
@@ -197,48 +301,84 @@ int OpenStream(const QString& strFile, QFile& file)
     return nHandle < 0 ? GetSystemError() : Adopt(nHandle, QIODevice::WriteOnly, file);
 }
 
-int OpenLocked(const QString& strFile, QFile& file)
+int OpenLocked(const QString& strFile, QFile& file, QFile& folder)
 {
     const QByteArray path = QFile::encodeName(strFile);
-    int nHandle = OpenForLock(path);
-    if (nHandle < 0 ? errno == ELOOP || errno == ENXIO : !IsRegular(nHandle))
+    int nResult = LockFolder(GetFolder(path), folder);
+    bool bAgain = nResult == CErrorCode::Success;
+    for (int n = 0; bAgain && n < g_nMaxLockTries; ++n)
     {
-        if (nHandle >= 0)
+        nResult = TryOpenLocked(path, folder.isOpen(), file, bAgain);
+    }
+    if (nResult != CErrorCode::Success)
+    {
+        folder.close();
+    }
+    return nResult;
+}
+
+bool IsNameOf(const QString& strFile, const QFile& file)
+{
+    return IsNameOf(QFile::encodeName(strFile), file.handle());
+}
+
+int FollowLinks(const QString& strFile, QString& strTarget)
+{
+    QByteArray path = QFile::encodeName(strFile);
+    for (int n = 0; n < g_nMaxLinks; ++n)
+    {
+        QByteArray link;
+        const int nResult = ReadLink(path, link);
+        if (nResult != CErrorCode::Success || link.isEmpty())
         {
-            ::close(nHandle);
+            strTarget = QFile::decodeName(path);
+            return nResult;
         }
-        RemoveStranger(path, QFileInfo(strFile).absolutePath());
-        nHandle = OpenForLock(path);
+        // A link is read from the folder that it lies in, which a path through other links does not name.
+        path = WithRealFolder(link.startsWith('/') ? link : GetFolder(WithRealFolder(path)) + '/' + link);
     }
-    if (nHandle < 0)
+    strTarget = strFile;
+    return CErrorCode::NotAFile;
+}
+
+int CheckReplaceable(const QString& strFile, bool& bExists)
+{
+    const QByteArray path = QFile::encodeName(strFile);
+    struct stat status = {};
+    bExists = ::stat(path.constData(), &status) == 0;
+    if (!bExists)
     {
-        return GetSystemError();
+        return IsMissing(errno) ? int(CErrorCode::Success) : GetSystemError();
     }
-    if (::flock(nHandle, LOCK_EX | LOCK_NB) != 0)
+    if (!S_ISREG(status.st_mode))
     {
-        CloseQuietly(nHandle);
-        return errno == EWOULDBLOCK ? int(CErrorCode::Locked) : GetSystemError();
+        return CErrorCode::NotAFile;
     }
-    if (!IsRegular(nHandle) || !IsNameOf(path, nHandle))
-    {
-        ::close(nHandle);
-        return CErrorCode::IoError;
-    }
-    return Adopt(nHandle, QIODevice::ReadWrite, file);
+    return ::access(path.constData(), W_OK) == 0 ? int(CErrorCode::Success) : GetSystemError();
 }
 
 int CopyAttributes(const QString& strModel, QFile& file)
 {
     struct stat model = {};
     struct stat own = {};
-    if (::stat(QFile::encodeName(strModel).constData(), &model) != 0 || ::fstat(file.handle(), &own) != 0)
+    if (::lstat(QFile::encodeName(strModel).constData(), &model) != 0)
+    {
+        return IsMissing(errno) ? int(CErrorCode::Success) : GetSystemError();
+    }
+    if (!S_ISREG(model.st_mode))
+    {
+        return CErrorCode::Success;
+    }
+    if (::fstat(file.handle(), &own) != 0)
     {
         return GetSystemError();
     }
+    // An ordinary user cannot give files away, and need not, but can let a group of theirs keep one.
     const bool bSameOwner = model.st_uid == own.st_uid && model.st_gid == own.st_gid;
-    if (!bSameOwner && ::fchown(file.handle(), model.st_uid, model.st_gid) != 0 && errno != EPERM)
+    if (!bSameOwner && ::fchown(file.handle(), model.st_uid, model.st_gid) != 0 &&
+        (errno != EPERM || (::fchown(file.handle(), own.st_uid, model.st_gid) != 0 && errno != EPERM)))
     {
-        return GetSystemError(); // an ordinary user cannot give files away, and need not
+        return GetSystemError();
     }
     return ::fchmod(file.handle(), model.st_mode & g_nModeBits) == 0 ? int(CErrorCode::Success) : GetSystemError();
 }
@@ -265,7 +405,12 @@ bool FlushFolder(const QString& strFolder)
     const int nHandle = ::open(QFile::encodeName(strFolder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (nHandle < 0)
     {
-        return errno == EACCES; // a folder that may be written but not listed cannot be flushed on its own
+        if (errno == EACCES)
+        {
+            ::sync(); // a folder that may be written but not listed cannot be flushed on its own
+            return true;
+        }
+        return false;
     }
     // Some file systems cannot flush a folder and say so with EINVAL.
     const bool bFlushed = ::fsync(nHandle) == 0 || errno == EINVAL;

@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <fcntl.h>
 #include <io.h>
@@ -15,6 +16,7 @@ namespace
 {
 
 constexpr DWORD g_nQuotaExceeded = 1295; // ERROR_DISK_QUOTA_EXCEEDED, which some SDKs do not declare
+constexpr int g_nMaxLinks = 40;
 
 std::wstring Native(const QString& strPath)
 {
@@ -140,7 +142,7 @@ int OpenStream(const QString& strFile, QFile& file)
                                          : Adopt(hFile, _O_WRONLY | _O_BINARY, QIODevice::WriteOnly, file);
 }
 
-int OpenLocked(const QString& strFile, QFile& file)
+int OpenLocked(const QString& strFile, QFile& file, QFile& /*folder*/)
 {
     // Others may look who holds it; opening it to write, as everybody does who wants the lock, is what they may not.
     const HANDLE hFile = ::CreateFileW(Native(strFile).c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
@@ -150,6 +152,37 @@ int OpenLocked(const QString& strFile, QFile& file)
         return ::GetLastError() == ERROR_SHARING_VIOLATION ? int(CErrorCode::Locked) : GetSystemError();
     }
     return Adopt(hFile, _O_RDWR | _O_BINARY, QIODevice::ReadWrite, file);
+}
+
+bool IsNameOf(const QString& /*strFile*/, const QFile& /*file*/)
+{
+    return true; // a file that is open like this cannot be removed
+}
+
+int FollowLinks(const QString& strFile, QString& strTarget)
+{
+    strTarget = strFile;
+    for (int n = 0; n < g_nMaxLinks; ++n)
+    {
+        const QFileInfo info(strTarget);
+        if (!info.isSymLink())
+        {
+            return CErrorCode::Success;
+        }
+        strTarget = info.symLinkTarget();
+    }
+    return CErrorCode::NotAFile;
+}
+
+int CheckReplaceable(const QString& strFile, bool& bExists)
+{
+    const QFileInfo info(strFile);
+    bExists = info.exists();
+    if (bExists && !info.isFile())
+    {
+        return CErrorCode::NotAFile;
+    }
+    return !bExists || info.isWritable() ? CErrorCode::Success : CErrorCode::NoPermission;
 }
 
 int CopyAttributes(const QString& /*strModel*/, QFile& /*file*/)

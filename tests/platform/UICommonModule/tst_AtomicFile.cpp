@@ -9,8 +9,10 @@
 #include <QtTest>
 
 #include <csignal>
+#include <grp.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using UICommonMdl::CAtomicFile;
@@ -41,6 +43,8 @@ private slots:
     void FaultsLoseNothing();
     void AFolderThatIsNotFlushedIsTold();
     void TheOwnerStaysWhenRootWrites();
+    void TheGroupStaysWhenAMemberWrites();
+    void ALinkWithoutAnEndIsNotReplaced();
     void ATakenNameIsLeftAlone_data();
     void ATakenNameIsLeftAlone();
     void ALinkIsReplacedWhereANameIsMeant();
@@ -333,6 +337,38 @@ void tst_AtomicFile::TheOwnerStaysWhenRootWrites()
     QCOMPARE(info.ownerId(), uint(nUser));
     QCOMPARE(info.groupId(), uint(nUser));
     QVERIFY(info.permission(QFile::WriteOther));
+}
+
+void tst_AtomicFile::TheGroupStaysWhenAMemberWrites()
+{
+    if (geteuid() != 0)
+    {
+        QSKIP("only root can become a member of a group");
+    }
+    constexpr gid_t nTeam = 777;
+    Put("old");
+    QCOMPARE(chmod(qPrintable(m_pFolder->path()), 0777), 0);
+    QCOMPARE(chmod(qPrintable(Path()), 0660), 0);
+    QCOMPARE(chown(qPrintable(Path()), 12345, nTeam), 0);
+    const pid_t nChild = fork();
+    if (nChild == 0)
+    {
+        const bool bMember = setgroups(1, &nTeam) == 0 && setgid(12346) == 0 && setuid(12346) == 0;
+        _exit(bMember ? CAtomicFile::Write(Path(), "new") : 0);
+    }
+    int nStatus = 0;
+    waitpid(nChild, &nStatus, 0);
+    QCOMPARE(WEXITSTATUS(nStatus), int(CErrorCode::Success));
+    QCOMPARE(QFileInfo(Path()).groupId(), uint(nTeam));
+    QCOMPARE(QFileInfo(Path()).ownerId(), 12346U);
+    QVERIFY(QFileInfo(Path()).permission(QFile::ReadGroup | QFile::WriteGroup));
+}
+
+void tst_AtomicFile::ALinkWithoutAnEndIsNotReplaced()
+{
+    QVERIFY(QFile::link("file.txt", Path()));
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::NotAFile));
+    QVERIFY(QFileInfo(Path()).isSymLink());
 }
 
 void tst_AtomicFile::ATakenNameIsLeftAlone_data()

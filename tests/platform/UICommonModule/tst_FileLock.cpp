@@ -8,10 +8,13 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <atomic>
 #include <csignal>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 using UICommonMdl::CErrorCode;
 using UICommonMdl::CFileLock;
@@ -40,6 +43,13 @@ private slots:
     void AMissingFolderIsReported();
     void AFullDiskLocksAllTheSame();
     void ASystemWithoutLocksIsReported();
+    void AFileThatThisUserCannotOpenDoesNotLock_data();
+    void AFileThatThisUserCannotOpenDoesNotLock();
+    void AHeldFileThatOthersCannotWriteLocks();
+    void AHeldFileThatIsRemovedLocks();
+    void ARemovedFileIsMadeAnew();
+    void ManyAtOnceNeverHoldItTogether_data();
+    void ManyAtOnceNeverHoldItTogether();
 
 private:
     QString Path() const { return m_pFolder->filePath("the.lock"); }
@@ -213,6 +223,141 @@ void tst_FileLock::ASystemWithoutLocksIsReported()
 {
     qputenv("KV_FAULT", "flock:ENOLCK:" + Path().toLocal8Bit());
     QCOMPARE(CFileLock(Path()).Take("note"), int(CErrorCode::IoError));
+}
+
+void tst_FileLock::AFileThatThisUserCannotOpenDoesNotLock_data()
+{
+    QTest::addColumn<bool>("bPipe");
+    QTest::addColumn<int>("nMode");
+    QTest::newRow("not to be written") << false << 0400;
+    QTest::newRow("not to be read either") << false << 0;
+    QTest::newRow("a pipe") << true << 0;
+}
+
+void tst_FileLock::AFileThatThisUserCannotOpenDoesNotLock()
+{
+    // Such as one that root has left behind.
+    QFETCH(bool, bPipe);
+    QFETCH(int, nMode);
+    QCOMPARE(bPipe ? mkfifo(qPrintable(Path()), 0600) : mknod(qPrintable(Path()), S_IFREG | 0600, 0), 0);
+    QCOMPARE(chmod(qPrintable(Path()), mode_t(nMode)), 0);
+    CFileLock first(Path());
+    QCOMPARE(first.Take("first"), int(CErrorCode::Success));
+    QCOMPARE(first.GetNote(), QByteArray("first"));
+    QCOMPARE(CFileLock(Path()).Take("second"), int(CErrorCode::Locked));
+}
+
+void tst_FileLock::AHeldFileThatOthersCannotWriteLocks()
+{
+    for (const mode_t nMode : {0400, 0})
+    {
+        CFileLock first(Path());
+        QCOMPARE(first.Take("first"), int(CErrorCode::Success));
+        QCOMPARE(chmod(qPrintable(Path()), nMode), 0);
+        QCOMPARE(CFileLock(Path()).Take("second"), int(CErrorCode::Locked));
+        QVERIFY(first.IsHeld());
+    }
+}
+
+void tst_FileLock::AHeldFileThatIsRemovedLocks()
+{
+    CFileLock first(Path());
+    QCOMPARE(first.Take("first"), int(CErrorCode::Success));
+    QVERIFY(QFile::remove(Path()));
+    QCOMPARE(CFileLock(Path()).Take("second"), int(CErrorCode::Locked));
+}
+
+void tst_FileLock::ARemovedFileIsMadeAnew()
+{
+    CFileLock first(Path());
+    QCOMPARE(first.Take("first"), int(CErrorCode::Success));
+    QVERIFY(QFile::remove(Path()));
+    QVERIFY(!first.IsHeld());
+    QCOMPARE(first.Take("again"), int(CErrorCode::Success));
+    QCOMPARE(CFileLock(Path()).GetNote(), QByteArray("again"));
+}
+
+void tst_FileLock::ManyAtOnceNeverHoldItTogether_data()
+{
+    QTest::addColumn<char>("cMeddler");
+    QTest::newRow("left alone") << ' ';
+    QTest::newRow("removed") << 'r';
+    QTest::newRow("a link planted") << 'l';
+    QTest::newRow("a pipe planted") << 'p';
+}
+
+void tst_FileLock::ManyAtOnceNeverHoldItTogether()
+{
+    QFETCH(char, cMeddler);
+    struct SShared
+    {
+        std::atomic<int> nHolders;
+        std::atomic<int> nTogether;
+        std::atomic<int> nTaken;
+        std::atomic<int> nFailed;
+        std::atomic<bool> bEnd;
+    };
+    void* pMemory = mmap(nullptr, sizeof(SShared), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    QVERIFY(pMemory != MAP_FAILED);
+    auto* pShared = new (pMemory) SShared{};
+
+    const auto start = [](const auto& work) {
+        const pid_t nChild = fork();
+        if (nChild == 0)
+        {
+            work();
+            _exit(0);
+        }
+        return nChild;
+    };
+    const QByteArray path = Path().toLocal8Bit();
+    const pid_t nMeddler = start([&] {
+        while (cMeddler != ' ' && !pShared->bEnd)
+        {
+            unlink(path.constData());
+            (void)!(cMeddler == 'l' ? symlink("victim", path.constData()) : 0);
+            (void)!(cMeddler == 'p' ? mkfifo(path.constData(), 0600) : 0);
+            usleep(50);
+        }
+    });
+    constexpr int g_nContenders = 8;
+    constexpr int g_nRounds = 400;
+    std::vector<pid_t> listContenders;
+    for (int n = 0; n < g_nContenders; ++n)
+    {
+        listContenders.push_back(start([&] {
+            for (int nRound = 0; nRound < g_nRounds; ++nRound)
+            {
+                CFileLock lock(Path());
+                const int nResult = lock.Take("contender");
+                if (nResult == CErrorCode::Success)
+                {
+                    pShared->nTogether += ++pShared->nHolders > 1 ? 1 : 0;
+                    ++pShared->nTaken;
+                    usleep(100);
+                    --pShared->nHolders;
+                }
+                pShared->nFailed += nResult != CErrorCode::Success && nResult != CErrorCode::Locked ? 1 : 0;
+            }
+        }));
+    }
+    for (const pid_t nChild : listContenders)
+    {
+        waitpid(nChild, nullptr, 0);
+    }
+    pShared->bEnd = true;
+    waitpid(nMeddler, nullptr, 0);
+    const int nTaken = pShared->nTaken;
+    const int nTogether = pShared->nTogether;
+    const int nFailed = pShared->nFailed;
+    munmap(pMemory, sizeof(SShared));
+    qInfo("taken %d times of %d", nTaken, g_nContenders * g_nRounds);
+    QVERIFY(nTaken > 0);
+    QCOMPARE(nTogether, 0);
+    QCOMPARE(nFailed, 0);
+    QVERIFY(!QFile::exists(m_pFolder->filePath("victim")));
+    CFileLock lock(Path());
+    QCOMPARE(lock.Take("afterwards"), int(CErrorCode::Success));
 }
 
 QTEST_GUILESS_MAIN(tst_FileLock)
