@@ -41,8 +41,8 @@ SettingsFile::SettingsFile(const QString& strFolder, Mode eMode)
         m_bLoadedWithoutLock = nLock != CErrorCode::Success;
         if (m_bLoadedWithoutLock)
         {
-            m_strHindrance = DescribeLockFailure(nLock);
-            m_listProblems += m_strHindrance;
+            m_strHindrance = m_strLockProblem = DescribeLockFailure(nLock);
+            m_listProblems += m_strLockProblem;
         }
     }
     Load();
@@ -69,10 +69,14 @@ void SettingsFile::Report(const QString& strProblem)
 
 int SettingsFile::TakeLock()
 {
-    const bool bHeld = m_lock.IsHeld();
-    const int nResult = m_lock.Take();
-    if (nResult == CErrorCode::Success && !bHeld)
+    if (m_lock.IsHeld())
     {
+        return CErrorCode::Success;
+    }
+    const int nResult = m_lock.Take();
+    if (nResult == CErrorCode::Success)
+    {
+        m_listProblems.removeAll(m_strLockProblem);
         RemoveLeftovers();
     }
     return nResult;
@@ -104,10 +108,9 @@ QString SettingsFile::DescribeNewer()
 /// What clients that were killed in a save have left. Under the lock nobody else is writing.
 void SettingsFile::RemoveLeftovers() const
 {
-    for (const char* pszName : {g_szDocument, g_szLastGood, g_szIniFile})
-    {
-        CAtomicFile::RemoveLeftovers(GetPath(pszName));
-    }
+    CAtomicFile::RemoveLeftovers(GetPath(g_szDocument));
+    CAtomicFile::RemoveLeftovers(GetPath(g_szIniFile));
+    CAtomicFile::RemoveLeftoversOfNames(GetPath(g_szDocument)); // the last good generation, and what was set aside
 }
 
 // --- Loading
@@ -165,7 +168,7 @@ void SettingsFile::LoadMissing()
 void SettingsFile::LoadDamaged(const QString& strError)
 {
     m_bStandsIn = LoadLastGood() != GoodGeneration;
-    const bool bAside = m_lock.IsHeld() && SetAside(m_onDisk);
+    const bool bAside = m_lock.IsHeld() && IsStored(SetAside(m_onDisk));
     const QString strText = m_bStandsIn ? tr("The settings file is damaged (%1); the default settings are used. %2")
                                         : tr("The settings file is damaged (%1); the last good settings are used. %2");
     m_listProblems += strText.arg(strError, bAside ? tr("It was set aside.") : QString()).trimmed();
@@ -207,39 +210,34 @@ QByteArray SettingsFile::ReadLastGood() const
 }
 
 /// Keeps the damaged document under another name, never over another one, and puts the last good generation in its
-/// place. A document that is a link stays one, so that something must be in its place.
-bool SettingsFile::SetAside(const QByteArray& damaged)
+/// place, or what is used instead. So a document is there at any time, and its mode, its owner and a link stay.
+int SettingsFile::SetAside(const QByteArray& damaged)
 {
-    const QString strDocument = GetPath(g_szDocument);
+    const QString strDamaged = GetFreeDamagedName();
+    const int nKept = CAtomicFile::Keep(GetPath(g_szDocument), damaged, strDamaged);
+    if (nKept != CErrorCode::Success)
+    {
+        return nKept;
+    }
     const QByteArray lastGood = ReadLastGood();
-    if (QFileInfo(strDocument).isSymLink())
+    const int nPut = PutInPlace(lastGood.isEmpty() ? m_document.Serialize() : lastGood);
+    if (!IsStored(nPut))
     {
-        return CAtomicFile::Keep(strDocument, damaged, GetFreeDamagedName()) == CErrorCode::Success &&
-               PutInPlace(lastGood.isEmpty() ? m_document.Serialize() : lastGood);
+        QFile::remove(strDamaged);
     }
-    if (!QFile::rename(strDocument, GetFreeDamagedName()))
-    {
-        return false;
-    }
-    m_onDisk.clear();
-    if (!lastGood.isEmpty())
-    {
-        PutInPlace(lastGood); // what it cannot do now the next save does
-    }
-    return true;
+    return nPut;
 }
 
-bool SettingsFile::PutInPlace(const QByteArray& content)
+int SettingsFile::PutInPlace(const QByteArray& content)
 {
     const int nResult = CAtomicFile::Write(GetPath(g_szDocument), content);
-    if (!IsStored(nResult))
+    if (IsStored(nResult))
     {
-        return false;
+        m_onDisk = content;
+        m_bOnDiskGood = true;
+        m_bNotYetSafe = nResult == CErrorCode::NotYetSafe;
     }
-    m_onDisk = content;
-    m_bOnDiskGood = true;
-    m_bNotYetSafe = nResult == CErrorCode::NotYetSafe;
-    return true;
+    return nResult;
 }
 
 // --- Saving
@@ -255,6 +253,7 @@ int SettingsFile::Save(const Settings& settings, const SettingsDocument* pImport
         return CErrorCode::NoPermission;
     }
     m_strHindrance.clear();
+    m_bLoadedWithoutLock = m_bLoadedWithoutLock || !m_lock.IsHeld();
     int nResult = TakeLock();
     if (nResult != CErrorCode::Success)
     {
@@ -301,6 +300,7 @@ int SettingsFile::TakeOverFromDisk(QByteArray& onDisk)
         return CErrorCode::Unreadable;
     }
     const bool bChanged = onDisk != m_onDisk;
+    m_bNotYetSafe = m_bNotYetSafe || bChanged;
     if (bChanged && m_bLoadedWithoutLock)
     {
         return CErrorCode::ChangedElsewhere; // by a client whose values are not known here
@@ -318,9 +318,10 @@ int SettingsFile::TakeOverFromDisk(QByteArray& onDisk)
     }
     if (eResult == SettingsDocument::Damaged)
     {
-        if (!SetAside(onDisk))
+        const int nAside = SetAside(onDisk);
+        if (!IsStored(nAside))
         {
-            return CErrorCode::Damaged;
+            return nAside;
         }
         onDisk = m_onDisk;
         Report(tr("The settings file was damaged meanwhile and was set aside."));
@@ -336,9 +337,10 @@ int SettingsFile::WriteGenerations(const QByteArray& onDisk, const QByteArray& c
     {
         return m_bNotYetSafe ? CAtomicFile::Flush(strDocument) : int(CErrorCode::Success);
     }
+    const QString strLastGood = GetPath(g_szLastGood);
     const int nWritten = onDisk.isEmpty()
-                             ? CAtomicFile::Write(strDocument, content)
-                             : CAtomicFile::WriteAndKeep(strDocument, content, GetPath(g_szLastGood), onDisk);
+                             ? CAtomicFile::Write(strDocument, content, CAtomicFile::FollowLink, strLastGood)
+                             : CAtomicFile::WriteAndKeep(strDocument, content, strLastGood, onDisk);
     if (IsStored(nWritten))
     {
         m_onDisk = content;

@@ -49,8 +49,8 @@ public:
     /// Stores settings.
     /// \param pImported  where not null, a document whose unknown keys are stored, too
     /// \return CErrorCode::Success; NotYetSafe when they are stored, but a power cut may still undo that; else
-    ///         DiskFull, NoPermission, FolderMissing, IoError, NotAFile, Locked, Unreadable, ChangedElsewhere, Damaged,
-    ///         and nothing is stored
+    ///         DiskFull, NoPermission, FolderMissing, IoError, NotAFile, Locked, Unreadable, ChangedElsewhere, and
+    ///         nothing is stored
     int Save(const Settings& settings, const SettingsDocument* pImported);
 
     /// What keeps changes from being saved, as far as it is known; it says more than the code of a save. Empty when
@@ -84,8 +84,8 @@ private:
     void LoadMissing();
     void LoadDamaged(const QString& strError);
     LastGood LoadLastGood();
-    bool SetAside(const QByteArray& damaged);
-    bool PutInPlace(const QByteArray& content);
+    int SetAside(const QByteArray& damaged);
+    int PutInPlace(const QByteArray& content);
     QByteArray ReadLastGood() const;
     QString GetFreeDamagedName() const;
     int TakeOverFromDisk(QByteArray& onDisk);
@@ -98,10 +98,11 @@ private:
     State m_eState = Usable;
     bool m_bStandsIn = false;
     bool m_bLoadedWithoutLock = false; // so that somebody else may have written since
-    bool m_bNotYetSafe = false;        // what is on the disk may be lost with the power
+    bool m_bNotYetSafe = true;         // what is there may be lost with the power, as far as this process knows
     SettingsDocument m_document;
     QByteArray m_onDisk; // the document as it was last read or written
     bool m_bOnDiskGood = false;
+    QString m_strLockProblem; // why there was no lock at first; a problem until there is one
     QStringList m_listProblems;
     QString m_strHindrance;
     ProblemHandler m_problemHandler;

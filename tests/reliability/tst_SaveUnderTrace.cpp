@@ -78,19 +78,67 @@ class tst_SaveUnderTrace : public CStoreTest
     Q_OBJECT
 
 private slots:
+    void initTestCase()
+    {
+        const QByteArray memory = "/dev/shm"; // where waiting for the disk takes no time
+        if (QFileInfo(memory).isWritable())
+        {
+            qputenv("TMPDIR", memory);
+        }
+    }
     void init() { Reset(); }
 
+    void AKillAtAnyCallLeavesTheOldOrTheNewDocument_data() { AddDocuments(); }
     void AKillAtAnyCallLeavesTheOldOrTheNewDocument();
     void AKillAtAnyMomentLeavesTheOldOrTheNewDocument();
+    void AFaultOfAnyCallLosesNothing_data() { AddDocuments(); }
     void AFaultOfAnyCallLosesNothing();
 
 private:
-    /// The folder as it is before the work: a document and the one before it.
-    void Prepare()
+    static void AddDocuments()
+    {
+        QTest::addColumn<bool>("bDamaged");
+        QTest::addColumn<bool>("bLink");
+        QTest::newRow("a document") << false << false;
+        QTest::newRow("a link") << false << true;
+        QTest::newRow("a damaged document") << true << false;
+        QTest::newRow("a damaged document behind a link") << true << true;
+    }
+
+    /// The folder as it is before the work: a document that is nobody else's to read, and the one before it.
+    void Prepare(bool bDamaged = false, bool bLink = false)
     {
         Reset();
-        Put(Document(g_nOld));
-        Put(Document(0), "settings.json.bak");
+        m_bDamaged = bDamaged;
+        m_bLink = bLink;
+        QVERIFY(QDir().mkpath(Path("elsewhere")));
+        Put(bDamaged ? QByteArray("damaged") : Document(g_nOld), bLink ? "elsewhere/real.json" : "settings.json");
+        QVERIFY(!bLink || QFile::link("elsewhere/real.json", Path("settings.json")));
+        QVERIFY(QFile::setPermissions(Path("settings.json"), QFile::ReadOwner | QFile::WriteOwner));
+        Put(Document(bDamaged ? g_nOld : 0), "settings.json.bak");
+    }
+
+    /// What holds at any moment: the document is what it was or was to be, no other file stands in its place, and the
+    /// last good generation is one.
+    void CheckFiles(int nOldest)
+    {
+        const QByteArray document = GetFile();
+        bool bKnown = m_bDamaged && nOldest <= g_nOld && document == "damaged";
+        bool bLastGood = false;
+        for (int nSize = 0; nSize <= g_nSecond; ++nSize)
+        {
+            bKnown = bKnown || (nSize >= nOldest && document == Document(nSize));
+            bLastGood = bLastGood || GetFile("settings.json.bak") == Document(nSize);
+        }
+        QVERIFY2(bKnown, "the document is none that was saved, or an older one");
+        QVERIFY2(bLastGood, "the last good generation is none");
+        QCOMPARE(QFileInfo(Path("settings.json")).isSymLink(), m_bLink);
+        QCOMPARE(QFile::permissions(Path("settings.json")) & (QFile::ReadGroup | QFile::ReadOther), 0);
+    }
+
+    QStringList Leftovers() const
+    {
+        return (Names() + QDir(Path("elsewhere")).entryList(QDir::Files | QDir::Hidden)).filter(".tmp-");
     }
 
     /// A client that starts and saves twice.
@@ -118,32 +166,32 @@ private:
     /// After a kill: nothing older than what was acknowledged, nothing half, and the next client is served as ever.
     void CheckAfterKill(int nAcknowledged)
     {
+        CheckFiles(qMax(nAcknowledged, g_nOld));
         const QByteArray document = GetFile();
-        const int nOldest = qMax(nAcknowledged, g_nOld);
-        bool bKnown = false;
-        for (int nSize = nOldest; nSize <= g_nSecond; ++nSize)
-        {
-            bKnown = bKnown || document == Document(nSize);
-        }
-        QVERIFY2(bKnown, "the document is none that was saved, or an older one");
+        const bool bDamaged = document == "damaged";
         ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
-        QCOMPARE(service.GetFile().GetProblems(), QStringList());
-        QVERIFY(Names().filter(".tmp-").isEmpty());
+        QCOMPARE(service.GetFile().GetProblems().size(), bDamaged ? 1 : 0);
+        QCOMPARE(Leftovers(), QStringList());
+        QCOMPARE(SetAside().isEmpty(), !m_bDamaged);
         SetClientSize(service, 0);
         QCOMPARE(service.SaveAll(), 1);
         QCOMPARE(GetFile(), Document(0));
-        QCOMPARE(GetFile("settings.json.bak"), document);
+        QCOMPARE(GetFile("settings.json.bak"), bDamaged ? Document(g_nOld) : document);
     }
 
+    bool m_bDamaged = false;
+    bool m_bLink = false;
     CTracedChild m_child;
 };
 
 void tst_SaveUnderTrace::AKillAtAnyCallLeavesTheOldOrTheNewDocument()
 {
+    QFETCH(bool, bDamaged);
+    QFETCH(bool, bLink);
     int nKills = 0;
     for (bool bEnded = false; !bEnded;)
     {
-        Prepare();
+        Prepare(bDamaged, bLink);
         const QString strFolder = m_pFolder->path();
         bEnded =
             m_child.Run([&](CTracedChild::Shared& shared) { SaveTwice(strFolder, shared); },
@@ -187,6 +235,8 @@ void tst_SaveUnderTrace::AKillAtAnyMomentLeavesTheOldOrTheNewDocument()
 
 void tst_SaveUnderTrace::AFaultOfAnyCallLosesNothing()
 {
+    QFETCH(bool, bDamaged);
+    QFETCH(bool, bLink);
     int nFaults = 0;
     bool bReached = true;
     for (int nFaulty = 0; bReached; ++nFaulty)
@@ -196,7 +246,7 @@ void tst_SaveUnderTrace::AFaultOfAnyCallLosesNothing()
         int nErrors = 1;
         for (int nError = 0; nError < nErrors; ++nError)
         {
-            Prepare();
+            Prepare(bDamaged, bLink);
             const QString strFolder = m_pFolder->path();
             const SFallible* pFallible = nullptr;
             int nFallible = 0;
@@ -225,14 +275,20 @@ void tst_SaveUnderTrace::AFaultOfAnyCallLosesNothing()
                                     ": " + qt_error_string(pFallible->listErrors[nError]).toUtf8() + ", result " +
                                     QByteArray::number(nResult);
             QVERIFY2(nResult != CErrorCode::Unknown, what.constData());
-            const bool bUnflushed = pFallible->nCall == SYS_fsync && pFallible->listErrors[nError] != EINVAL;
+            // What a start could not flush when it set a document aside the save has written anew.
+            const bool bUnflushed =
+                !bDamaged && pFallible->nCall == SYS_fsync && pFallible->listErrors[nError] != EINVAL;
             QVERIFY2(!bUnflushed || nResult != CErrorCode::Success, what.constData());
-            QVERIFY2(GetFile() == Document(bStored ? g_nFirst : g_nOld), what.constData());
+            QVERIFY2(bStored == (GetFile() == Document(g_nFirst)), what.constData());
+            CheckFiles(g_nOld);
+            const bool bStillDamaged = GetFile() == "damaged";
             ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
-            QVERIFY2(service.GetFile().GetProblems().isEmpty(), what.constData());
+            QVERIFY2(service.GetFile().GetProblems().size() == (bStillDamaged ? 1 : 0), what.constData());
+            QVERIFY2(Leftovers().isEmpty(), what.constData());
             SetClientSize(service, g_nSecond);
             QVERIFY2(service.SaveAll() == CErrorCode::Success, what.constData());
             QVERIFY2(GetFile() == Document(g_nSecond), what.constData());
+            QVERIFY2(!QTest::currentTestFailed(), what.constData());
         }
     }
     qInfo("%d faults", nFaults);

@@ -22,6 +22,7 @@ private slots:
     void SavedHandlerHearsOnlySuccess();
     void ALockThatCameLateDoesNotOverwrite();
     void AFolderThatIsNotFlushedIsToldAndFlushedNextTime();
+    void WhatAnEarlierClientHasNotFlushedIsFlushed();
     void ASaveFlushesWhatItNeedsAndNoMore();
 };
 
@@ -134,6 +135,21 @@ void tst_StoreFaults::AFolderThatIsNotFlushedIsToldAndFlushedNextTime()
     QCOMPARE(service.SaveAll(), int(CErrorCode::NotYetSafe));
     qunsetenv("KV_FAULT");
     QCOMPARE(service.SaveAll(), 1);
+}
+
+void tst_StoreFaults::WhatAnEarlierClientHasNotFlushedIsFlushed()
+{
+    // Nothing changes in this save, but what it says is safe must be so.
+    Put(Document(1));
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    for (const QByteArray& name : {QByteArray("$"), QByteArray("/settings.json$")})
+    {
+        qputenv("KV_FAULT", "fsync:EIO:" + m_pFolder->path().toLocal8Bit() + name);
+        QCOMPARE(service.SaveAll(), int(CErrorCode::NotYetSafe));
+    }
+    qunsetenv("KV_FAULT");
+    QCOMPARE(service.SaveAll(), 1);
+    QCOMPARE(GetFile(), Document(1));
 }
 
 void tst_StoreFaults::ASaveFlushesWhatItNeedsAndNoMore()

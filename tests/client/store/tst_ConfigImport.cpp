@@ -17,6 +17,7 @@ private slots:
     void ImportKeepsUnknownKeys();
     void ImportOfADamagedDocumentChangesNothing();
     void AFailedImportChangesNothing();
+    void AFailedImportSaysWhatKeptItAndNothingElse();
 };
 
 void tst_ConfigImport::ImportKeepsUnknownKeys()
@@ -65,6 +66,25 @@ void tst_ConfigImport::AFailedImportChangesNothing()
     QCOMPARE(second.Import(Document(3), nullptr), int(CErrorCode::Locked));
     QCOMPARE(GetBasic(second).clientSize, 1);
     QCOMPARE(GetFile(), Document(1));
+}
+
+void tst_ConfigImport::AFailedImportSaysWhatKeptItAndNothingElse()
+{
+    // There is another problem, which would not have kept it.
+    Put(Document(1), "settings.json.bak");
+    {
+        const ConfigService first(m_pFolder->path(), SettingsFile::ReadWrite);
+        ConfigService second(m_pFolder->path(), SettingsFile::ReadWrite);
+        QVERIFY(second.GetFile().GetProblems().last().contains("is missing"));
+        QCOMPARE(second.Import(Document(0), nullptr), int(CErrorCode::Locked));
+        QVERIFY(second.GetFile().GetHindrance().contains("nother client"));
+    }
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QVERIFY(QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
+    const int nResult = service.Import(Document(0), nullptr);
+    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QCOMPARE(nResult, int(CErrorCode::NoPermission));
+    QCOMPARE(service.GetFile().GetHindrance(), QString()); // the code says all
 }
 
 QTEST_GUILESS_MAIN(tst_ConfigImport)

@@ -19,6 +19,8 @@ private slots:
     void ASecondClientCannotSave();
     void ASecondClientSavesOnceTheFirstHasGone();
     void ASecondClientDoesNotOverwriteTheFirst();
+    void ARemovedLockFileLetsNobodyOverwriteTheFirst();
+    void AClientWhoseLockWasLostDoesNotOverwrite();
     void LookingOnlyTakesNoLock();
 };
 
@@ -43,10 +45,12 @@ void tst_ConfigLock::ASecondClientSavesOnceTheFirstHasGone()
 {
     std::optional<ConfigService> first(std::in_place, m_pFolder->path(), SettingsFile::ReadWrite);
     ConfigService second(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(second.GetFile().GetProblems().size(), 1);
     first.reset();
     SetClientSize(second, 0);
     QCOMPARE(second.SaveAll(), 1);
     QCOMPARE(SavedClientSize(), 0);
+    QCOMPARE(second.GetFile().GetProblems(), QStringList());
 }
 
 void tst_ConfigLock::ASecondClientDoesNotOverwriteTheFirst()
@@ -59,6 +63,39 @@ void tst_ConfigLock::ASecondClientDoesNotOverwriteTheFirst()
     SetClientSize(second, 0);
     QCOMPARE(second.SaveAll(), int(CErrorCode::ChangedElsewhere));
     QCOMPARE(SavedClientSize(), 1);
+}
+
+void tst_ConfigLock::ARemovedLockFileLetsNobodyOverwriteTheFirst()
+{
+    ConfigService first(m_pFolder->path(), SettingsFile::ReadWrite);
+    QVERIFY(QFile::remove(Path("settings.lock")));
+    ConfigService second(m_pFolder->path(), SettingsFile::ReadWrite);
+    SetClientSize(second, 0);
+    QCOMPARE(second.SaveAll(), int(CErrorCode::Locked));
+    SetClientSize(first, 1);
+    QCOMPARE(first.SaveAll(), 1);
+    QCOMPARE(SavedClientSize(), 1);
+    QVERIFY(QFile::exists(Path("settings.lock")));
+}
+
+void tst_ConfigLock::AClientWhoseLockWasLostDoesNotOverwrite()
+{
+    // The whole folder was put back from a copy, and somebody has worked in that.
+    QVERIFY(QDir().mkpath(Path("data")));
+    ConfigService service(Path("data"), SettingsFile::ReadWrite);
+    SetClientSize(service, 0);
+    QCOMPARE(service.SaveAll(), 1);
+    QVERIFY(QDir().rename(Path("data"), Path("old")));
+    QVERIFY(QDir().mkpath(Path("data")));
+    {
+        ConfigService other(Path("data"), SettingsFile::ReadWrite);
+        SetClientSize(other, 1);
+        QCOMPARE(other.SaveAll(), 1);
+        SetClientSize(service, 3);
+        QCOMPARE(service.SaveAll(), int(CErrorCode::Locked));
+    }
+    QCOMPARE(service.SaveAll(), int(CErrorCode::ChangedElsewhere));
+    QCOMPARE(GetFile("data/settings.json"), Document(1));
 }
 
 void tst_ConfigLock::LookingOnlyTakesNoLock()

@@ -15,17 +15,23 @@ private slots:
     void init() { Reset(); }
 
     void ADocumentBehindALinkToNothingIsNotMissing();
+    void ADocumentInAFolderBehindALinkToNothingIsNotMissing();
     void ADocumentThatIsMissingWithAnUnusableLastGenerationIsTold();
     void DefaultsThatStandInAreKnown_data();
     void DefaultsThatStandInAreKnown();
     void ASavedDocumentNoLongerStandsIn();
     void ADocumentThatIsALinkStaysOne_data();
     void ADocumentThatIsALinkStaysOne();
+    void ALinkIsReadFromTheFolderThatItLiesIn_data();
+    void ALinkIsReadFromTheFolderThatItLiesIn();
     void ADamagedDocumentBehindALinkIsKept();
+    void ADamagedDocumentThatCannotBeReplacedStays();
     void GenerationsKeepTheMode();
+    void ANewDocumentHasTheModeOfTheLastGeneration();
     void ALinkInPlaceOfTheLastGenerationIsNotWrittenThrough();
     void AFolderInPlaceOfTheLastGenerationRefusesTheSave();
     void LeftoversOfKilledSavesGoAtTheNextStart();
+    void LeftoversBehindAPlantedLinkStay();
     void LeftoversStayWhileAnotherClientMayBeWriting();
     void OwnFilesAreKnownBehindLinks_data();
     void OwnFilesAreKnownBehindLinks();
@@ -47,6 +53,15 @@ void tst_SettingsFile::ADocumentBehindALinkToNothingIsNotMissing()
     QCOMPARE(service.SaveAll(), int(CErrorCode::Unreadable));
     QVERIFY(QFileInfo(Path("settings.json")).isSymLink());
     QVERIFY(!QFileInfo::exists(Path("settings.json")));
+}
+
+void tst_SettingsFile::ADocumentInAFolderBehindALinkToNothingIsNotMissing()
+{
+    QVERIFY(QFile::link(Path("unmounted"), Path("share")));
+    const ConfigService service(Path("share"), SettingsFile::ReadOnly);
+    QCOMPARE(service.GetFile().GetProblems().size(), 1);
+    QVERIFY(service.GetFile().StandsIn());
+    QVERIFY(!ConfigService(Path("missing/folder"), SettingsFile::ReadOnly).GetFile().StandsIn());
 }
 
 void tst_SettingsFile::ADocumentThatIsMissingWithAnUnusableLastGenerationIsTold()
@@ -120,6 +135,50 @@ void tst_SettingsFile::ADocumentThatIsALinkStaysOne()
     QCOMPARE(QDir(Path("elsewhere")).entryList(QDir::Files), QStringList{"real.json"});
 }
 
+void tst_SettingsFile::ALinkIsReadFromTheFolderThatItLiesIn_data()
+{
+    QTest::addColumn<QString>("strFolder");
+    QTest::addColumn<QString>("strLink");
+    QTest::newRow("the data folder is a link") << "data"
+                                               << "../real.json";
+    QTest::newRow("a link through a link") << "far/deep"
+                                           << "elsewhere/../real.json";
+}
+
+void tst_SettingsFile::ALinkIsReadFromTheFolderThatItLiesIn()
+{
+    QFETCH(QString, strFolder);
+    QFETCH(QString, strLink);
+    QVERIFY(QDir().mkpath(Path("far/deep")));
+    QVERIFY(QDir().mkpath(Path("far/other")));
+    QVERIFY(QFile::link(Path("far/deep"), Path("data")));
+    QVERIFY(QFile::link(Path("far/other"), Path("far/deep/elsewhere")));
+    QVERIFY(QFile::link(strLink, Path("far/deep/settings.json")));
+    Put(Document(1), "far/real.json");
+    for (const char* pszWrong : {"real.json", "far/deep/real.json"})
+    {
+        Put("precious", pszWrong);
+    }
+    ConfigService service(Path(strFolder), SettingsFile::ReadWrite);
+    SetClientSize(service, 0);
+    QCOMPARE(service.SaveAll(), 1);
+    QCOMPARE(GetFile("far/real.json"), Document(0));
+    QCOMPARE(GetFile("far/deep/settings.json.bak"), Document(1));
+    QCOMPARE(GetFile("real.json"), QByteArray("precious"));
+    QCOMPARE(GetFile("far/deep/real.json"), QByteArray("precious"));
+}
+
+void tst_SettingsFile::ADamagedDocumentThatCannotBeReplacedStays()
+{
+    Put("damaged");
+    QVERIFY(QFile::setPermissions(Path("settings.json"), QFile::ReadOwner));
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    SetClientSize(service, 0);
+    QCOMPARE(service.SaveAll(), int(CErrorCode::NoPermission));
+    QCOMPARE(GetFile(), QByteArray("damaged"));
+    QCOMPARE(Names(), (QStringList{"settings.json", "settings.lock"}));
+}
+
 void tst_SettingsFile::ADamagedDocumentBehindALinkIsKept()
 {
     Put("damaged", "real.json");
@@ -149,7 +208,17 @@ void tst_SettingsFile::GenerationsKeepTheMode()
         Put("damaged");
         const ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
         QCOMPARE(Mode(SetAside().first()), before);
+        QCOMPARE(Mode("settings.json"), before);
     }
+}
+
+void tst_SettingsFile::ANewDocumentHasTheModeOfTheLastGeneration()
+{
+    Put(Document(1), "settings.json.bak");
+    QVERIFY(QFile::setPermissions(Path("settings.json.bak"), QFile::ReadOwner | QFile::WriteOwner));
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(service.SaveAll(), 1);
+    QCOMPARE(Mode("settings.json"), Mode("settings.json.bak"));
 }
 
 void tst_SettingsFile::ALinkInPlaceOfTheLastGenerationIsNotWrittenThrough()
@@ -177,14 +246,28 @@ void tst_SettingsFile::AFolderInPlaceOfTheLastGenerationRefusesTheSave()
 void tst_SettingsFile::LeftoversOfKilledSavesGoAtTheNextStart()
 {
     Put(Document(1));
-    for (const char* pszName :
-         {"settings.json.tmp-01234567", "settings.json.bak.tmp-89abcdef", "Localcfg.ini.tmp-00000000"})
+    for (const char* pszName : {"settings.json.tmp-01234567", "settings.json.bak.tmp-89abcdef",
+                                "settings.json.damaged-20200101-000000-2.tmp-01234567", "Localcfg.ini.tmp-00000000"})
     {
         Put("half a", pszName);
     }
     Put("mine", "settings.json.tmp-notes.txt");
+    Put("mine", "settings.json.tmp-my-notes");
     const ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
-    QCOMPARE(Names(), (QStringList{"settings.json", "settings.json.tmp-notes.txt", "settings.lock"}));
+    QCOMPARE(Names(), (QStringList{"settings.json", "settings.json.tmp-my-notes", "settings.json.tmp-notes.txt",
+                                   "settings.lock"}));
+}
+
+void tst_SettingsFile::LeftoversBehindAPlantedLinkStay()
+{
+    Put(Document(1));
+    QVERIFY(QDir().mkpath(Path("elsewhere")));
+    Put("precious", "elsewhere/victim.tmp-01234567");
+    QVERIFY(QFile::link(Path("elsewhere/victim"), Path("settings.json.bak")));
+    Put("half a", "settings.json.bak.tmp-01234567");
+    const ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    QCOMPARE(GetFile("elsewhere/victim.tmp-01234567"), QByteArray("precious"));
+    QVERIFY(Names().filter(".tmp-").isEmpty());
 }
 
 void tst_SettingsFile::LeftoversStayWhileAnotherClientMayBeWriting()
