@@ -33,4 +33,5 @@ export -f run
 export length
 
 [ $# -gt 0 ] || set -- SettingsDocument AlarmLink IniFile AlarmCatalogue WaveFile
+# shellcheck disable=SC2016 # the inner shell expands it
 printf '%s\0' "$@" | xargs -0 -n 1 -P "$(nproc)" bash -c 'run "$1"' fuzz

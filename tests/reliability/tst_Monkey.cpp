@@ -176,11 +176,14 @@ void tst_Monkey::NothingItDoesBreaksTheDialog()
     qInstallMessageHandler(pHandler);
     if (!strFault.isEmpty())
     {
-        qInfo().noquote() << "The last steps:\n" + m_listTrail.join('\n');
+        Tell("The last steps:\n" + m_listTrail.join('\n'));
         QFAIL(qPrintable(strFault));
     }
-    qInfo("%d steps, %d menus and dialogs answered, %d popups opened, %d times stored", nSteps, m_nLoops, m_nPopups,
-          m_nStored);
+    Tell(QString("%1 steps, %2 menus and dialogs answered, %3 popups opened, %4 times stored")
+             .arg(nSteps)
+             .arg(m_nLoops)
+             .arg(m_nPopups)
+             .arg(m_nStored));
     QVERIFY(m_nLoops > 0);
     QVERIFY(m_nPopups > 0);
     QVERIFY(m_nStored > 0);

@@ -153,7 +153,10 @@ void tst_PagesRandom::Rounds(const QStringList& listEdited, const QStringList& l
         }
         fixture.journal.Take();
     }
-    qInfo("%d records, %d saved, the others refused", nRounds, m_nSaved);
+    Tell(QString("%1: %2 records, %3 saved, the others refused")
+             .arg(QTest::currentTestFunction())
+             .arg(nRounds)
+             .arg(m_nSaved));
     QVERIFY(m_nSaved > 0);
 }
 

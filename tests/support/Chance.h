@@ -15,6 +15,12 @@ inline int Repetitions(int nShort, int nLong)
     return IsLongForm() ? nLong : nShort;
 }
 
+/// Says something on the standard output, where QtTest's own messages come to an end after the first two thousand.
+inline void Tell(const QString& strText)
+{
+    QTextStream(stdout) << strText << Qt::endl;
+}
+
 /// A source of chance. Its seed is printed, and KV_SEED gives it again.
 class CChance
 {
@@ -41,7 +47,7 @@ private:
     explicit CChance(quint32 nSeed)
         : m_generator(nSeed)
     {
-        qInfo("KV_SEED=%u", nSeed);
+        Tell(QStringLiteral("KV_SEED=%1").arg(nSeed));
     }
 
     QRandomGenerator m_generator;
