@@ -9,7 +9,7 @@ elseif(MSVC)
     target_compile_options(LocalConfigWarnings INTERFACE /W4 /WX /utf-8)
 endif()
 target_compile_definitions(LocalConfigWarnings INTERFACE
-    QT_NO_CAST_FROM_BYTEARRAY QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+    QT_NO_CAST_FROM_BYTEARRAY QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050F00 $<$<BOOL:${WIN32}>:NOMINMAX>)
 
 if(LOCALCONFIG_SANITIZE)
     add_compile_options(-fsanitize=${LOCALCONFIG_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)

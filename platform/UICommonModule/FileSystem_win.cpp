@@ -17,6 +17,7 @@ namespace
 
 constexpr DWORD g_nQuotaExceeded = 1295; // ERROR_DISK_QUOTA_EXCEEDED, which some SDKs do not declare
 constexpr int g_nMaxLinks = 40;
+constexpr DWORD g_nShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 std::wstring Native(const QString& strPath)
 {
@@ -45,6 +46,12 @@ HANDLE OpenExisting(const QString& strFile)
                          OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
+bool IsFolder(const std::wstring& path)
+{
+    const DWORD nAttributes = ::GetFileAttributesW(path.c_str());
+    return nAttributes != INVALID_FILE_ATTRIBUTES && (nAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 /// Why a file could not be opened to be read.
 int GetReadError(const std::wstring& path)
 {
@@ -55,8 +62,7 @@ int GetReadError(const std::wstring& path)
         return ::GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES ? CErrorCode::FileMissing
                                                                              : CErrorCode::Unreadable;
     }
-    const DWORD nAttributes = ::GetFileAttributesW(path.c_str());
-    if (nAttributes != INVALID_FILE_ATTRIBUTES && (nAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+    if (IsFolder(path))
     {
         return CErrorCode::Unreadable;
     }
@@ -98,8 +104,7 @@ int OpenToRead(const QString& strFile, QFile& file)
 {
     const std::wstring path = Native(strFile);
     const HANDLE hFile =
-        ::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+        ::CreateFileW(path.c_str(), GENERIC_READ, g_nShareAll, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (hFile == INVALID_HANDLE_VALUE)
     {
         return GetReadError(path);
@@ -115,7 +120,7 @@ int OpenToRead(const QString& strFile, QFile& file)
 int OpenNew(const QString& strFile, QFile& file)
 {
     const HANDLE hFile = ::CreateFileW(Native(strFile).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
-                                       FILE_ATTRIBUTE_NORMAL, nullptr);
+                                       FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
     if (hFile == INVALID_HANDLE_VALUE)
     {
         return GetSystemError();
@@ -144,8 +149,13 @@ int OpenStream(const QString& strFile, QFile& file)
 
 int OpenLocked(const QString& strFile, QFile& file, QFile& /*folder*/)
 {
+    const std::wstring path = Native(strFile);
+    if (IsFolder(path))
+    {
+        return CErrorCode::NotAFile;
+    }
     // Others may look who holds it; opening it to write, as everybody does who wants the lock, is what they may not.
-    const HANDLE hFile = ::CreateFileW(Native(strFile).c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+    const HANDLE hFile = ::CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                                        OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (hFile == INVALID_HANDLE_VALUE)
     {
@@ -194,6 +204,10 @@ int MoveOver(const QString& strFrom, const QString& strTo)
 {
     const std::wstring from = Native(strFrom);
     const std::wstring to = Native(strTo);
+    if (IsFolder(to))
+    {
+        return CErrorCode::NotAFile;
+    }
     const DWORD nFlags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
     const bool bMoved =
         ::ReplaceFileW(to.c_str(), from.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) != 0 ||
@@ -209,7 +223,23 @@ int Link(const QString& strFile, const QString& strName)
 
 bool FlushFile(int nHandle)
 {
-    return ::_commit(nHandle) == 0;
+    const auto hFile = reinterpret_cast<HANDLE>(::_get_osfhandle(nHandle));
+    if (::FlushFileBuffers(hFile) != 0)
+    {
+        return true;
+    }
+    // One that was opened to be read flushes nothing.
+    const HANDLE hWritten = ::GetLastError() == ERROR_ACCESS_DENIED ? ::ReOpenFile(hFile, GENERIC_WRITE, g_nShareAll, 0)
+                                                                    : INVALID_HANDLE_VALUE;
+    if (hWritten == INVALID_HANDLE_VALUE)
+    {
+        return false;
+    }
+    const bool bFlushed = ::FlushFileBuffers(hWritten) != 0;
+    const DWORD nError = ::GetLastError();
+    ::CloseHandle(hWritten);
+    ::SetLastError(nError);
+    return bFlushed;
 }
 
 bool FlushFolder(const QString& /*strFolder*/)

@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <QSpinBox>
 #include <QTcpServer>
+#include <QTcpSocket>
 #include <QToolTip>
 
 #include <memory>
