@@ -237,6 +237,11 @@ int CAtomicFile::Remove(const QString& strFile)
     {
         return CErrorCode::Success;
     }
+    const QFileInfo info(strFile);
+    if (info.isDir() && !info.isSymLink())
+    {
+        return CErrorCode::NotAFile;
+    }
     ClearSystemError();
     return QFile::remove(strFile) ? int(CErrorCode::Success) : GetSystemError();
 }

@@ -4,14 +4,33 @@
 #include "FileSystem.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace UICommonMdl
 {
 
 int CGrowingFile::MakeFolder(const QString& strFolder)
 {
+    const QFileInfo folder(QDir(strFolder).absolutePath());
+    if (folder.isDir())
+    {
+        return CErrorCode::Success;
+    }
+    // One after the other, so that the system's error is the one of the folder that cannot be made.
+    const QString strParent = folder.path();
+    const int nParent =
+        folder.isRoot() || QFileInfo::exists(strParent) ? int(CErrorCode::Success) : MakeFolder(strParent);
+    if (nParent != CErrorCode::Success)
+    {
+        return nParent;
+    }
     ClearSystemError();
-    return QDir().mkpath(strFolder) ? int(CErrorCode::Success) : GetSystemError();
+    if (QDir().mkdir(folder.filePath()))
+    {
+        return CErrorCode::Success;
+    }
+    const int nError = GetSystemError();
+    return QFileInfo(folder.filePath()).isDir() ? int(CErrorCode::Success) : nError; // somebody else has made it
 }
 
 int CGrowingFile::Create(const QString& strFile)
