@@ -1,6 +1,7 @@
 #include "Client.h"
 
 #include "MainWindow.h"
+#include "Output.h"
 #include "SystemSignals.h"
 #include <client/alarm/AlarmSounds.h>
 #include <client/session/AutoStart.h>
@@ -56,12 +57,6 @@ int Fail(const QString& strText, int nCode)
 {
     Client::Complain(CErrorCode::GetErroCodeInfor(strText, nCode, true, false));
     return g_nExitFailed;
-}
-
-bool Print(const QByteArray& content)
-{
-    const std::size_t nSize = std::size_t(content.size());
-    return std::fwrite(content.constData(), 1, nSize, stdout) == nSize && std::fflush(stdout) == 0;
 }
 
 void ComplainAbout(const ConfigService& service)
