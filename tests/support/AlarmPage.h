@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PageFixture.h"
+#include "WorkFolder.h"
 
 #include <LocalConfig/pages/CAlarmConfig.h>
 #include <LocalConfig/widgets/QCheckableComboBox.h>
@@ -27,8 +28,7 @@ protected:
     void Reset()
     {
         qputenv("PULSE_SERVER", "unix:/nonexistent"); // and none that is started for the purpose
-        m_pFolder.reset(new QTemporaryDir);
-        QVERIFY(QDir::setCurrent(m_pFolder->path()));
+        m_pFolder.reset(new CWorkFolder);
         UICommonMdl::CGlobalInfo::SetClientStrLanguage("en");
         m_pFixture.reset(new SFixture);
         m_pFixture->journal.Take();
@@ -102,6 +102,6 @@ protected:
     struct SFixture : SPageFixture<LocalConfig::CAlarmConfig, LocalConfigLogical::IAlarmSection,
                                    LocalConfigLogical::AlarmConfigInfo, CFakeAlarmSection>
     {};
-    QScopedPointer<QTemporaryDir> m_pFolder;
+    QScopedPointer<CWorkFolder> m_pFolder;
     QScopedPointer<SFixture> m_pFixture;
 };

@@ -2,6 +2,7 @@
 
 #include "Documents.h"
 #include "Notifications.h"
+#include "WorkFolder.h"
 
 #include <client/MainWindow.h>
 #include <client/session/UserManager.h>
@@ -49,14 +50,11 @@ inline void Click(QDialog& dialog, const char* pszName)
 class CClientTest : public QObject
 {
 protected:
-    void Reset()
-    {
-        m_pFolder.reset(new QTemporaryDir);
-        QVERIFY(QDir::setCurrent(m_pFolder->path()));
-    }
+    void Reset() { m_pFolder.reset(new CWorkFolder); }
+    /// Pictures and recordings, without what is being written under another name.
     QStringList Files(const QString& strFolder) const
     {
-        return QDir(m_pFolder->filePath(strFolder)).entryList(QDir::Files, QDir::Name);
+        return QDir(m_pFolder->filePath(strFolder)).entryList({"*.jpg", "*.bmp", "*.mjpeg"}, QDir::Files, QDir::Name);
     }
     /// The settings that the next client finds.
     static void Store(const LocalConfigClient::Settings& settings)
@@ -66,7 +64,7 @@ protected:
         file.write(Document(settings));
     }
 
-    QScopedPointer<QTemporaryDir> m_pFolder;
+    QScopedPointer<CWorkFolder> m_pFolder;
 };
 
 /// A client with a window "window" that is shown.

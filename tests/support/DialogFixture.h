@@ -11,8 +11,10 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDesktopWidget>
+#include <QEventLoop>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTimer>
 #include <QtTest>
 
 struct SBox
@@ -85,7 +87,13 @@ struct SDialog
     }
 
     /// Past the delayed computation of the content's height.
-    static void WaitForLayout() { QTest::qWait(80); }
+    static void WaitForLayout()
+    {
+        // A timer that was started later and runs longer comes later, however busy the machine is.
+        QEventLoop loop;
+        QTimer::singleShot(80, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
 
     LocalConfig::CGroupBox* Box(int nIndex)
     {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FakeSections.h"
+#include "WorkFolder.h"
 
 #include <QApplication>
 #include <QDir>
@@ -19,7 +20,6 @@ protected:
     /// A new page, of the size that it has in the dialog.
     void Reset(const QSize& size)
     {
-        QVERIFY(QDir::setCurrent(m_folder.path()));
         QFile::remove("Localcfg.ini");
         m_pPage.reset();
         m_parent.resize(size);
@@ -52,7 +52,7 @@ protected:
         return m_pPage->template findChild<Control*>(QString::fromLatin1(pszName));
     }
 
-    QTemporaryDir m_folder;
+    CWorkFolder m_folder;
     CJournal m_journal;
     QScopedPointer<Section> m_pSection;
     QWidget m_parent;

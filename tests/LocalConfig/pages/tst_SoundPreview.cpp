@@ -2,6 +2,7 @@
 
 #include "support/PageFixture.h"
 #include "support/SoundServer.h"
+#include "support/WorkFolder.h"
 
 #include <LocalConfig/pages/CAlarmConfig.h>
 
@@ -61,14 +62,13 @@ private:
     struct SFixture : SPageFixture<CAlarmConfig, LocalConfigLogical::IAlarmSection, AlarmConfigInfo, CFakeAlarmSection>
     {};
     CSoundServer m_server;
-    QScopedPointer<QTemporaryDir> m_pFolder;
+    QScopedPointer<CWorkFolder> m_pFolder;
     QScopedPointer<SFixture> m_pFixture;
 };
 
 void tst_SoundPreview::init()
 {
-    m_pFolder.reset(new QTemporaryDir);
-    QVERIFY(QDir::setCurrent(m_pFolder->path()));
+    m_pFolder.reset(new CWorkFolder);
     m_pFixture.reset(new SFixture);
 }
 

@@ -1,3 +1,5 @@
+#include "support/WorkFolder.h"
+
 #include <client/alarm/AlarmSounds.h>
 #include <client/store/AlarmRecord.h>
 
@@ -14,16 +16,12 @@ class tst_AlarmSounds : public QObject
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_pFolder.reset(new QTemporaryDir);
-        QVERIFY(QDir::setCurrent(m_pFolder->path()));
-    }
+    void init() { m_pFolder.reset(new CWorkFolder); }
     void SoundsAreProvided();
     void AChangedSoundStays();
     void ACutSoundIsReplaced_data();
     void ACutSoundIsReplaced();
-#ifndef Q_OS_WIN // where no disk can be told to fail
+#ifndef Q_OS_WIN // a disk is made to fail by a preloaded library
     void ASoundIsOnTheDiskOrNotThere();
 #endif
     void AFolderThatCannotBeWrittenIsReported();
@@ -41,7 +39,7 @@ private:
         file.write(content);
     }
 
-    QScopedPointer<QTemporaryDir> m_pFolder;
+    QScopedPointer<CWorkFolder> m_pFolder;
 };
 
 void tst_AlarmSounds::SoundsAreProvided()

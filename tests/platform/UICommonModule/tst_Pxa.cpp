@@ -1,3 +1,5 @@
+#include "support/WorkFolder.h"
+
 #include <UICommonModule/CErrorCode.h>
 #include <UICommonModule/CGlobalInfo.h>
 #include <UICommonModule/Pxa.h>
@@ -21,8 +23,6 @@ class tst_Pxa : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-
     void SkinComesFromTheIniFileOnce_data();
     void SkinComesFromTheIniFileOnce();
     void LanguageComesFromTheIniFileOnce_data();
@@ -56,13 +56,8 @@ private slots:
     void EveryCodeHasADescriptionOfItsOwn();
 
 private:
-    QTemporaryDir m_folder;
+    CWorkFolder m_folder;
 };
-
-void tst_Pxa::initTestCase()
-{
-    QVERIFY(QDir::setCurrent(m_folder.path()));
-}
 
 namespace
 {
