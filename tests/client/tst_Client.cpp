@@ -52,8 +52,10 @@ private slots:
     void ARefusedImportTellsWhatRefusesIt();
     void ADocumentThatCannotBeReadIsNotExported_data();
     void ADocumentThatCannotBeReadIsNotExported();
-#ifndef Q_OS_WIN // there links need a right of their own
+#ifndef Q_OS_WIN // links need a right of their own there, and Wine makes none
     void AnOwnFileIsKnownBehindALink();
+#endif
+#ifndef Q_OS_WIN // no streams have names among the files there
     void AnExportToAStreamGoesThere_data();
     void AnExportToAStreamGoesThere();
     void AnExportToTheOutputAppendsWhereTheShellDoes();
@@ -63,13 +65,19 @@ private slots:
     void AMissingFolderIsNotMade();
     void AnImportMakesTheFolder();
     void MessagesAreInTheLanguageOfTheIniFile();
+#ifndef Q_OS_WIN // no streams have names among the files there
     void ADumpThatCannotBePrintedFails();
+#endif
     void RightsOfTheDocument();
     void RightsThatCannotBeUnderstoodAreMissing_data();
     void RightsThatCannotBeUnderstoodAreMissing();
+#ifndef Q_OS_WIN // links need a right of their own there, and Wine makes none
     void AnUnusableCatalogueIsTold();
+#endif
+#ifndef Q_OS_WIN // there is always a display there
     void WithoutADisplayTheWindowSaysSo_data();
     void WithoutADisplayTheWindowSaysSo();
+#endif
     void TheResourceFolderIsThatOfTheCaller();
 #ifndef Q_OS_WIN // where every name is text
     void ANameThatIsNoTextIsRefused_data();
@@ -208,7 +216,7 @@ void tst_Client::TheLanguageIsUsed()
 void tst_Client::HelpAndVersion()
 {
     QVERIFY(Client({"--help"}).output.contains("--without-right"));
-    QCOMPARE(Client({"--version"}).output, QByteArray("local-config-client 1.0.0\n"));
+    QCOMPARE(Client({"--version"}).output.trimmed(), QByteArray("local-config-client 1.0.0"));
 }
 
 void tst_Client::BadInput_data()
@@ -351,8 +359,6 @@ void tst_Client::AnOwnFileIsKnownBehindALink()
     QCOMPARE(Client({"--export", Path("copy.json")}).nExitCode, 0);
 }
 
-#endif
-
 void tst_Client::AnExportToAStreamGoesThere_data()
 {
     QTest::addColumn<QString>("strCommand");
@@ -399,6 +405,8 @@ void tst_Client::AnExportToAFullDeviceFails()
     QVERIFY2(run.listErrors.first().contains("the disk is full"), qPrintable(run.listErrors.first()));
 }
 
+#endif
+
 void tst_Client::AMissingFolderIsNotMade_data()
 {
     QTest::addColumn<QStringList>("listAction");
@@ -437,6 +445,8 @@ void tst_Client::MessagesAreInTheLanguageOfTheIniFile()
     QVERIFY(listChinese != listEnglish);
 }
 
+#ifndef Q_OS_WIN
+
 void tst_Client::ADumpThatCannotBePrintedFails()
 {
     QProcess process;
@@ -446,6 +456,8 @@ void tst_Client::ADumpThatCannotBePrintedFails()
     QVERIFY(process.waitForFinished(100000));
     QCOMPARE(process.exitCode(), 1);
 }
+
+#endif
 
 void tst_Client::RightsOfTheDocument()
 {
@@ -483,6 +495,8 @@ void tst_Client::RightsThatCannotBeUnderstoodAreMissing()
     QCOMPARE(QImage(m_pOther->filePath("unknown.png")), without);
 }
 
+#ifndef Q_OS_WIN
+
 void tst_Client::AnUnusableCatalogueIsTold()
 {
     QVERIFY(QDir(m_pOther->path()).mkdir("resources"));
@@ -497,6 +511,8 @@ void tst_Client::AnUnusableCatalogueIsTold()
     QCOMPARE(run.listErrors.size(), 1);
     QVERIFY2(run.listErrors.first().contains("AlarmTypes.xml"), qPrintable(run.listErrors.first()));
 }
+
+#endif
 
 void tst_Client::TheResourceFolderIsThatOfTheCaller()
 {
@@ -539,6 +555,8 @@ void tst_Client::ANameThatIsNoTextIsRefused()
 
 #endif
 
+#ifndef Q_OS_WIN
+
 void tst_Client::WithoutADisplayTheWindowSaysSo_data()
 {
     QTest::addColumn<QString>("strName");
@@ -567,6 +585,8 @@ void tst_Client::WithoutADisplayTheWindowSaysSo()
     QCOMPARE(run.listErrors.size(), 1);
     QVERIFY(run.listErrors.first().contains("--screenshot"));
 }
+
+#endif
 
 QTEST_GUILESS_MAIN(tst_Client)
 

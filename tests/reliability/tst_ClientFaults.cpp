@@ -2,6 +2,7 @@
 
 #include "support/ChangedSettings.h"
 #include "support/ClientProcess.h"
+#include "support/Permissions.h"
 
 #include <UICommonModule/CErrorCode.h>
 #include <client/store/FolderLock.h>
@@ -20,7 +21,9 @@ private slots:
     void init() { Reset(); }
 
     void AReadOnlyFolderLosesNothing();
+#ifndef Q_OS_WIN // a disk is made to fail by a preloaded library
     void AFullDiskLosesNothing();
+#endif
     void ASecondClientLosesNothing();
 #ifdef Q_OS_LINUX // where a process tells how much memory it has had
     void AFloodFromTheServerTakesNoMemory();
@@ -32,16 +35,18 @@ void tst_ClientFaults::AReadOnlyFolderLosesNothing()
     Put(Path("settings.json"), Document(ChangedSettings()));
     Put(m_pOther->filePath("in.json"), Document(Settings()));
     const QMap<QString, QByteArray> mapBefore = Snapshot(m_pFolder->path());
-    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner);
+    SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner);
     const SRun run = Client({"--import", m_pOther->filePath("in.json")});
     const SRun dump = Client({"--dump"});
-    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QCOMPARE(run.nExitCode, 1);
     QCOMPARE(run.listErrors.size(), 1);
     QVERIFY(run.listErrors.first().contains("permission"));
     QCOMPARE(dump.output, Document(ChangedSettings()));
     QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
 }
+
+#ifndef Q_OS_WIN
 
 void tst_ClientFaults::AFullDiskLosesNothing()
 {
@@ -58,6 +63,8 @@ void tst_ClientFaults::AFullDiskLosesNothing()
     QVERIFY(QFile::remove(Path("settings.lock"))); // which stays, but holds nothing
     QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
 }
+
+#endif
 
 void tst_ClientFaults::ASecondClientLosesNothing()
 {

@@ -51,6 +51,7 @@ protected:
     {
         m_environment = QProcessEnvironment::systemEnvironment();
         m_environment.insert("QT_LOGGING_RULES", "default.warning=false"); // the offscreen plug-in's own words
+        m_environment.remove("QT_FORCE_STDERR_LOGGING");                   // which is for the test's own
         m_pFolder.reset(new QTemporaryDir);
         m_pOther.reset(new QTemporaryDir);
     }

@@ -15,7 +15,7 @@ private slots:
     void CommandIsTheQuotedNativePath();
     void CommandKeepsLetterCase();
     void NoEntryReadsAsEmpty();
-#ifndef Q_OS_WIN
+#ifndef Q_OS_WIN // an XDG entry; tst_AutoStartRegistry reads the registry
     void ReadsTheEntry_data();
     void ReadsTheEntry();
     void AFolderInPlaceOfTheEntryReadsAsEmpty();

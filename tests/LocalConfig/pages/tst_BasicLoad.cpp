@@ -1,13 +1,58 @@
 #include "support/BasicPage.h"
 
+#include <QSettings>
 #include <QStandardPaths>
+
+#ifdef Q_OS_WIN
+#include "support/UserRegistry.h"
+#endif
+
+namespace
+{
+
+/// An auto-start entry of this program's name, in a place of the test's own.
+class CAutoStartEntry
+{
+public:
+    explicit CAutoStartEntry(const QString& strPath)
+    {
+#ifdef Q_OS_WIN
+        QSettings run("HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run", QSettings::NativeFormat);
+        run.setValue(QCoreApplication::applicationName(), '"' + QDir::toNativeSeparators(strPath) + '"');
+#else
+        const QDir config(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+        QVERIFY2(config.path().contains("tests/home"), "an entry must not be written in a user's home");
+        QVERIFY(config.mkpath("autostart"));
+        m_file.setFileName(config.filePath("autostart/" + QCoreApplication::applicationName() + ".desktop"));
+        QVERIFY(m_file.open(QIODevice::WriteOnly));
+        m_file.write("[Desktop Entry]\nType=Application\nExec=\"" + strPath.toUtf8() + "\"\n");
+        m_file.close();
+#endif
+    }
+#ifndef Q_OS_WIN
+    ~CAutoStartEntry()
+    {
+        m_file.remove();
+    }
+#endif
+
+private:
+    Q_DISABLE_COPY(CAutoStartEntry)
+
+#ifdef Q_OS_WIN
+    CUserRegistry m_registry;
+#else
+    QFile m_file;
+#endif
+};
+
+} // namespace
 
 class tst_BasicLoad : public CBasicPageTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void init() { Reset(); }
 
     void ANullSectionIsRefused();
@@ -24,19 +69,11 @@ private slots:
     void WithoutASectionLoadChangesNothing();
 
     void AutoRunStateIsToldBeforeEachLoad();
-#ifndef Q_OS_WIN // there the entry is a value of the user's own registry
     void AutoRunStateFollowsTheEntry_data();
     void AutoRunStateFollowsTheEntry();
-#endif
     void AutoRunBoxShowsTheRecord();
     void UnInitForgetsTheSection();
 };
-
-void tst_BasicLoad::initTestCase()
-{
-    QVERIFY2(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation).contains("tests/home"),
-             "this test writes an autostart entry and must not do so in a user's home");
-}
 
 void tst_BasicLoad::ANullSectionIsRefused()
 {
@@ -186,8 +223,6 @@ void tst_BasicLoad::AutoRunStateIsToldBeforeEachLoad()
     QCOMPARE(m_journal.Take(), (QStringList{"SetAutoRunState false", "GetConfig"}));
 }
 
-#ifndef Q_OS_WIN
-
 void tst_BasicLoad::AutoRunStateFollowsTheEntry_data()
 {
     QTest::addColumn<QString>("strPath");
@@ -196,29 +231,16 @@ void tst_BasicLoad::AutoRunStateFollowsTheEntry_data()
     QTest::newRow("this client") << strPath << true;
     QTest::newRow("another installation") << "/opt/other" + strPath << false;
     QTest::newRow("other letter case") << strPath.toUpper() << false;
-    QTest::newRow("no entry") << QString() << false;
 }
 
 void tst_BasicLoad::AutoRunStateFollowsTheEntry()
 {
     QFETCH(QString, strPath);
     QFETCH(bool, bMatches);
-    QDir config(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
-    QVERIFY(config.mkpath("autostart"));
-    QFile entry(config.filePath("autostart/" + QCoreApplication::applicationName() + ".desktop"));
-    entry.remove();
-    if (!strPath.isEmpty())
-    {
-        QVERIFY(entry.open(QIODevice::WriteOnly));
-        entry.write("[Desktop Entry]\nType=Application\nExec=\"" + strPath.toUtf8() + "\"\n");
-        entry.close();
-    }
+    const CAutoStartEntry entry(strPath);
     m_pPage->SetConfigSection(m_pSection.data());
-    entry.remove();
     QCOMPARE(m_journal.Take().first(), QString(bMatches ? "SetAutoRunState true" : "SetAutoRunState false"));
 }
-
-#endif
 
 void tst_BasicLoad::AutoRunBoxShowsTheRecord()
 {

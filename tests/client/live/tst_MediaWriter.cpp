@@ -1,5 +1,7 @@
 // Faults come from the preloaded library "FaultFs", see support/FaultFs.cpp.
 
+#include "support/Permissions.h"
+
 #include <client/live/MediaWriter.h>
 
 #include <UICommonModule/CErrorCode.h>
@@ -59,7 +61,7 @@ private slots:
     void cleanup()
     {
         qunsetenv("KV_FAULT");
-        QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
     void Names_data();
@@ -71,7 +73,9 @@ private slots:
     void PicturesLandInTheFolder();
     void SeveralPicturesAreReportedOnce();
     void ANameInUseIsNotOverwritten();
+#ifndef Q_OS_WIN // links need a right of their own there, and Wine makes none
     void ALinkInTheWayIsNotWrittenThrough();
+#endif
     void PictureFailures_data();
     void PictureFailures();
 
@@ -80,8 +84,10 @@ private slots:
     void ARecordingWithoutFramesLeavesNoFile();
     void FramesWithoutARecordingAreIgnored();
     void ANewRecordingEndsTheOneBefore();
+#ifndef Q_OS_WIN // a disk is made to fail by a preloaded library
     void AFailedRecordingKeepsWhatWasWritten();
     void ARecordingThatNeverGotAByteLeavesNoFile();
+#endif
     void ARecordingFailsInAReadOnlyFolder();
     void WhatIsWaitingIsWrittenAtTheEnd();
 
@@ -94,7 +100,10 @@ private:
     {
         return QDir(m_pFolder->filePath(strFolder)).entryList(QDir::Files, QDir::Name);
     }
-    MediaName Name() const { return {2, 7, "Gate", g_time}; }
+    MediaName Name() const
+    {
+        return {2, 7, "Gate", g_time};
+    }
 
     QScopedPointer<QTemporaryDir> m_pFolder;
     QScopedPointer<MediaWriter> m_pWriter;
@@ -192,6 +201,8 @@ void tst_MediaWriter::ANameInUseIsNotOverwritten()
                                    "01_20261121-030405-067.jpg"}));
 }
 
+#ifndef Q_OS_WIN
+
 void tst_MediaWriter::ALinkInTheWayIsNotWrittenThrough()
 {
     // A link to a file that does not exist yet would be made by whoever writes to it.
@@ -204,12 +215,16 @@ void tst_MediaWriter::ALinkInTheWayIsNotWrittenThrough()
     QVERIFY(Files().contains("01_20261121-030405-067-2.jpg"));
 }
 
+#endif
+
 void tst_MediaWriter::PictureFailures_data()
 {
     QTest::addColumn<QByteArray>("fault");
     QTest::addColumn<int>("nCode");
     QTest::newRow("read-only folder") << QByteArray() << int(CErrorCode::NoPermission);
+#ifndef Q_OS_WIN // a disk is made to fail by a preloaded library
     QTest::newRow("full disk") << QByteArray("write:ENOSPC:") << int(CErrorCode::DiskFull);
+#endif
 }
 
 void tst_MediaWriter::PictureFailures()
@@ -218,7 +233,7 @@ void tst_MediaWriter::PictureFailures()
     QFETCH(int, nCode);
     if (fault.isEmpty())
     {
-        QVERIFY(QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
+        QVERIFY(SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
     }
     else
     {
@@ -312,6 +327,8 @@ void tst_MediaWriter::ANewRecordingEndsTheOneBefore()
     QCOMPARE(Files("two").size(), 1);
 }
 
+#ifndef Q_OS_WIN
+
 void tst_MediaWriter::AFailedRecordingKeepsWhatWasWritten()
 {
     QSignalSpy saved(m_pWriter.data(), &MediaWriter::SignalRecordingSaved);
@@ -344,9 +361,11 @@ void tst_MediaWriter::ARecordingThatNeverGotAByteLeavesNoFile()
     QCOMPARE(Files(), QStringList());
 }
 
+#endif
+
 void tst_MediaWriter::ARecordingFailsInAReadOnlyFolder()
 {
-    QVERIFY(QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
+    QVERIFY(SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
     QSignalSpy failed(m_pWriter.data(), &MediaWriter::SignalRecordingFailed);
     m_pWriter->StartRecording(m_pFolder->path(), Name(), 1'000'000);
     m_pWriter->AddFrame(Picture(Qt::red));

@@ -140,7 +140,9 @@ private slots:
     void WhatTheServerSaysIsIgnored();
     void AttemptsBecomeSeldom();
     void EndsWhileConnecting();
+#ifndef Q_OS_WIN // names are given addresses by a preloaded library
     void EveryAddressOfAHostIsTried();
+#endif
     void AHostThatIsUnknownIsALoss();
 #ifdef Q_OS_LINUX // elsewhere the system does not tell what was set
     void AServerThatVanishesIsNoticedWithinHalfAMinute();
@@ -339,7 +341,9 @@ void tst_LoginManager::ObserversComeAndGoWhileTheServerDoes()
     CServer server;
     QVERIFY(server.Open());
     const quint16 nPort = server.Port();
+    CObserver all;
     LoginManager manager("127.0.0.1", nPort, g_fast);
+    manager.AddObserver(&all);
     std::atomic<bool> bStop{false};
     std::atomic<int> nRounds{0};
     std::array<std::thread, 2> arrThreads;
@@ -374,9 +378,11 @@ void tst_LoginManager::ObserversComeAndGoWhileTheServerDoes()
     // None of them is left behind: whoever comes now hears of the next loss.
     CObserver last;
     manager.AddObserver(&last);
+    QTRY_VERIFY(all.States().isEmpty() || all.States().last() == "2/0"); // else there is nothing to lose yet
     server.Close();
     QTRY_COMPARE(last.States().isEmpty() ? QString() : last.States().last(), QString("3/0"));
     manager.RemoveObserver(&last);
+    manager.RemoveObserver(&all);
 }
 
 void tst_LoginManager::AConnectionThatTheServerDropsIsALoss()
@@ -465,6 +471,8 @@ void tst_LoginManager::EndsWhileConnecting()
     QVERIFY(timer.elapsed() < 5000);
 }
 
+#ifndef Q_OS_WIN
+
 void tst_LoginManager::EveryAddressOfAHostIsTried()
 {
     CServer server; // listens at the second one
@@ -480,6 +488,8 @@ void tst_LoginManager::EveryAddressOfAHostIsTried()
     QTRY_COMPARE(observer.States(), QStringList{"3/0"});
     manager.RemoveObserver(&observer);
 }
+
+#endif
 
 void tst_LoginManager::AHostThatIsUnknownIsALoss()
 {

@@ -1,4 +1,5 @@
 #include "support/ChangedSettings.h"
+#include "support/Permissions.h"
 #include "support/StoreFixture.h"
 
 #include <UICommonModule/CErrorCode.h>
@@ -80,9 +81,9 @@ void tst_ConfigImport::AFailedImportSaysWhatKeptItAndNothingElse()
         QVERIFY(second.GetFile().GetHindrance().contains("nother client"));
     }
     ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
-    QVERIFY(QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
+    QVERIFY(SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
     const int nResult = service.Import(Document(0), nullptr);
-    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QCOMPARE(nResult, int(CErrorCode::NoPermission));
     QCOMPARE(service.GetFile().GetHindrance(), QString()); // the code says all
 }

@@ -19,8 +19,10 @@ private slots:
     void ASecondClientCannotSave();
     void ASecondClientSavesOnceTheFirstHasGone();
     void ASecondClientDoesNotOverwriteTheFirst();
+#ifndef Q_OS_WIN // no file is removed there while somebody holds it, nor the folder around it
     void ARemovedLockFileLetsNobodyOverwriteTheFirst();
     void AClientWhoseLockWasLostDoesNotOverwrite();
+#endif
     void LookingOnlyTakesNoLock();
 };
 
@@ -65,6 +67,8 @@ void tst_ConfigLock::ASecondClientDoesNotOverwriteTheFirst()
     QCOMPARE(SavedClientSize(), 1);
 }
 
+#ifndef Q_OS_WIN
+
 void tst_ConfigLock::ARemovedLockFileLetsNobodyOverwriteTheFirst()
 {
     ConfigService first(m_pFolder->path(), SettingsFile::ReadWrite);
@@ -97,6 +101,8 @@ void tst_ConfigLock::AClientWhoseLockWasLostDoesNotOverwrite()
     QCOMPARE(service.SaveAll(), int(CErrorCode::ChangedElsewhere));
     QCOMPARE(GetFile("data/settings.json"), Document(1));
 }
+
+#endif
 
 void tst_ConfigLock::LookingOnlyTakesNoLock()
 {

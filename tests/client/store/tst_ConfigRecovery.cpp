@@ -1,3 +1,4 @@
+#include "support/Permissions.h"
 #include "support/StoreFixture.h"
 
 #include <UICommonModule/CErrorCode.h>
@@ -21,8 +22,8 @@ private slots:
     void ADamagedDocumentIsNeverTheLastGeneration();
     void DamageWhileRunningIsSetAside();
     void ADamagedLastGenerationIsNotUsed();
-    void AnUnreadableDocumentIsNotOverwritten_data();
     void AnUnreadableDocumentIsNotOverwritten();
+    void AFolderInPlaceOfTheDocumentIsNotOverwritten();
     void ANewerDocumentIsNotOverwritten();
 };
 
@@ -134,35 +135,29 @@ void tst_ConfigRecovery::ADamagedLastGenerationIsNotUsed()
     QCOMPARE(GetFile("settings.json.bak"), QByteArray("damaged, too"));
 }
 
-void tst_ConfigRecovery::AnUnreadableDocumentIsNotOverwritten_data()
-{
-    QTest::addColumn<bool>("bFolder");
-    QTest::newRow("no permission") << false;
-    QTest::newRow("a folder in its place") << true;
-}
-
 void tst_ConfigRecovery::AnUnreadableDocumentIsNotOverwritten()
 {
-    QFETCH(bool, bFolder);
-    if (bFolder)
+    Put(Document(3));
     {
-        QVERIFY(QDir().mkpath(Path("settings.json")));
+        const CUnreadable unreadable(Path("settings.json"));
+        ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+        QCOMPARE(service.GetFile().GetProblems().size(), 1);
+        SetClientSize(service, 0);
+        QCOMPARE(service.SaveAll(), int(CErrorCode::Unreadable));
+        QCOMPARE(GetBasic(service).clientSize, 0);
     }
-    else
-    {
-        Put(Document(3));
-        QVERIFY(QFile::setPermissions(Path("settings.json"), QFile::WriteOwner));
-    }
+    QCOMPARE(GetFile(), Document(3));
+}
+
+void tst_ConfigRecovery::AFolderInPlaceOfTheDocumentIsNotOverwritten()
+{
+    QVERIFY(QDir().mkpath(Path("settings.json")));
     ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
     QCOMPARE(service.GetFile().GetProblems().size(), 1);
     SetClientSize(service, 0);
     QCOMPARE(service.SaveAll(), int(CErrorCode::Unreadable));
     QCOMPARE(GetBasic(service).clientSize, 0);
-    if (!bFolder)
-    {
-        QVERIFY(QFile::setPermissions(Path("settings.json"), QFile::ReadOwner));
-        QCOMPARE(GetFile(), Document(3));
-    }
+    QVERIFY(QFileInfo(Path("settings.json")).isDir());
 }
 
 void tst_ConfigRecovery::ANewerDocumentIsNotOverwritten()

@@ -1,5 +1,7 @@
 // Faults come from the preloaded library "FaultFs", see support/FaultFs.cpp.
 
+#include "support/Permissions.h"
+
 #include <UICommonModule/CAtomicFile.h>
 #include <UICommonModule/CErrorCode.h>
 
@@ -8,12 +10,14 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#ifndef Q_OS_WIN
 #include <csignal>
 #include <grp.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#endif
 
 using UICommonMdl::CAtomicFile;
 using UICommonMdl::CErrorCode;
@@ -30,28 +34,46 @@ private slots:
     void ReplacesAFile();
     void WritesAnEmptyFile();
     void WritesALargeFile();
+#ifndef Q_OS_WIN // there are no modes and no root there
     void KeepsThePermissions();
+#endif
+#ifndef Q_OS_WIN // links need a right of their own there, and Wine makes none
     void FollowsASymbolicLink();
+#endif
     void LeavesNoTemporaryFile();
     void AMissingFolderIsReported();
     void AReadOnlyFolderIsReported();
     void AReadOnlyFileIsReported();
     void AFolderInPlaceOfTheFileIsReported();
+#ifndef Q_OS_WIN // a closed folder there does not close what is in it
     void AFolderBehindAClosedOneIsNotMissing();
+#endif
+#ifndef Q_OS_WIN // no limit of a file's size there
     void ALimitOfSizeCountsAsFull();
+#endif
+#ifndef Q_OS_WIN // a disk is made to fail by a preloaded library
     void FaultsLoseNothing_data();
     void FaultsLoseNothing();
     void AFolderThatIsNotFlushedIsTold();
+#endif
+#ifndef Q_OS_WIN // there are no modes and no root there
     void TheOwnerStaysWhenRootWrites();
     void TheGroupStaysWhenAMemberWrites();
+#endif
+#ifndef Q_OS_WIN // links need a right of their own there, and Wine makes none
     void ALinkWithoutAnEndIsNotReplaced();
+#endif
     void ATakenNameIsLeftAlone_data();
     void ATakenNameIsLeftAlone();
+#ifndef Q_OS_WIN // links need a right of their own there, and Wine makes none
     void ALinkIsReplacedWhereANameIsMeant();
+#endif
 
     void KeepingSurvivesTheNextWrite();
     void KeepingTwiceLeavesNoTemporaryFile();
+#ifndef Q_OS_WIN // a disk is made to fail by a preloaded library
     void KeepingCopiesWhereAFileHasOneName();
+#endif
     void AFolderInTheWayOfKeepingIsReported();
     void LeftoversOfKilledWritersGo();
 
@@ -59,19 +81,30 @@ private slots:
     void AMissingFileIsReported();
     void AnUnreadableFileIsReported();
     void AFolderIsNotRead();
+#ifndef Q_OS_WIN // no streams have names among the files there
     void APipeIsNotOpened();
+#endif
+#ifndef Q_OS_WIN // a closed folder there does not close what is in it
     void AFileInAClosedFolderIsNotMissing();
+#endif
+#ifndef Q_OS_WIN // links need a right of their own there, and Wine makes none
     void ALinkToNothingIsNotMissing();
     void ALinkToItselfIsNotMissing();
+#endif
     void ATooLargeFileIsNotRead();
 
     void RemovesAFile();
     void RemovingAMissingFileIsNoError();
+#ifndef Q_OS_WIN // who may remove a file is said by the file there
     void AFileOfAReadOnlyFolderIsNotRemoved();
+#endif
     void AFolderIsNotRemoved();
 
 private:
-    QString Path(const char* pszName = "file.txt") const { return m_pFolder->filePath(pszName); }
+    QString Path(const char* pszName = "file.txt") const
+    {
+        return m_pFolder->filePath(pszName);
+    }
     void Put(const QByteArray& content, const char* pszName = "file.txt") const
     {
         QFile file(Path(pszName));
@@ -123,6 +156,8 @@ void tst_AtomicFile::WritesALargeFile()
     QCOMPARE(Get(), content);
 }
 
+#ifndef Q_OS_WIN
+
 void tst_AtomicFile::KeepsThePermissions()
 {
     Put("old");
@@ -145,6 +180,8 @@ void tst_AtomicFile::FollowsASymbolicLink()
     QCOMPARE(Get("target.txt"), QByteArray("new"));
 }
 
+#endif
+
 void tst_AtomicFile::LeavesNoTemporaryFile()
 {
     CAtomicFile::Write(Path(), "new");
@@ -159,9 +196,9 @@ void tst_AtomicFile::AMissingFolderIsReported()
 void tst_AtomicFile::AReadOnlyFolderIsReported()
 {
     Put("old");
-    QVERIFY(QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
+    QVERIFY(SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
     const int nResult = CAtomicFile::Write(Path(), "new");
-    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QCOMPARE(nResult, int(CErrorCode::NoPermission));
     QCOMPARE(Get(), QByteArray("old"));
     QCOMPARE(Names(), QStringList{"file.txt"});
@@ -181,6 +218,8 @@ void tst_AtomicFile::AFolderInPlaceOfTheFileIsReported()
     QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::NotAFile));
     QVERIFY(QFileInfo(Path()).isDir());
 }
+
+#ifndef Q_OS_WIN
 
 void tst_AtomicFile::AFolderBehindAClosedOneIsNotMissing()
 {
@@ -231,6 +270,8 @@ void tst_AtomicFile::FaultsLoseNothing()
     QCOMPARE(Names(), QStringList{"file.txt"});
 }
 
+#endif
+
 void tst_AtomicFile::ReadsAFile()
 {
     Put(QByteArrayLiteral("some\0bytes"));
@@ -250,7 +291,7 @@ void tst_AtomicFile::AMissingFileIsReported()
 void tst_AtomicFile::AnUnreadableFileIsReported()
 {
     Put("secret");
-    QVERIFY(QFile::setPermissions(Path(), QFile::WriteOwner));
+    const CUnreadable unreadable(Path());
     QByteArray content;
     QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::NoPermission));
 }
@@ -261,6 +302,8 @@ void tst_AtomicFile::AFolderIsNotRead()
     QByteArray content;
     QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::Unreadable));
 }
+
+#ifndef Q_OS_WIN
 
 void tst_AtomicFile::APipeIsNotOpened()
 {
@@ -281,6 +324,8 @@ void tst_AtomicFile::AFileInAClosedFolderIsNotMissing()
     QCOMPARE(nResult, int(CErrorCode::NoPermission));
 }
 
+#endif
+
 void tst_AtomicFile::RemovesAFile()
 {
     Put("old");
@@ -294,6 +339,8 @@ void tst_AtomicFile::RemovingAMissingFileIsNoError()
     QCOMPARE(CAtomicFile::Remove(Path("none/file.txt")), int(CErrorCode::Success));
 }
 
+#ifndef Q_OS_WIN
+
 void tst_AtomicFile::AFileOfAReadOnlyFolderIsNotRemoved()
 {
     Put("old");
@@ -304,12 +351,16 @@ void tst_AtomicFile::AFileOfAReadOnlyFolderIsNotRemoved()
     QCOMPARE(Get(), QByteArray("old"));
 }
 
+#endif
+
 void tst_AtomicFile::AFolderIsNotRemoved()
 {
     QVERIFY(QDir().mkpath(Path()));
     QCOMPARE(CAtomicFile::Remove(Path()), int(CErrorCode::NotAFile));
     QCOMPARE(Names(), QStringList("file.txt"));
 }
+
+#ifndef Q_OS_WIN
 
 void tst_AtomicFile::AFolderThatIsNotFlushedIsTold()
 {
@@ -371,11 +422,15 @@ void tst_AtomicFile::ALinkWithoutAnEndIsNotReplaced()
     QVERIFY(QFileInfo(Path()).isSymLink());
 }
 
+#endif
+
 void tst_AtomicFile::ATakenNameIsLeftAlone_data()
 {
     QTest::addColumn<bool>("bLink");
     QTest::newRow("a file") << false;
+#ifndef Q_OS_WIN // links need a right of their own there, and Wine makes none
     QTest::newRow("a link to nothing") << true;
+#endif
 }
 
 void tst_AtomicFile::ATakenNameIsLeftAlone()
@@ -396,6 +451,8 @@ void tst_AtomicFile::ATakenNameIsLeftAlone()
     QCOMPARE(Get("free.txt"), QByteArray("new"));
 }
 
+#ifndef Q_OS_WIN
+
 void tst_AtomicFile::ALinkIsReplacedWhereANameIsMeant()
 {
     Put("old", "target.txt");
@@ -405,6 +462,8 @@ void tst_AtomicFile::ALinkIsReplacedWhereANameIsMeant()
     QVERIFY(!QFileInfo(Path()).isSymLink());
     QCOMPARE(Get(), QByteArray("new"));
 }
+
+#endif
 
 void tst_AtomicFile::KeepingSurvivesTheNextWrite()
 {
@@ -424,6 +483,8 @@ void tst_AtomicFile::KeepingTwiceLeavesNoTemporaryFile()
     QCOMPARE(Names(), (QStringList{"file.txt", "kept.txt"}));
 }
 
+#ifndef Q_OS_WIN
+
 void tst_AtomicFile::KeepingCopiesWhereAFileHasOneName()
 {
     Put("old");
@@ -434,6 +495,8 @@ void tst_AtomicFile::KeepingCopiesWhereAFileHasOneName()
     QCOMPARE(QFile::permissions(Path("kept.txt")), QFile::permissions(Path()));
     QCOMPARE(Names(), (QStringList{"file.txt", "kept.txt"}));
 }
+
+#endif
 
 void tst_AtomicFile::AFolderInTheWayOfKeepingIsReported()
 {
@@ -454,6 +517,8 @@ void tst_AtomicFile::LeftoversOfKilledWritersGo()
     QCOMPARE(Names(), (QStringList{"file.txt", "file.txt.tmp-notes.txt", "other.txt.tmp-0123abcd"}));
 }
 
+#ifndef Q_OS_WIN
+
 void tst_AtomicFile::ALinkToNothingIsNotMissing()
 {
     QVERIFY(QFile::link(Path("unmounted/file.txt"), Path()));
@@ -467,6 +532,8 @@ void tst_AtomicFile::ALinkToItselfIsNotMissing()
     QByteArray content;
     QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::Unreadable));
 }
+
+#endif
 
 void tst_AtomicFile::ATooLargeFileIsNotRead()
 {

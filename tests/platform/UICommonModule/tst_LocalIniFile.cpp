@@ -1,4 +1,5 @@
 #include "support/Notifications.h"
+#include "support/Permissions.h"
 
 #include <UICommonModule/CErrorCode.h>
 #include <UICommonModule/CLocalIniFile.h>
@@ -282,27 +283,28 @@ void tst_LocalIniFile::ValuesThatAreNoTextAreRefused()
 void tst_LocalIniFile::NothingIsWrittenWhenNothingChanges()
 {
     Put("[G]\nk=v\n");
-    QVERIFY(QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
+    QVERIFY(SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
     const bool bOk = CLocalIniFile::WriteValue("G", "k", "v", "test.ini");
-    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QVERIFY2(bOk, "in a folder that cannot be written");
 }
 
 void tst_LocalIniFile::AnUnreadableFileIsNotOverwritten()
 {
     Put("[H]\nprecious=1\n");
-    QVERIFY(QFile::setPermissions("test.ini", QFile::WriteOwner));
-    QVERIFY(!CLocalIniFile::WriteValue("G", "k", "v", "test.ini"));
-    QVERIFY(QFile::setPermissions("test.ini", QFile::ReadOwner | QFile::WriteOwner));
+    {
+        const CUnreadable unreadable("test.ini");
+        QVERIFY(!CLocalIniFile::WriteValue("G", "k", "v", "test.ini"));
+    }
     QCOMPARE(Get(), QByteArray("[H]\nprecious=1\n"));
 }
 
 void tst_LocalIniFile::AReadOnlyFolderIsRefused()
 {
     Put("[G]\nk=old\n");
-    QVERIFY(QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
+    QVERIFY(SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner));
     const bool bOk = CLocalIniFile::WriteValue("G", "k", "v", "test.ini");
-    QFile::setPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QVERIFY(!bOk);
     QCOMPARE(Get(), QByteArray("[G]\nk=old\n"));
 }

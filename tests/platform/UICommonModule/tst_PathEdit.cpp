@@ -288,7 +288,7 @@ void tst_PathEdit::FolderNamesAreCompleted()
         return m_pEdit->completer()->completionCount();
     };
     QTRY_COMPARE(typeOn(), 1);
-    QCOMPARE(m_pEdit->completer()->currentCompletion(), folder.filePath("snapshots"));
+    QCOMPARE(m_pEdit->completer()->currentCompletion(), QDir::toNativeSeparators(folder.filePath("snapshots")));
 
     m_pEdit->SetBrowseMode(CPathEdit::BrowseByOwner);
     QVERIFY(!m_pEdit->completer());
