@@ -3,8 +3,16 @@ cmake_minimum_required(VERSION 3.25)
 # The one exported class: every symbol that the module defines for others belongs to LocalConfig::CLocalConfig.
 # Variables: NM, LIBRARY
 
-execute_process(COMMAND "${NM}" --dynamic --defined-only --demangle "${LIBRARY}" OUTPUT_VARIABLE output
-    RESULT_VARIABLE result)
+if(LIBRARY MATCHES "\\.a$") # the import library of one for Windows
+    execute_process(COMMAND "${NM}" --defined-only "${LIBRARY}" OUTPUT_VARIABLE output)
+    string(REGEX MATCHALL "__imp_[^\n]+" symbols "${output}")
+    list(TRANSFORM symbols REPLACE "^__imp_" "")
+    string(REGEX REPLACE "nm$" "c++filt" NM "${NM}")
+    execute_process(COMMAND "${NM}" ${symbols} OUTPUT_VARIABLE output RESULT_VARIABLE result)
+else()
+    execute_process(COMMAND "${NM}" --dynamic --defined-only --demangle "${LIBRARY}" OUTPUT_VARIABLE output
+        RESULT_VARIABLE result)
+endif()
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "${NM} failed: ${result}")
 endif()
