@@ -8,6 +8,8 @@
 #include <client/session/LoginManager.h>
 #include <client/session/UserManager.h>
 #include <client/store/ConfigService.h>
+#include <client/store/SettingValue.h>
+#include <client/store/SettingsSchema.h>
 
 #include <KvGui/KvMessageNotify.h>
 #include <KvGui/KvToolListView.h>
@@ -57,6 +59,12 @@ int Fail(const QString& strText, int nCode)
 {
     Client::Complain(CErrorCode::GetErroCodeInfor(strText, nCode, true, false));
     return g_nExitFailed;
+}
+
+int PrintOut(const QByteArray& content)
+{
+    return Print(content) ? g_nExitGood
+                          : Fail(Client::tr("Cannot write '%1'").arg(QStringLiteral("stdout")), CErrorCode::IoError);
 }
 
 void ComplainAbout(const ConfigService& service)
@@ -177,17 +185,17 @@ bool Client::EnterDataFolder()
     }
     if (!QFileInfo::exists(strFolder))
     {
-        const bool bLooking =
-            m_commandLine.eAction == CommandLine::Dump || m_commandLine.eAction == CommandLine::Export;
+        const bool bLooking = m_commandLine.eAction == CommandLine::Dump ||
+                              m_commandLine.eAction == CommandLine::Export || m_commandLine.eAction == CommandLine::Get;
         if (bLooking && bNamed)
         {
             // The user's own folder may be missing, one that was named should be there.
             Complain(tr("The data folder '%1' does not exist.").arg(strFolder));
             return false;
         }
-        if (bLooking || m_commandLine.eAction == CommandLine::Import)
+        if (bLooking || m_commandLine.eAction == CommandLine::Import || m_commandLine.eAction == CommandLine::Set)
         {
-            return true; // looking makes no folder, nor does an import before its file has proved good
+            return true; // looking makes no folder, nor does a change before it has proved good
         }
         if (!MakeDataFolder())
         {
@@ -226,13 +234,25 @@ bool Client::MayWriteFile(const ConfigService& service) const
 
 int Client::RunWithoutDisplay()
 {
+    if (m_commandLine.eAction == CommandLine::ShowSchema)
+    {
+        return PrintOut(GetSettingsSchema());
+    }
     if (!EnterDataFolder())
     {
         return g_nExitFailed;
     }
     SettleSkinAndLanguage();
     InstallTranslators();
-    return m_commandLine.eAction == CommandLine::Import ? ImportSettings() : WriteSettings();
+    switch (m_commandLine.eAction)
+    {
+    case CommandLine::Import:
+        return ImportSettings();
+    case CommandLine::Set:
+        return ChangeSettings();
+    default:
+        return WriteSettings();
+    }
 }
 
 int Client::ImportSettings() const
@@ -278,13 +298,74 @@ int Client::WriteSettings() const
     {
         return g_nExitFailed; // what stands in for the settings must not be taken for them
     }
-    if (m_commandLine.eAction == CommandLine::Dump)
+    switch (m_commandLine.eAction)
     {
-        return Print(service.Export())
-                   ? g_nExitGood
-                   : Fail(tr("Cannot write '%1'").arg(QStringLiteral("stdout")), CErrorCode::IoError);
+    case CommandLine::Dump:
+        return PrintOut(service.Export());
+    case CommandLine::Get:
+        return PrintSetting(service);
+    default:
+        return MayWriteFile(service) ? WriteFile(service.Export()) : g_nExitFailed;
     }
-    return MayWriteFile(service) ? WriteFile(service.Export()) : g_nExitFailed;
+}
+
+int Client::PrintSetting(const ConfigService& service) const
+{
+    const std::optional<QByteArray> value = SettingValue::Get(service.GetStored(), m_commandLine.strSetting);
+    if (!value)
+    {
+        Complain(SettingValue::DescribeMissing(m_commandLine.strSetting));
+        return g_nExitFailed;
+    }
+    return PrintOut(*value + '\n');
+}
+
+bool Client::ApplyChanges(Settings& settings) const
+{
+    QString strError;
+    for (const auto& [strName, strValue] : m_commandLine.listChanges)
+    {
+        if (!SettingValue::Set(settings, strName, strValue, strError))
+        {
+            Complain(strError);
+            return false;
+        }
+    }
+    return true;
+}
+
+/// All of the changes, or none.
+int Client::ChangeSettings() const
+{
+    Settings settings;
+    if (!ApplyChanges(settings)) // which needs no data folder
+    {
+        return g_nExitFailed;
+    }
+    if (const ConfigService looking(m_commandLine.strDataFolder, SettingsFile::ReadOnly); looking.GetFile().StandsIn())
+    {
+        ComplainAbout(looking);
+        return g_nExitFailed; // the rest of them would be stored as if somebody had chosen it
+    }
+    if (!MakeDataFolder())
+    {
+        return g_nExitFailed;
+    }
+    ConfigService service(m_commandLine.strDataFolder, SettingsFile::ReadWrite);
+    settings = service.GetStored();
+    ApplyChanges(settings);
+    const int nResult = service.Replace(settings);
+    if (nResult != CErrorCode::Success && !service.GetFile().GetHindrance().isEmpty())
+    {
+        Complain(service.GetFile().GetHindrance());
+        return g_nExitFailed;
+    }
+    if (nResult != CErrorCode::Success)
+    {
+        return Fail(tr("The settings cannot be changed"), nResult);
+    }
+    ComplainAbout(service);
+    return g_nExitGood;
 }
 
 int Client::WriteFile(const QByteArray& content) const

@@ -10,6 +10,7 @@ namespace LocalConfigClient
 {
 
 class ConfigService;
+struct Settings;
 
 /// The client as a program: carries out a command line that has been understood.
 class Client
@@ -19,7 +20,7 @@ class Client
 public:
     explicit Client(const CommandLine& commandLine);
 
-    /// Carries out an action that needs no display: Dump, Import, Export.
+    /// Carries out an action that needs no display: Dump, Import, Export, Get, Set, ShowSchema.
     /// \return the program's exit code
     int RunWithoutDisplay();
 
@@ -39,6 +40,9 @@ private:
     bool MayWriteFile(const ConfigService& service) const;
     int ImportSettings() const;
     int WriteSettings() const;
+    int PrintSetting(const ConfigService& service) const;
+    bool ApplyChanges(Settings& settings) const;
+    int ChangeSettings() const;
     int WriteFile(const QByteArray& content) const;
     void SettleSkinAndLanguage() const;
     static void InstallTranslators();

@@ -17,24 +17,32 @@ namespace
 constexpr int g_nSectionCount = 9;
 constexpr int g_nWallSection = 6;
 constexpr int g_nWallRight = 26;
-constexpr char g_szWithoutRight[] = "without-right"; // the one option that may be repeated
+constexpr char g_szWithoutRight[] = "without-right";
+constexpr char g_szGet[] = "get";
+constexpr char g_szSet[] = "set";
+constexpr char g_szFile[] = "FILE";
 
 struct SAction
 {
     const char* pszName;
     CommandLine::Action eAction;
-    bool bFile;
+    const char* pszValue; // null for none
     const char* pszHelp;
 };
 
 constexpr SAction g_arrActions[] = {
-    {"screenshot", CommandLine::Screenshot, true,
+    {"screenshot", CommandLine::Screenshot, g_szFile,
      QT_TRANSLATE_NOOP("CommandLine", "Render the settings dialog to a PNG file.")},
-    {"dump", CommandLine::Dump, false, QT_TRANSLATE_NOOP("CommandLine", "Print all settings as JSON.")},
-    {"import", CommandLine::Import, true, QT_TRANSLATE_NOOP("CommandLine", "Replace all settings by those of a file.")},
-    {"export", CommandLine::Export, true, QT_TRANSLATE_NOOP("CommandLine", "Write all settings to a file.")},
-    {"help", CommandLine::ShowHelp, false, QT_TRANSLATE_NOOP("CommandLine", "Show this help.")},
-    {"version", CommandLine::ShowVersion, false, QT_TRANSLATE_NOOP("CommandLine", "Show the version.")},
+    {"dump", CommandLine::Dump, nullptr, QT_TRANSLATE_NOOP("CommandLine", "Print all settings as JSON.")},
+    {"import", CommandLine::Import, g_szFile,
+     QT_TRANSLATE_NOOP("CommandLine", "Replace all settings by those of a file.")},
+    {"export", CommandLine::Export, g_szFile, QT_TRANSLATE_NOOP("CommandLine", "Write all settings to a file.")},
+    {g_szGet, CommandLine::Get, "NAME", QT_TRANSLATE_NOOP("CommandLine", "Print one setting.")},
+    {g_szSet, CommandLine::Set, "NAME=VALUE", QT_TRANSLATE_NOOP("CommandLine", "Change one setting; may be repeated.")},
+    {"schema", CommandLine::ShowSchema, nullptr,
+     QT_TRANSLATE_NOOP("CommandLine", "Print a JSON schema of the settings.")},
+    {"help", CommandLine::ShowHelp, nullptr, QT_TRANSLATE_NOOP("CommandLine", "Show this help.")},
+    {"version", CommandLine::ShowVersion, nullptr, QT_TRANSLATE_NOOP("CommandLine", "Show the version.")},
 };
 
 QCommandLineOption Option(const char* pszName, const QString& strHelp, const char* pszValue = nullptr)
@@ -48,7 +56,7 @@ void AddOptions(QCommandLineParser& parser)
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     for (const SAction& action : g_arrActions)
     {
-        parser.addOption(Option(action.pszName, CommandLine::tr(action.pszHelp), action.bFile ? "FILE" : nullptr));
+        parser.addOption(Option(action.pszName, CommandLine::tr(action.pszHelp), action.pszValue));
     }
     parser.addOption(Option("section", CommandLine::tr("Section that the dialog shows at first, 0 to 8."), "N"));
     parser.addOption(Option("skin", CommandLine::tr("DustyBlue or White."), "SKIN"));
@@ -97,7 +105,7 @@ public:
 
     bool Take()
     {
-        return CheckForm() && TakeAction() && TakeMissingRights() && TakeSection() &&
+        return CheckForm() && TakeAction() && TakeSettings() && TakeMissingRights() && TakeSection() &&
                TakeChoice("skin", {"DustyBlue", "White"}, CommandLine::tr("DustyBlue or White"), m_result.strSkin) &&
                TakeChoice("language", {"en", "zh_CN"}, CommandLine::tr("en or zh_CN"), m_result.strLanguage) &&
                TakeServer() && TakeDataFolder();
@@ -131,7 +139,8 @@ private:
         const QStringList listNames = m_parser.optionNames();
         for (const QString& strName : listNames)
         {
-            if (strName != QLatin1String(g_szWithoutRight) && listNames.count(strName) > 1)
+            const bool bMayRepeat = strName == QLatin1String(g_szWithoutRight) || strName == QLatin1String(g_szSet);
+            if (!bMayRepeat && listNames.count(strName) > 1)
             {
                 return Fail(CommandLine::tr("Option --%1 is given more than once.").arg(strName));
             }
@@ -159,7 +168,23 @@ private:
             }
             pTaken = &action;
             m_result.eAction = action.eAction;
-            m_result.strFile = action.bFile ? GetValue(action.pszName) : QString();
+            m_result.strFile = action.pszValue == g_szFile ? GetValue(action.pszName) : QString();
+        }
+        return true;
+    }
+
+    bool TakeSettings()
+    {
+        m_result.strSetting = GetValue(g_szGet);
+        for (const QString& strChange : m_parser.values(QString::fromLatin1(g_szSet)))
+        {
+            const int nEquals = strChange.indexOf(QLatin1Char('='));
+            if (nEquals <= 0)
+            {
+                return Fail(CommandLine::tr("Option --%1 takes %2, not '%3'.")
+                                .arg(QString::fromLatin1(g_szSet), QStringLiteral("NAME=VALUE"), strChange));
+            }
+            m_result.listChanges += {strChange.left(nEquals), strChange.mid(nEquals + 1)};
         }
         return true;
     }

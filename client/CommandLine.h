@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QList>
+#include <QPair>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -21,15 +23,20 @@ public:
         Dump,
         Import,
         Export,
+        Get,
+        Set,
+        ShowSchema,
         ShowHelp,
         ShowVersion
     };
 
     Action eAction = OpenWindow;
-    QString strFile;     ///< of Screenshot, Import and Export
-    int nSection = -1;   ///< navigation index, 0 to 8; -1 when none is named
-    QString strSkin;     ///< empty: what Localcfg.ini names
-    QString strLanguage; ///< empty: what Localcfg.ini names
+    QString strFile;                            ///< of Screenshot, Import and Export
+    QString strSetting;                         ///< of Get: the setting's name
+    QList<QPair<QString, QString>> listChanges; ///< of Set: names and values
+    int nSection = -1;                          ///< navigation index, 0 to 8; -1 when none is named
+    QString strSkin;                            ///< empty: what Localcfg.ini names
+    QString strLanguage;                        ///< empty: what Localcfg.ini names
     QSet<int> setMissingRights;
     QString strHost; ///< of the platform server; empty without one
     quint16 nPort = 0;

@@ -98,9 +98,14 @@ int ConfigService::Import(const QByteArray& content, QString* pError)
     {
         return CErrorCode::Damaged;
     }
+    return Replace(document.GetSettings(), &document);
+}
+
+int ConfigService::Replace(const Settings& settings, const SettingsDocument* pImported)
+{
     const Settings before = m_working;
-    m_working = document.GetSettings();
-    const int nResult = Save(&document);
+    m_working = settings;
+    const int nResult = Save(pImported);
     if (nResult != CErrorCode::Success && nResult != CErrorCode::NotYetSafe)
     {
         m_working = before;

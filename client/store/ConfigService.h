@@ -56,6 +56,10 @@ public:
     /// \return as SaveAll, or Damaged when the document cannot be understood, in which case nothing has changed
     int Import(const QByteArray& content, QString* pError);
 
+    /// Replaces all records and saves.
+    /// \return as SaveAll; the records stay what they were when nothing is stored
+    int Replace(const Settings& settings) { return Replace(settings, nullptr); }
+
     /// The current records as a document.
     QByteArray Export() const;
 
@@ -67,6 +71,7 @@ public:
     void SetProblemHandler(SettingsFile::ProblemHandler handler) { m_file.SetProblemHandler(std::move(handler)); }
 
 private:
+    int Replace(const Settings& settings, const SettingsDocument* pImported);
     int Save(const SettingsDocument* pImported);
     void ApplyAutoStart(bool bBefore);
 

@@ -105,10 +105,10 @@ private:
 
 } // namespace
 
-QByteArray ToJsonText(const QVariantMap& document)
+QByteArray ToJsonText(const QVariant& value)
 {
     Writer writer;
-    writer.Add(document);
+    writer.Add(value);
     return writer.GetText() + '\n';
 }
 

@@ -4,6 +4,10 @@
 <context>
     <name>Client</name>
     <message>
+        <source>The settings cannot be changed</source>
+        <translation>无法更改设置</translation>
+    </message>
+    <message>
         <source>The data folder &apos;%1&apos; is no folder.</source>
         <translation>数据文件夹“%1”不是文件夹。</translation>
     </message>
@@ -69,6 +73,18 @@
     <message>
         <source>Write all settings to a file.</source>
         <translation>将全部设置写入文件。</translation>
+    </message>
+    <message>
+        <source>Print one setting.</source>
+        <translation>输出一项设置。</translation>
+    </message>
+    <message>
+        <source>Change one setting; may be repeated.</source>
+        <translation>更改一项设置；可重复使用。</translation>
+    </message>
+    <message>
+        <source>Print a JSON schema of the settings.</source>
+        <translation>输出设置的 JSON 架构。</translation>
     </message>
     <message>
         <source>Show this help.</source>
@@ -298,6 +314,17 @@
     <message>
         <source>Camera %1</source>
         <translation>摄像机 %1</translation>
+    </message>
+</context>
+<context>
+    <name>SettingValue</name>
+    <message>
+        <source>There is no setting '%1'.</source>
+        <translation>没有名为“%1”的设置。</translation>
+    </message>
+    <message>
+        <source>Impossible value of '%1': '%2'.</source>
+        <translation>“%1”的值不可能为“%2”。</translation>
     </message>
 </context>
 <context>

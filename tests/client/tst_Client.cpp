@@ -1,6 +1,9 @@
 #include "support/ChangedSettings.h"
 #include "support/ClientProcess.h"
 
+#include <client/store/ConfigService.h>
+#include <client/store/SettingsSchema.h>
+
 #include <QImage>
 
 using namespace LocalConfigClient;
@@ -33,6 +36,12 @@ private slots:
 
     void DumpShowsDefaultsAtFirst();
     void ImportDumpExport();
+    void SettingsAreChangedAndRead();
+    void AWrongChangeChangesNothing_data();
+    void AWrongChangeChangesNothing();
+    void NothingIsChangedBesideAnotherClient();
+    void NothingIsChangedWhereDefaultsStandIn();
+    void TheSchemaIsPrinted();
     void ImportKeepsTheLastGeneration();
     void PathsAreThoseOfTheCaller();
     void ScreenshotShowsTheDialog_data();
@@ -105,6 +114,78 @@ void tst_Client::ImportDumpExport()
     run = Client({"--export", m_pOther->filePath("out.json")});
     QCOMPARE(run.nExitCode, 0);
     QCOMPARE(Snapshot(m_pOther->path()).value("out.json"), document);
+}
+
+void tst_Client::SettingsAreChangedAndRead()
+{
+    Put(Path("settings.json"), Document(ChangedSettings()));
+    SRun run = Client({"--set", "video.nDefaultSplit=9", "--set", u8"snapshot.picturePath=/a b/\u5ba2"});
+    QCOMPARE(run.listErrors, QStringList());
+    QCOMPARE(run.nExitCode, 0);
+    Settings expected = ChangedSettings();
+    expected.video.nDefaultSplit = 9;
+    expected.snapshot.picturePath = u8"/a b/\u5ba2";
+    QCOMPARE(Snapshot(m_pFolder->path()).value("settings.json"), Document(expected));
+    QCOMPARE(Client({"--get", "video.nDefaultSplit"}).output, QByteArray("9\n"));
+    run = Client({"--get", "snapshot.picturePath"});
+    QCOMPARE(run.output, QByteArray(u8"/a b/\u5ba2\n"));
+    QCOMPARE(run.listErrors, QStringList());
+}
+
+void tst_Client::AWrongChangeChangesNothing_data()
+{
+    QTest::addColumn<QStringList>("listArguments");
+    QTest::addColumn<QString>("strNamed");
+    QTest::newRow("read an unknown name") << QStringList{"--get", "video.n"} << "video.n";
+    QTest::newRow("unknown name") << QStringList{"--set", "video.n=1"} << "video.n";
+    QTest::newRow("impossible value") << QStringList{"--set", "video.nDefaultSplit=x"} << "video.nDefaultSplit";
+    QTest::newRow("a good one and a wrong one")
+        << QStringList{"--set", "video.nDefaultSplit=9", "--set", "video.n=1"} << "video.n";
+}
+
+void tst_Client::AWrongChangeChangesNothing()
+{
+    QFETCH(QStringList, listArguments);
+    QFETCH(QString, strNamed);
+    const SRun run = Client(listArguments);
+    QCOMPARE(run.nExitCode, 1);
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY2(run.listErrors.first().contains(strNamed), qPrintable(run.listErrors.first()));
+    QCOMPARE(run.output, QByteArray());
+    QVERIFY(Snapshot(m_pFolder->path()).isEmpty());
+}
+
+void tst_Client::NothingIsChangedBesideAnotherClient()
+{
+    const ConfigService other(m_pFolder->path(), SettingsFile::ReadWrite);
+    const SRun run = Client({"--set", "video.nDefaultSplit=9"});
+    QCOMPARE(run.nExitCode, 1);
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY2(run.listErrors.first().contains("nother client"), qPrintable(run.listErrors.first()));
+    QVERIFY(!QFile::exists(Path("settings.json")));
+}
+
+void tst_Client::NothingIsChangedWhereDefaultsStandIn()
+{
+    Put(Path("settings.json"), "damaged");
+    for (const QStringList& listArguments :
+         {QStringList{"--set", "video.nDefaultSplit=9"}, QStringList{"--get", "video.nDefaultSplit"}})
+    {
+        const SRun run = Client(listArguments);
+        QCOMPARE(run.nExitCode, 1);
+        QCOMPARE(run.output, QByteArray());
+        QCOMPARE(run.listErrors.size(), 1);
+        QVERIFY2(run.listErrors.first().contains("damaged"), qPrintable(run.listErrors.first()));
+        QCOMPARE(Snapshot(m_pFolder->path()).value("settings.json"), QByteArray("damaged"));
+    }
+}
+
+void tst_Client::TheSchemaIsPrinted()
+{
+    const SRun run = Client({"--schema"});
+    QCOMPARE(run.nExitCode, 0);
+    QCOMPARE(run.output, GetSettingsSchema());
+    QVERIFY(Snapshot(m_pFolder->path()).isEmpty());
 }
 
 void tst_Client::ImportKeepsTheLastGeneration()

@@ -12,6 +12,8 @@ private slots:
     void NothingOpensTheWindow();
     void Actions_data();
     void Actions();
+    void OneSettingIsRead();
+    void SettingsAreChanged();
     void Options();
     void Servers_data();
     void Servers();
@@ -41,6 +43,7 @@ void tst_CommandLine::Actions_data()
     QTest::newRow("dump") << QStringList{"--dump"} << int(CommandLine::Dump) << QString();
     QTest::newRow("import") << QStringList{"--import", "a b.json"} << int(CommandLine::Import) << "a b.json";
     QTest::newRow("export") << QStringList{"--export", "b.json"} << int(CommandLine::Export) << "b.json";
+    QTest::newRow("schema") << QStringList{"--schema"} << int(CommandLine::ShowSchema) << QString();
     QTest::newRow("help") << QStringList{"--help"} << int(CommandLine::ShowHelp) << QString();
     QTest::newRow("version") << QStringList{"--version"} << int(CommandLine::ShowVersion) << QString();
 }
@@ -55,6 +58,25 @@ void tst_CommandLine::Actions()
     QVERIFY2(CommandLine::Parse(listArguments, result, strError), qPrintable(strError));
     QCOMPARE(int(result.eAction), nAction);
     QCOMPARE(result.strFile, strFile);
+}
+
+void tst_CommandLine::OneSettingIsRead()
+{
+    CommandLine result;
+    QString strError;
+    QVERIFY2(CommandLine::Parse({"--get", "video.nDefaultSplit"}, result, strError), qPrintable(strError));
+    QCOMPARE(result.eAction, CommandLine::Get);
+    QCOMPARE(result.strSetting, QString("video.nDefaultSplit"));
+}
+
+void tst_CommandLine::SettingsAreChanged()
+{
+    CommandLine result;
+    QString strError;
+    QVERIFY2(CommandLine::Parse({"--set", "a.b=1=2", "--set=c="}, result, strError), qPrintable(strError));
+    QCOMPARE(result.eAction, CommandLine::Set);
+    QCOMPARE(result.listChanges, (QList<QPair<QString, QString>>{{"a.b", "1=2"}, {"c", ""}}));
+    QVERIFY(result.strFile.isEmpty());
 }
 
 void tst_CommandLine::Options()
@@ -121,6 +143,11 @@ void tst_CommandLine::BadInputGetsOneLine_data()
     QTest::newRow("value for a flag") << QStringList{"--dump=1"} << "dump";
     QTest::newRow("two actions") << QStringList{"--dump", "--export", "x"} << "export";
     QTest::newRow("option twice") << QStringList{"--skin", "White", "--skin", "White"} << "skin";
+    QTest::newRow("change without a value") << QStringList{"--set", "video.nDefaultSplit"} << "NAME=VALUE";
+    QTest::newRow("change without a name") << QStringList{"--set", "=4"} << "NAME=VALUE";
+    QTest::newRow("second change without a value") << QStringList{"--set", "a=1", "--set", "b"} << "'b'";
+    QTest::newRow("two settings to read") << QStringList{"--get", "a", "--get", "b"} << "get";
+    QTest::newRow("reading and changing") << QStringList{"--get", "a", "--set", "b=1"} << "set";
     QTest::newRow("section text") << QStringList{"--screenshot", "x", "--section", "one"} << "one";
     QTest::newRow("section -1") << QStringList{"--screenshot", "x", "--section", "-1"} << "-1";
     QTest::newRow("section 9") << QStringList{"--screenshot", "x", "--section", "9"} << "9";

@@ -1,6 +1,4 @@
-#include "support/ChangedSettings.h"
-
-#include <client/store/SettingsDocument.h>
+#include "support/WrongDocuments.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -12,43 +10,6 @@ using namespace LocalConfigClient;
 
 namespace
 {
-
-/// Walks a document and lists the path of every field, with the field's JSON.
-void ListLeaves(const QString& strPath, const QJsonValue& json, QMap<QString, QJsonValue>& mapLeaves)
-{
-    if (!json.isObject())
-    {
-        mapLeaves.insert(strPath, json);
-        return;
-    }
-    const QJsonObject object = json.toObject();
-    for (auto it = object.constBegin(); it != object.constEnd(); ++it)
-    {
-        ListLeaves(strPath.isEmpty() ? it.key() : strPath + '/' + it.key(), *it, mapLeaves);
-    }
-}
-
-QJsonValue Replace(const QJsonValue& json, QStringList listPath, const QJsonValue& value)
-{
-    if (listPath.isEmpty())
-    {
-        return value;
-    }
-    QJsonObject object = json.toObject();
-    const QString strKey = listPath.takeFirst();
-    object.insert(strKey, Replace(object.value(strKey), listPath, value));
-    return object;
-}
-
-QByteArray ToBytes(const QJsonValue& json)
-{
-    return QJsonDocument(json.toObject()).toJson();
-}
-
-QJsonObject FromBytes(const QByteArray& content)
-{
-    return QJsonDocument::fromJson(content).object();
-}
 
 /// Stands for a value of any type where an aggregate is initialised.
 struct SAnyValue
@@ -99,13 +60,6 @@ int CountListed()
     return nFields;
 }
 
-QByteArray ChangedDocument()
-{
-    SettingsDocument document;
-    document.SetSettings(ChangedSettings());
-    return document.Serialize();
-}
-
 } // namespace
 
 class tst_SettingsDocument : public QObject
@@ -148,7 +102,7 @@ void tst_SettingsDocument::DefaultsRoundTrip()
 void tst_SettingsDocument::EveryFieldRoundTrips()
 {
     SettingsDocument document;
-    QCOMPARE(document.Parse(ChangedDocument()), SettingsDocument::Good);
+    QCOMPARE(document.Parse(Document(ChangedSettings())), SettingsDocument::Good);
     const Settings settings = document.GetSettings();
     QVERIFY(settings == ChangedSettings());
     QCOMPARE(settings.record.recordPath, ChangedSettings().record.recordPath);
@@ -162,7 +116,7 @@ void tst_SettingsDocument::EveryFieldCounts()
     QMap<QString, QJsonValue> mapDefault;
     QMap<QString, QJsonValue> mapChanged;
     ListLeaves(QString(), FromBytes(SettingsDocument().Serialize()).value("sections"), mapDefault);
-    ListLeaves(QString(), FromBytes(ChangedDocument()).value("sections"), mapChanged);
+    ListLeaves(QString(), FromBytes(Document(ChangedSettings())).value("sections"), mapChanged);
     QVERIFY(mapDefault.size() >= 28 + 20 + 6 + 9 + 11 + 5 + 1 + 5 + 1);
     for (auto it = mapDefault.constBegin(); it != mapDefault.constEnd(); ++it)
     {
@@ -191,8 +145,8 @@ void tst_SettingsDocument::EveryFieldIsListed()
 void tst_SettingsDocument::TheSameSettingsGiveTheSameBytes()
 {
     SettingsDocument document;
-    document.Parse(ChangedDocument());
-    QCOMPARE(document.Serialize(), ChangedDocument());
+    document.Parse(Document(ChangedSettings()));
+    QCOMPARE(document.Serialize(), Document(ChangedSettings()));
 }
 
 void tst_SettingsDocument::NamesOfTheDocument()
@@ -285,48 +239,12 @@ void tst_SettingsDocument::ExtremeNumbers()
 
 void tst_SettingsDocument::WrongTypesAreFound_data()
 {
-    // Each field of the document, with every value that is not of its kind.
     QTest::addColumn<QString>("strPath");
     QTest::addColumn<QByteArray>("content");
-    QMap<QString, QJsonValue> mapLeaves;
-    const QJsonObject root = FromBytes(ChangedDocument());
-    ListLeaves(QString(), root, mapLeaves);
-    const QMap<QString, QJsonValue> mapWrong = {{"null", QJsonValue()},
-                                                {"true", true},
-                                                {"text", "text"},
-                                                {"array", QJsonArray()},
-                                                {"object", QJsonObject()},
-                                                {"fraction", 1.5},
-                                                {"too large", 4294967296.0},
-                                                {"too small", -2147483649.0},
-                                                {"number", 3}};
-    for (auto it = mapLeaves.constBegin(); it != mapLeaves.constEnd(); ++it)
+    for (const SWrongDocument& wrong : WrongDocuments())
     {
-        for (auto wrong = mapWrong.constBegin(); wrong != mapWrong.constEnd(); ++wrong)
-        {
-            const bool bNumber = it->isDouble();
-            const bool bFits = (it->isBool() && wrong.key() == "true") || (it->isString() && wrong.key() == "text") ||
-                               (bNumber && wrong.key() == "number");
-            if (!bFits)
-            {
-                QTest::addRow("%s: %s", qPrintable(it.key()), qPrintable(wrong.key()))
-                    << it.key() << ToBytes(Replace(root, it.key().split('/'), *wrong));
-            }
-        }
+        QTest::newRow(wrong.name.constData()) << wrong.strPath << wrong.content;
     }
-    for (const char* pszPath : {"sections", "sections/basic", "sections/alarm/flashCategories",
-                                "sections/alarm/alarmSounds", "sections/alarm/alarmSounds/3"})
-    {
-        QTest::addRow("%s: array", pszPath)
-            << pszPath << ToBytes(Replace(root, QString(pszPath).split('/'), QJsonArray()));
-    }
-    QTest::newRow("base64") << "sections/record/recordPath"
-                            << ToBytes(
-                                   Replace(root, {"sections", "record", "recordPath"}, QJsonObject{{"base64", "%%%"}}));
-    QTest::newRow("negative unsigned") << "sections/basic/hostOwned1"
-                                       << ToBytes(Replace(root, {"sections", "basic", "hostOwned1"}, -1));
-    QTest::newRow("byte") << "sections/alarm/alarmSounds/3/hostOwned4"
-                          << ToBytes(Replace(root, {"sections", "alarm", "alarmSounds", "3", "hostOwned4"}, 256));
 }
 
 void tst_SettingsDocument::WrongTypesAreFound()
@@ -358,11 +276,11 @@ void tst_SettingsDocument::DamagedDocumentsAreFound_data()
     QTest::newRow("version 0") << QByteArray(R"({"version": 0, "sections": {}})");
     QTest::newRow("version text") << QByteArray(R"({"version": "1", "sections": {}})");
     QTest::newRow("version fraction") << QByteArray(R"({"version": 1.5, "sections": {}})");
-    QTest::newRow("trailing garbage") << ChangedDocument() + "x";
+    QTest::newRow("trailing garbage") << Document(ChangedSettings()) + "x";
     QTest::newRow("not UTF-8") << QByteArray("{\"version\": 1, \"sections\": {\"\xff\xfe\": 1}}");
     QTest::newRow("infinity") << QByteArray(R"({"version": 1, "sections": {"basic": {"skin": 1e999}}})");
     QTest::newRow("nested too deep") << QByteArray(5000, '[') + QByteArray(5000, ']');
-    const QByteArray good = ChangedDocument();
+    const QByteArray good = Document(ChangedSettings());
     for (int nSize : {1, 2, good.size() / 3, good.size() / 2, good.size() - 3})
     {
         QTest::addRow("cut off at %d", nSize) << good.left(nSize);
@@ -382,7 +300,7 @@ void tst_SettingsDocument::DamagedDocumentsAreFound()
 void tst_SettingsDocument::AByteOrderMarkIsNoDamage()
 {
     SettingsDocument document;
-    QCOMPARE(document.Parse("\xef\xbb\xbf" + ChangedDocument()), SettingsDocument::Good);
+    QCOMPARE(document.Parse("\xef\xbb\xbf" + Document(ChangedSettings())), SettingsDocument::Good);
     QVERIFY(document.GetSettings() == ChangedSettings());
 }
 
@@ -395,7 +313,7 @@ void tst_SettingsDocument::ANewerDocumentIsTold()
 void tst_SettingsDocument::ADamagedDocumentChangesNothing()
 {
     SettingsDocument document;
-    document.Parse(ChangedDocument());
+    document.Parse(Document(ChangedSettings()));
     QCOMPARE(document.Parse(R"({"version": 1, "sections": {"basic": {"skin": 2, "clientSize": "big"}}})"),
              SettingsDocument::Damaged);
     QVERIFY(document.GetSettings() == ChangedSettings());
