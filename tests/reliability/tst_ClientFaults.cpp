@@ -21,9 +21,7 @@ private slots:
     void init() { Reset(); }
 
     void AReadOnlyFolderLosesNothing();
-#ifndef Q_OS_WIN // a disk is made to fail by a preloaded library
     void AFullDiskLosesNothing();
-#endif
     void ASecondClientLosesNothing();
 #ifdef Q_OS_LINUX // where a process tells how much memory it has had
     void AFloodFromTheServerTakesNoMemory();
@@ -46,8 +44,6 @@ void tst_ClientFaults::AReadOnlyFolderLosesNothing()
     QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
 }
 
-#ifndef Q_OS_WIN
-
 void tst_ClientFaults::AFullDiskLosesNothing()
 {
     Put(Path("settings.json"), Document(ChangedSettings()));
@@ -63,8 +59,6 @@ void tst_ClientFaults::AFullDiskLosesNothing()
     QVERIFY(QFile::remove(Path("settings.lock"))); // which stays, but holds nothing
     QCOMPARE(Snapshot(m_pFolder->path()), mapBefore);
 }
-
-#endif
 
 void tst_ClientFaults::ASecondClientLosesNothing()
 {

@@ -27,16 +27,11 @@ private slots:
     void FoldersAreMade();
     void AReadOnlyFolderIsReported();
     void AFileInPlaceOfTheFolderIsReported();
-#ifndef Q_OS_WIN // a disk is made to fail by a preloaded library
     void WhatWasWrittenSurvivesAFault_data();
     void WhatWasWrittenSurvivesAFault();
-#endif
 
 private:
-    QString Path(const char* pszName = "file") const
-    {
-        return m_pFolder->filePath(pszName);
-    }
+    QString Path(const char* pszName = "file") const { return m_pFolder->filePath(pszName); }
     QByteArray Get(const char* pszName = "file") const
     {
         QFile file(Path(pszName));
@@ -112,8 +107,6 @@ void tst_GrowingFile::AFileInPlaceOfTheFolderIsReported()
     QCOMPARE(CGrowingFile::MakeFolder(Path("file/a")), int(CErrorCode::FolderMissing));
 }
 
-#ifndef Q_OS_WIN
-
 void tst_GrowingFile::WhatWasWrittenSurvivesAFault_data()
 {
     QTest::addColumn<QByteArray>("fault");
@@ -135,8 +128,6 @@ void tst_GrowingFile::WhatWasWrittenSurvivesAFault()
     qunsetenv("KV_FAULT");
     QCOMPARE(Get(), QByteArray("kept"));
 }
-
-#endif
 
 QTEST_GUILESS_MAIN(tst_GrowingFile)
 
