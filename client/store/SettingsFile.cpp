@@ -223,7 +223,7 @@ int SettingsFile::SetAside(const QByteArray& damaged)
     const int nPut = PutInPlace(lastGood.isEmpty() ? m_document.Serialize() : lastGood);
     if (!IsStored(nPut))
     {
-        QFile::remove(strDamaged);
+        CAtomicFile::Remove(strDamaged);
     }
     return nPut;
 }
@@ -297,7 +297,7 @@ int SettingsFile::TakeOverFromDisk(QByteArray& onDisk)
     if (nRead != CErrorCode::Success && nRead != CErrorCode::FileMissing)
     {
         m_strHindrance = DescribeUnreadable(nRead);
-        return CErrorCode::Unreadable;
+        return nRead == CErrorCode::InUse ? CErrorCode::InUse : CErrorCode::Unreadable;
     }
     const bool bChanged = onDisk != m_onDisk;
     m_bNotYetSafe = m_bNotYetSafe || bChanged;
@@ -354,7 +354,7 @@ int SettingsFile::WriteGenerations(const QByteArray& onDisk, const QByteArray& c
 bool SettingsFile::IsOwnFile(const QString& strPath) const
 {
     const QFileInfo target(CAtomicFile::GetTarget(strPath));
-    if (QDir(target.path()).canonicalPath() != QDir(m_strFolder).canonicalPath())
+    if (!CAtomicFile::IsSame(target.path(), m_strFolder))
     {
         return false;
     }

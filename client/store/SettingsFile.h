@@ -49,16 +49,16 @@ public:
     /// Stores settings.
     /// \param pImported  where not null, a document whose unknown keys are stored, too
     /// \return CErrorCode::Success; NotYetSafe when they are stored, but a power cut may still undo that; else
-    ///         DiskFull, NoPermission, FolderMissing, IoError, NotAFile, Locked, Unreadable, ChangedElsewhere, and
-    ///         nothing is stored
+    ///         DiskFull, NoPermission, InUse, FolderMissing, IoError, NotAFile, Locked, Unreadable,
+    ///         ChangedElsewhere, and nothing is stored
     int Save(const Settings& settings, const SettingsDocument* pImported);
 
     /// What keeps changes from being saved, as far as it is known; it says more than the code of a save. Empty when
     /// nothing does, or nothing more is known.
     const QString& GetHindrance() const { return m_strHindrance; }
 
-    /// Whether a file is one that the client keeps in the data folder, and so no place for anything else. Links are
-    /// followed, those to nothing included.
+    /// Whether a file is one that the client keeps in the data folder, and so no place for anything else, however it is
+    /// written. Links are followed, those to nothing included.
     bool IsOwnFile(const QString& strPath) const;
 
 private:

@@ -55,7 +55,7 @@ int WriteTemporary(const QString& strTarget, const QString& strModel, const QByt
     if (nResult != CErrorCode::Success)
     {
         file.close();
-        QFile::remove(strTemporary);
+        RemoveFile(strTemporary);
     }
     return nResult;
 }
@@ -76,12 +76,12 @@ int MoveToTarget(const QString& strTemporary, const QString& strTarget, CAtomicF
         nResult = MoveOver(strTemporary, strTarget);
         if (nResult != CErrorCode::Success && bReserve)
         {
-            QFile::remove(strTarget);
+            RemoveFile(strTarget);
         }
     }
     if (nResult != CErrorCode::Success)
     {
-        QFile::remove(strTemporary);
+        RemoveFile(strTemporary);
     }
     return nResult;
 }
@@ -125,7 +125,7 @@ void RemoveTemporaries(const QDir& folder, const QString& strBegin)
     {
         if (pattern.match(strName).hasMatch())
         {
-            QFile::remove(folder.filePath(strName));
+            RemoveFile(folder.filePath(strName));
         }
     }
 }
@@ -168,7 +168,7 @@ int CAtomicFile::WriteAndKeep(const QString& strFile, const QByteArray& content,
     nResult = Keep(strTarget, before, strName);
     if (nResult != CErrorCode::Success)
     {
-        QFile::remove(strTemporary);
+        RemoveFile(strTemporary);
         return nResult;
     }
     nResult = MoveToTarget(strTemporary, strTarget, FollowLink);
@@ -190,7 +190,7 @@ int CAtomicFile::Keep(const QString& strFile, const QByteArray& content, const Q
         return Place(strName, strTarget, content, ReplaceName);
     }
     const int nResult = MoveOver(strTemporary, strName);
-    QFile::remove(strTemporary); // which is still there, too, where both names stand for one file already
+    RemoveFile(strTemporary); // which is still there, too, where both names stand for one file already
     return nResult;
 }
 
@@ -206,7 +206,12 @@ QString CAtomicFile::GetTarget(const QString& strFile)
 {
     QString strTarget;
     FollowLinks(strFile, strTarget);
-    return strTarget;
+    return GetRealPath(strTarget);
+}
+
+bool CAtomicFile::IsSame(const QString& strOne, const QString& strOther)
+{
+    return IsSameFile(strOne, strOther);
 }
 
 int CAtomicFile::Read(const QString& strFile, QByteArray& content)
@@ -242,8 +247,7 @@ int CAtomicFile::Remove(const QString& strFile)
     {
         return CErrorCode::NotAFile;
     }
-    ClearSystemError();
-    return QFile::remove(strFile) ? int(CErrorCode::Success) : GetSystemError();
+    return RemoveFile(strFile);
 }
 
 void CAtomicFile::RemoveLeftovers(const QString& strFile)

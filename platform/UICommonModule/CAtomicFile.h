@@ -28,9 +28,8 @@ public:
     /// user. After a failure the old file is as it was and no temporary file is left.
     ///
     /// \param strModel  a file whose permissions and owner a new one gets; that file need not exist
-    /// \return CErrorCode::Success, or DiskFull, NoPermission, FolderMissing, IoError, NotAFile, FileExists (of
-    /// NewName);
-    ///         NotYetSafe when the new file stands there and only its name may not be on the disk yet
+    /// \return CErrorCode::Success, or DiskFull, NoPermission, InUse, FolderMissing, IoError, NotAFile, FileExists (of
+    ///         NewName); NotYetSafe when the new file stands there and only its name may not be on the disk yet
     static int Write(const QString& strFile, const QByteArray& content, Target eTarget = FollowLink,
                      const QString& strModel = {});
 
@@ -51,16 +50,21 @@ public:
     static int Flush(const QString& strFile);
 
     /// Reads a regular file; anything else (a folder, a device, a pipe) is not opened.
-    /// \return CErrorCode::Success, or NoPermission, Unreadable, IoError, TooLarge; FileMissing only where nothing of
-    ///         that name exists. \a content is then empty
+    /// \return CErrorCode::Success, or NoPermission, InUse, Unreadable, IoError, TooLarge; FileMissing only where
+    /// nothing
+    ///         of that name exists. \a content is then empty
     static int Read(const QString& strFile, QByteArray& content);
 
     /// Removes a file; a folder stays.
-    /// \return CErrorCode::Success, also when there is no such file, or NoPermission, IoError, NotAFile
+    /// \return CErrorCode::Success, also when there is no such file, or NoPermission, InUse, IoError, NotAFile
     static int Remove(const QString& strFile);
 
-    /// Where a chain of links ends, whether or not something is there; a file that is no link is its own target.
+    /// Where a chain of links ends, whether or not something is there, by the name that the system itself uses; a file
+    /// that is no link is its own target.
     static QString GetTarget(const QString& strFile);
+
+    /// Whether two names stand for one file or folder that is there.
+    static bool IsSame(const QString& strOne, const QString& strOther);
 
     /// Removes what killed writers of a file have left beside it. For a caller who knows that nobody is writing now.
     static void RemoveLeftovers(const QString& strFile);

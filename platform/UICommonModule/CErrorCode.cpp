@@ -27,6 +27,7 @@ constexpr SDescription g_arrDescriptions[] = {
     {CErrorCode::TooLarge, QT_TRANSLATE_NOOP("CErrorCode", "the file is too large")},
     {CErrorCode::FileExists, QT_TRANSLATE_NOOP("CErrorCode", "there is a file of that name already")},
     {CErrorCode::NotAFile, QT_TRANSLATE_NOOP("CErrorCode", "a folder or device has the name of the file")},
+    {CErrorCode::InUse, QT_TRANSLATE_NOOP("CErrorCode", "another program is using the file")},
 };
 
 } // namespace

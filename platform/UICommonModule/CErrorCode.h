@@ -30,7 +30,8 @@ public:
         NotYetSafe = 11,      ///< the file is written, but a power cut may still undo that
         TooLarge = 12,        ///< the file is larger than any that the client would write
         FileExists = 13,      ///< there is a file of that name already
-        NotAFile = 14         ///< a folder or a device has the name that a file should have
+        NotAFile = 14,        ///< a folder or a device has the name that a file should have
+        InUse = 15            ///< another program keeps the file to itself
     };
 
     /// A text extended by what is known of a code: "Failed to save config: the disk is full (code 2)".

@@ -10,7 +10,8 @@ namespace UICommonMdl
 {
 
 /// What the operating systems do differently below CAtomicFile and CGrowingFile. Every int is a CErrorCode. A file that
-/// is opened here does not know its name.
+/// is opened here does not know its name. Where programs can keep a file to themselves, those that do are waited for,
+/// but not longer than a second; InUse says that they have not let go of it.
 
 void ClearSystemError();
 
@@ -48,17 +49,27 @@ bool IsNameOf(const QString& strFile, const QFile& file);
 /// \return Success; NotAFile for a chain without an end; else what GetSystemError makes of the failure
 int FollowLinks(const QString& strFile, QString& strTarget);
 
+/// The path by which the system itself calls a file, which need not be there: without what it overlooks in a name, and
+/// with the long name for a short one.
+QString GetRealPath(const QString& strFile);
+
+/// Whether two names stand for one file or folder that is there.
+bool IsSameFile(const QString& strOne, const QString& strOther);
+
 /// Whether what has a name may be written over; a link of that name is followed.
 /// \return Success, also where nothing has that name; NotAFile; else what GetSystemError makes of the failure
 int CheckReplaceable(const QString& strFile, bool& bExists);
 
-/// Gives an open file the mode of another one, and its owner and group as far as the system lets this user. A model
-/// that is missing, or is no regular file, says nothing.
+/// Gives an open file the mode of another one, and its owner and group as far as the system lets this user; where files
+/// have access lists, its list. A model that is missing, or is no regular file, says nothing.
 int CopyAttributes(const QString& strModel, QFile& file);
 
 /// Gives a file a name in the same folder, from which an older file of that name goes. A link of that name is replaced
 /// and not followed.
 int MoveOver(const QString& strFrom, const QString& strTo);
+
+/// Removes a file, or a link and not what it leads to.
+int RemoveFile(const QString& strFile);
 
 /// Gives a file's content a second name that nobody has yet.
 int Link(const QString& strFile, const QString& strName);

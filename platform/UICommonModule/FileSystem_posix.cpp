@@ -341,6 +341,20 @@ int FollowLinks(const QString& strFile, QString& strTarget)
     return CErrorCode::NotAFile;
 }
 
+QString GetRealPath(const QString& strFile)
+{
+    return strFile; // a name is what it says
+}
+
+bool IsSameFile(const QString& strOne, const QString& strOther)
+{
+    struct stat one = {};
+    struct stat other = {};
+    return ::stat(QFile::encodeName(strOne).constData(), &one) == 0 &&
+           ::stat(QFile::encodeName(strOther).constData(), &other) == 0 && one.st_dev == other.st_dev &&
+           one.st_ino == other.st_ino;
+}
+
 int CheckReplaceable(const QString& strFile, bool& bExists)
 {
     const QByteArray path = QFile::encodeName(strFile);
@@ -387,6 +401,11 @@ int MoveOver(const QString& strFrom, const QString& strTo)
 {
     const int nResult = std::rename(QFile::encodeName(strFrom).constData(), QFile::encodeName(strTo).constData());
     return nResult == 0 ? int(CErrorCode::Success) : GetSystemError();
+}
+
+int RemoveFile(const QString& strFile)
+{
+    return ::unlink(QFile::encodeName(strFile).constData()) == 0 ? int(CErrorCode::Success) : GetSystemError();
 }
 
 int Link(const QString& strFile, const QString& strName)

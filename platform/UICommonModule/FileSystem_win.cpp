@@ -7,6 +7,8 @@
 
 #include <fcntl.h>
 #include <io.h>
+#include <optional>
+#include <vector>
 #include <windows.h>
 
 namespace UICommonMdl
@@ -17,6 +19,8 @@ namespace
 
 constexpr DWORD g_nQuotaExceeded = 1295; // ERROR_DISK_QUOTA_EXCEEDED, which some SDKs do not declare
 constexpr int g_nMaxLinks = 40;
+constexpr ULONGLONG g_nPatience = 1000; // milliseconds for scanners, indexers and backups to let go of a file
+constexpr DWORD g_nPause = 20;
 constexpr DWORD g_nShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 std::wstring Native(const QString& strPath)
@@ -52,11 +56,92 @@ bool IsFolder(const std::wstring& path)
     return nAttributes != INVALID_FILE_ATTRIBUTES && (nAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+bool IsMissing(DWORD nError)
+{
+    return nError == ERROR_FILE_NOT_FOUND || nError == ERROR_PATH_NOT_FOUND;
+}
+
+bool IsHeld(DWORD nError)
+{
+    return nError == ERROR_SHARING_VIOLATION || nError == ERROR_LOCK_VIOLATION || nError == ERROR_USER_MAPPED_FILE;
+}
+
+/// Tries again as long as another program holds the file, but not for ever.
+template <class Attempt>
+bool Persist(Attempt attempt)
+{
+    const ULONGLONG nStart = ::GetTickCount64();
+    while (!attempt())
+    {
+        const DWORD nError = ::GetLastError();
+        if (!IsHeld(nError) || ::GetTickCount64() - nStart > g_nPatience)
+        {
+            ::SetLastError(nError);
+            return false;
+        }
+        ::Sleep(g_nPause);
+    }
+    return true;
+}
+
+/// Where a file cannot be replaced the system says "access denied", too, when another program has it open.
+bool MoveOnce(const std::wstring& from, const std::wstring& to)
+{
+    if (::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0)
+    {
+        return true;
+    }
+    const DWORD nError = ::GetLastError();
+    const DWORD nAttributes = ::GetFileAttributesW(to.c_str());
+    bool bHeld = false;
+    if (nError == ERROR_ACCESS_DENIED && (nAttributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) == 0)
+    {
+        const HANDLE hTarget = ::CreateFileW(to.c_str(), DELETE, g_nShareAll, nullptr, OPEN_EXISTING,
+                                             FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+        bHeld = hTarget != INVALID_HANDLE_VALUE || IsHeld(::GetLastError());
+        if (hTarget != INVALID_HANDLE_VALUE)
+        {
+            ::CloseHandle(hTarget);
+        }
+    }
+    ::SetLastError(bHeld ? ERROR_SHARING_VIOLATION : nError);
+    return false;
+}
+
+/// What the system knows a file or folder by, whatever its name is; nothing when it cannot be found.
+std::optional<BY_HANDLE_FILE_INFORMATION> GetIdentity(const QString& strPath)
+{
+    BY_HANDLE_FILE_INFORMATION information = {};
+    const HANDLE hFile = ::CreateFileW(Native(strPath).c_str(), FILE_READ_ATTRIBUTES, g_nShareAll, nullptr,
+                                       OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (hFile == INVALID_HANDLE_VALUE)
+    {
+        return std::nullopt;
+    }
+    const bool bKnown = ::GetFileInformationByHandle(hFile, &information) != 0;
+    ::CloseHandle(hFile);
+    return bKnown ? std::make_optional(information) : std::nullopt;
+}
+
+/// Calls a function of the system's that fills a buffer with a text and returns its length.
+template <class Fill>
+QString GetText(Fill fill)
+{
+    std::vector<wchar_t> buffer(MAX_PATH);
+    DWORD nLength = fill(buffer.data(), DWORD(buffer.size()));
+    if (nLength > buffer.size())
+    {
+        buffer.resize(nLength);
+        nLength = fill(buffer.data(), DWORD(buffer.size()));
+    }
+    return nLength < buffer.size() ? QString::fromWCharArray(buffer.data(), int(nLength)) : QString();
+}
+
 /// Why a file could not be opened to be read.
 int GetReadError(const std::wstring& path)
 {
     const DWORD nError = ::GetLastError();
-    if (nError == ERROR_FILE_NOT_FOUND || nError == ERROR_PATH_NOT_FOUND)
+    if (IsMissing(nError))
     {
         // A link that leads nowhere is there all the same.
         return ::GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES ? CErrorCode::FileMissing
@@ -87,8 +172,11 @@ int GetSystemError()
         return CErrorCode::DiskFull;
     case ERROR_ACCESS_DENIED:
     case ERROR_WRITE_PROTECT:
-    case ERROR_SHARING_VIOLATION:
         return CErrorCode::NoPermission;
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+    case ERROR_USER_MAPPED_FILE:
+        return CErrorCode::InUse;
     case ERROR_PATH_NOT_FOUND:
     case ERROR_FILE_NOT_FOUND:
         return CErrorCode::FolderMissing;
@@ -103,9 +191,13 @@ int GetSystemError()
 int OpenToRead(const QString& strFile, QFile& file)
 {
     const std::wstring path = Native(strFile);
-    const HANDLE hFile =
-        ::CreateFileW(path.c_str(), GENERIC_READ, g_nShareAll, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (hFile == INVALID_HANDLE_VALUE)
+    HANDLE hFile = INVALID_HANDLE_VALUE;
+    const bool bOpened = Persist([&] {
+        hFile = ::CreateFileW(path.c_str(), GENERIC_READ, g_nShareAll, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL,
+                              nullptr);
+        return hFile != INVALID_HANDLE_VALUE;
+    });
+    if (!bOpened)
     {
         return GetReadError(path);
     }
@@ -175,7 +267,7 @@ int FollowLinks(const QString& strFile, QString& strTarget)
     for (int n = 0; n < g_nMaxLinks; ++n)
     {
         const QFileInfo info(strTarget);
-        if (!info.isSymLink())
+        if (!info.isSymbolicLink())
         {
             return CErrorCode::Success;
         }
@@ -184,20 +276,79 @@ int FollowLinks(const QString& strFile, QString& strTarget)
     return CErrorCode::NotAFile;
 }
 
+QString GetRealPath(const QString& strFile)
+{
+    // Final dots and blanks go.
+    const std::wstring path = Native(strFile);
+    QString strPath = QDir::fromNativeSeparators(GetText(
+        [&path](wchar_t* pBuffer, DWORD nSize) { return ::GetFullPathNameW(path.c_str(), nSize, pBuffer, nullptr); }));
+    // What follows a colon is a stream of the file.
+    const int nStream = strPath.indexOf(QLatin1Char(':'), strPath.lastIndexOf(QLatin1Char('/')) + 1);
+    strPath.truncate(nStream < 0 ? strPath.size() : nStream);
+    const std::wstring full = Native(strPath);
+    const QString strLong =
+        GetText([&full](wchar_t* pBuffer, DWORD nSize) { return ::GetLongPathNameW(full.c_str(), pBuffer, nSize); });
+    return strLong.isEmpty() ? strPath : QDir::fromNativeSeparators(strLong);
+}
+
+bool IsSameFile(const QString& strOne, const QString& strOther)
+{
+    const auto one = GetIdentity(strOne);
+    const auto other = GetIdentity(strOther);
+    return one && other && one->dwVolumeSerialNumber == other->dwVolumeSerialNumber &&
+           one->nFileIndexHigh == other->nFileIndexHigh && one->nFileIndexLow == other->nFileIndexLow;
+}
+
 int CheckReplaceable(const QString& strFile, bool& bExists)
 {
-    const QFileInfo info(strFile);
-    bExists = info.exists();
-    if (bExists && !info.isFile())
+    const std::wstring path = Native(strFile);
+    const DWORD nAttributes = ::GetFileAttributesW(path.c_str());
+    bExists = nAttributes != INVALID_FILE_ATTRIBUTES;
+    if (!bExists)
+    {
+        return IsMissing(::GetLastError()) ? int(CErrorCode::Success) : GetSystemError();
+    }
+    if ((nAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
     {
         return CErrorCode::NotAFile;
     }
-    return !bExists || info.isWritable() ? CErrorCode::Success : CErrorCode::NoPermission;
+    const HANDLE hFile = ::CreateFileW(path.c_str(), FILE_WRITE_DATA, g_nShareAll, nullptr, OPEN_EXISTING,
+                                       FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (hFile == INVALID_HANDLE_VALUE)
+    {
+        return IsHeld(::GetLastError()) ? int(CErrorCode::Success) : GetSystemError(); // it may be let go of
+    }
+    ::CloseHandle(hFile);
+    return CErrorCode::Success;
 }
 
-int CopyAttributes(const QString& /*strModel*/, QFile& /*file*/)
+int CopyAttributes(const QString& strModel, QFile& file)
 {
-    return CErrorCode::Success; // MoveOver leaves the access list that stands there
+    // Here the mode is an access list. A file system without any, and one where this user may not set any, has its own.
+    const std::wstring model = Native(strModel);
+    DWORD nSize = 0;
+    ::GetFileSecurityW(model.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &nSize);
+    std::vector<BYTE> buffer(nSize);
+    const auto hFile = reinterpret_cast<HANDLE>(::_get_osfhandle(file.handle()));
+    const HANDLE hList =
+        nSize == 0 || IsFolder(model) ? INVALID_HANDLE_VALUE : ::ReOpenFile(hFile, WRITE_DAC, g_nShareAll, 0);
+    if (hList == INVALID_HANDLE_VALUE)
+    {
+        return CErrorCode::Success;
+    }
+    SECURITY_DESCRIPTOR_CONTROL nControl = 0;
+    DWORD nRevision = 0;
+    const bool bRead =
+        ::GetFileSecurityW(model.c_str(), DACL_SECURITY_INFORMATION, buffer.data(), nSize, &nSize) != 0 &&
+        ::GetSecurityDescriptorControl(buffer.data(), &nControl, &nRevision) != 0;
+    if (bRead && (nControl & SE_DACL_AUTO_INHERITED) != 0)
+    {
+        ::SetSecurityDescriptorControl(buffer.data(), SE_DACL_AUTO_INHERIT_REQ, SE_DACL_AUTO_INHERIT_REQ);
+    }
+    const bool bSet = bRead && ::SetKernelObjectSecurity(hList, DACL_SECURITY_INFORMATION, buffer.data()) != 0;
+    const int nResult = bSet ? int(CErrorCode::Success) : GetSystemError();
+    ::CloseHandle(hList);
+    return nResult;
 }
 
 int MoveOver(const QString& strFrom, const QString& strTo)
@@ -208,11 +359,13 @@ int MoveOver(const QString& strFrom, const QString& strTo)
     {
         return CErrorCode::NotAFile;
     }
-    const DWORD nFlags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    const bool bMoved =
-        ::ReplaceFileW(to.c_str(), from.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) != 0 ||
-        ::MoveFileExW(from.c_str(), to.c_str(), nFlags) != 0;
-    return bMoved ? int(CErrorCode::Success) : GetSystemError();
+    return Persist([&] { return MoveOnce(from, to); }) ? int(CErrorCode::Success) : GetSystemError();
+}
+
+int RemoveFile(const QString& strFile)
+{
+    const std::wstring path = Native(strFile);
+    return Persist([&path] { return ::DeleteFileW(path.c_str()) != 0; }) ? int(CErrorCode::Success) : GetSystemError();
 }
 
 int Link(const QString& strFile, const QString& strName)

@@ -1,9 +1,11 @@
 #include "support/ClientWindow.h"
 #include "support/FakeHost.h"
+#include "support/Permissions.h"
 #include "support/Wheel.h"
 
 #include <KvGui/KvCheckBox.h>
 #include <KvGui/KvLineEdit.h>
+#include <UICommonModule/CAtomicFile.h>
 #include <client/session/LoginManager.h>
 
 #include <QComboBox>
@@ -37,6 +39,9 @@ private slots:
     void TheWheelOverANumberScrollsTheDialog();
     void CancelKeepsWhatIsStored();
     void ASecondClientIsToldOnSaving();
+#ifdef Q_OS_WIN // where programs keep files to themselves
+    void AHeldDocumentIsToldOnSaving();
+#endif
     void ASaveWithoutTheIniFileSucceedsAndTellsOnce();
     void TheDialogLocksAndUnlocksWithTheConnection();
     void TheDialogOpensLockedWhileDisconnected();
@@ -239,6 +244,38 @@ void tst_SettingsInTheClient::ASecondClientIsToldOnSaving()
     QCOMPARE(spy.first().first().toString(),
              QString("Failed to save config: another client uses the same data folder (code 4)"));
 }
+
+#ifdef Q_OS_WIN
+
+void tst_SettingsInTheClient::AHeldDocumentIsToldOnSaving()
+{
+    Store(Settings());
+    SHOWN_CLIENT;
+    const auto stored = [] {
+        QByteArray content;
+        UICommonMdl::CAtomicFile::Read("settings.json", content);
+        return content;
+    };
+    const auto save = [&window] {
+        CNotificationSpy spy;
+        InDialog(window, [](QDialog& dialog) {
+            auto* pLogin = Find<KVGUI::KvCheckBox>(dialog, "autologinChkBox");
+            QTest::mouseClick(pLogin, Qt::LeftButton, {}, QPoint(8, pLogin->height() / 2));
+            Click(dialog, "btnOk");
+        });
+        return spy.isEmpty() ? QString() : spy.first().first().toString();
+    };
+    {
+        const CHeldFile held("settings.json");
+        QCOMPARE(save(), QString("Failed to save config: another program is using the file (code 15)"));
+    }
+    QCOMPARE(stored(), Document(Settings()));
+    QCOMPARE(QDir().entryList({"settings.json*"}, QDir::Files), QStringList{"settings.json"});
+    QCOMPARE(save(), QString());
+    QVERIFY(stored() != Document(Settings()));
+}
+
+#endif
 
 void tst_SettingsInTheClient::ASaveWithoutTheIniFileSucceedsAndTellsOnce()
 {

@@ -60,6 +60,10 @@
         <translation>同名的文件夹或设备已存在</translation>
     </message>
     <message>
+        <source>another program is using the file</source>
+        <translation>另一个程序正在使用该文件</translation>
+    </message>
+    <message>
         <source>%1: %2 (code %3)</source>
         <translation>%1：%2（代码 %3）</translation>
     </message>

@@ -139,7 +139,7 @@ void tst_ConfigRecovery::AnUnreadableDocumentIsNotOverwritten()
 {
     Put(Document(3));
     {
-        const CUnreadable unreadable(Path("settings.json"));
+        const CPermissions unreadable(Path("settings.json"), QFile::WriteOwner);
         ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
         QCOMPARE(service.GetFile().GetProblems().size(), 1);
         SetClientSize(service, 0);

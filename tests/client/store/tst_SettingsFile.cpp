@@ -1,5 +1,6 @@
 // The files of the data folder: what they are, whose they are, and what must never be written through.
 
+#include "support/Permissions.h"
 #include "support/StoreFixture.h"
 
 #include <UICommonModule/CErrorCode.h>
@@ -46,6 +47,11 @@ private slots:
 #ifndef Q_OS_WIN // links need a right of their own there, and Wine makes none
     void OwnFilesAreKnownBehindLinks_data();
     void OwnFilesAreKnownBehindLinks();
+#endif
+#ifdef Q_OS_WIN // where a file has many names
+    void OwnFilesAreKnownHoweverTheyAreWritten_data();
+    void OwnFilesAreKnownHoweverTheyAreWritten();
+    void OwnFilesAreKnownByAnotherPath();
 #endif
 
 private:
@@ -332,6 +338,54 @@ void tst_SettingsFile::OwnFilesAreKnownBehindLinks()
     QVERIFY(QFile::link(Path(strTarget), other.filePath("one")));
     QVERIFY(QFile::link("one", other.filePath("two")));
     QCOMPARE(service.GetFile().IsOwnFile(other.filePath("two")), bOwn);
+}
+
+#endif
+
+#ifdef Q_OS_WIN
+
+void tst_SettingsFile::OwnFilesAreKnownHoweverTheyAreWritten_data()
+{
+    QTest::addColumn<QString>("strName");
+    QTest::addColumn<bool>("bOwn");
+    QTest::newRow("letter case") << "SETTINGS.json" << true;
+    QTest::newRow("final dot") << "settings.json." << true;
+    QTest::newRow("final blank") << "settings.json " << true;
+    QTest::newRow("stream") << "settings.json:notes" << true;
+    QTest::newRow("the stream") << "settings.json::$DATA" << true;
+    QTest::newRow("final dot of a missing file") << "settings.json.bak." << true;
+    QTest::newRow("stream of a missing file") << "Localcfg.ini:notes" << true;
+    QTest::newRow("set aside") << "SETTINGS.JSON.DAMAGED-20260101-000000." << true;
+    QTest::newRow("short name") << QString() << true;
+    QTest::newRow("another file") << "settings.json.txt" << false;
+    QTest::newRow("a stream of another file") << "notes.txt:settings.json" << false;
+}
+
+void tst_SettingsFile::OwnFilesAreKnownHoweverTheyAreWritten()
+{
+    QFETCH(QString, strName);
+    QFETCH(bool, bOwn);
+    Put(Document(1));
+    if (strName.isEmpty())
+    {
+        wchar_t szShort[MAX_PATH];
+        const std::wstring path = QDir::toNativeSeparators(Path("settings.json")).toStdWString();
+        QVERIFY(::GetShortPathNameW(path.c_str(), szShort, MAX_PATH) > 0);
+        strName = QFileInfo(QString::fromWCharArray(szShort)).fileName();
+        QVERIFY(strName.compare("settings.json", Qt::CaseInsensitive) != 0);
+    }
+    const ConfigService service(m_pFolder->path(), SettingsFile::ReadOnly);
+    QCOMPARE(service.GetFile().IsOwnFile(Path(strName)), bOwn);
+}
+
+void tst_SettingsFile::OwnFilesAreKnownByAnotherPath()
+{
+    Put(Document(1));
+    const ConfigService service(m_pFolder->path(), SettingsFile::ReadOnly);
+    const QString strFolder = R"(\\?\)" + QDir::toNativeSeparators(m_pFolder->path());
+    QVERIFY(service.GetFile().IsOwnFile(strFolder + R"(\settings.json)"));
+    QVERIFY(service.GetFile().IsOwnFile(strFolder + R"(\settings.json.bak)"));
+    QVERIFY(!service.GetFile().IsOwnFile(strFolder + R"(\notes.txt)"));
 }
 
 #endif

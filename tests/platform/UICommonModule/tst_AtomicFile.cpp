@@ -6,6 +6,7 @@
 #include <UICommonModule/CErrorCode.h>
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -45,15 +46,13 @@ private slots:
     void AReadOnlyFolderIsReported();
     void AReadOnlyFileIsReported();
     void AFolderInPlaceOfTheFileIsReported();
-#ifndef Q_OS_WIN // a closed folder there does not close what is in it
     void AFolderBehindAClosedOneIsNotMissing();
-#endif
 #ifndef Q_OS_WIN // no limit of a file's size there
     void ALimitOfSizeCountsAsFull();
 #endif
-#ifndef Q_OS_WIN // a disk is made to fail by a preloaded library
     void FaultsLoseNothing_data();
     void FaultsLoseNothing();
+#ifndef Q_OS_WIN // the system flushes folders there
     void AFolderThatIsNotFlushedIsTold();
 #endif
 #ifndef Q_OS_WIN // there are no modes and no root there
@@ -71,9 +70,7 @@ private slots:
 
     void KeepingSurvivesTheNextWrite();
     void KeepingTwiceLeavesNoTemporaryFile();
-#ifndef Q_OS_WIN // a disk is made to fail by a preloaded library
     void KeepingCopiesWhereAFileHasOneName();
-#endif
     void AFolderInTheWayOfKeepingIsReported();
     void LeftoversOfKilledWritersGo();
 
@@ -84,14 +81,23 @@ private slots:
 #ifndef Q_OS_WIN // no streams have names among the files there
     void APipeIsNotOpened();
 #endif
-#ifndef Q_OS_WIN // a closed folder there does not close what is in it
     void AFileInAClosedFolderIsNotMissing();
-#endif
 #ifndef Q_OS_WIN // links need a right of their own there, and Wine makes none
     void ALinkToNothingIsNotMissing();
     void ALinkToItselfIsNotMissing();
 #endif
     void ATooLargeFileIsNotRead();
+
+#ifdef Q_OS_WIN
+    void AFileThatIsLetGoIsReplaced();
+    void AFileThatIsHeldIsNotReplaced();
+    void AFileThatIsLetGoIsRead();
+    void AFileThatIsHeldIsNotRead();
+    void TheAccessListStays();
+    void AFileWithARefusingAccessListIsReported();
+    void OtherNamesOfAFileAreUnderstood_data();
+    void OtherNamesOfAFileAreUnderstood();
+#endif
 
     void RemovesAFile();
     void RemovingAMissingFileIsNoError();
@@ -219,16 +225,14 @@ void tst_AtomicFile::AFolderInPlaceOfTheFileIsReported()
     QVERIFY(QFileInfo(Path()).isDir());
 }
 
-#ifndef Q_OS_WIN
-
 void tst_AtomicFile::AFolderBehindAClosedOneIsNotMissing()
 {
     QVERIFY(QDir().mkpath(Path("closed/folder")));
-    QVERIFY(QFile::setPermissions(Path("closed"), QFile::Permissions()));
-    const int nResult = CAtomicFile::Write(Path("closed/folder/file.txt"), "new");
-    QFile::setPermissions(Path("closed"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    QCOMPARE(nResult, int(CErrorCode::NoPermission));
+    const CPermissions closed(Path("closed"), {});
+    QCOMPARE(CAtomicFile::Write(Path("closed/folder/file.txt"), "new"), int(CErrorCode::NoPermission));
 }
+
+#ifndef Q_OS_WIN
 
 void tst_AtomicFile::ALimitOfSizeCountsAsFull()
 {
@@ -246,6 +250,8 @@ void tst_AtomicFile::ALimitOfSizeCountsAsFull()
     QCOMPARE(Get(), QByteArray("old"));
     QCOMPARE(Names(), QStringList{"file.txt"});
 }
+
+#endif
 
 void tst_AtomicFile::FaultsLoseNothing_data()
 {
@@ -270,8 +276,6 @@ void tst_AtomicFile::FaultsLoseNothing()
     QCOMPARE(Names(), QStringList{"file.txt"});
 }
 
-#endif
-
 void tst_AtomicFile::ReadsAFile()
 {
     Put(QByteArrayLiteral("some\0bytes"));
@@ -291,7 +295,7 @@ void tst_AtomicFile::AMissingFileIsReported()
 void tst_AtomicFile::AnUnreadableFileIsReported()
 {
     Put("secret");
-    const CUnreadable unreadable(Path());
+    const CPermissions unreadable(Path(), QFile::WriteOwner);
     QByteArray content;
     QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::NoPermission));
 }
@@ -313,18 +317,16 @@ void tst_AtomicFile::APipeIsNotOpened()
     QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::Unreadable));
 }
 
+#endif
+
 void tst_AtomicFile::AFileInAClosedFolderIsNotMissing()
 {
     QVERIFY(QDir().mkpath(Path("closed")));
-    Put("secret", "closed/file.txt");
-    QVERIFY(QFile::setPermissions(Path("closed"), QFile::Permissions()));
+    Put("text", "closed/file.txt");
+    const CPermissions closed(Path("closed"), {});
     QByteArray content;
-    const int nResult = CAtomicFile::Read(Path("closed/file.txt"), content);
-    QFile::setPermissions(Path("closed"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    QCOMPARE(nResult, int(CErrorCode::NoPermission));
+    QCOMPARE(CAtomicFile::Read(Path("closed/file.txt"), content), int(CErrorCode::NoPermission));
 }
-
-#endif
 
 void tst_AtomicFile::RemovesAFile()
 {
@@ -483,8 +485,6 @@ void tst_AtomicFile::KeepingTwiceLeavesNoTemporaryFile()
     QCOMPARE(Names(), (QStringList{"file.txt", "kept.txt"}));
 }
 
-#ifndef Q_OS_WIN
-
 void tst_AtomicFile::KeepingCopiesWhereAFileHasOneName()
 {
     Put("old");
@@ -495,8 +495,6 @@ void tst_AtomicFile::KeepingCopiesWhereAFileHasOneName()
     QCOMPARE(QFile::permissions(Path("kept.txt")), QFile::permissions(Path()));
     QCOMPARE(Names(), (QStringList{"file.txt", "kept.txt"}));
 }
-
-#endif
 
 void tst_AtomicFile::AFolderInTheWayOfKeepingIsReported()
 {
@@ -545,6 +543,109 @@ void tst_AtomicFile::ATooLargeFileIsNotRead()
     QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::Success));
     QCOMPARE(content.size(), int(CAtomicFile::g_nMaxSize));
 }
+
+#ifdef Q_OS_WIN
+
+void tst_AtomicFile::AFileThatIsLetGoIsReplaced()
+{
+    Put("old");
+    const CHeldFile held(Path(), 300);
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::Success));
+    QCOMPARE(Get(), QByteArray("new"));
+    QCOMPARE(Names(), QStringList{"file.txt"});
+}
+
+void tst_AtomicFile::AFileThatIsHeldIsNotReplaced()
+{
+    Put("old");
+    QElapsedTimer timer;
+    timer.start();
+    {
+        const CHeldFile held(Path());
+        QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::InUse));
+    }
+    QVERIFY(timer.elapsed() >= 1000 && timer.elapsed() < 3000);
+    QCOMPARE(Get(), QByteArray("old"));
+    QCOMPARE(Names(), QStringList{"file.txt"});
+}
+
+void tst_AtomicFile::AFileThatIsLetGoIsRead()
+{
+    Put("text");
+    const CHeldFile held(Path(), 300);
+    QByteArray content;
+    QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::Success));
+    QCOMPARE(content, QByteArray("text"));
+}
+
+void tst_AtomicFile::AFileThatIsHeldIsNotRead()
+{
+    Put("text");
+    const CHeldFile held(Path());
+    QByteArray content;
+    QCOMPARE(CAtomicFile::Read(Path(), content), int(CErrorCode::InUse));
+    QCOMPARE(content, QByteArray());
+}
+
+void tst_AtomicFile::TheAccessListStays()
+{
+    Put("other", "other.txt");
+    Put("old");
+    QVERIFY(SetPermissions(Path(), QFile::ReadOwner | QFile::WriteOwner));
+    const QString strList = GetAccessList(Path());
+    QVERIFY(strList != GetAccessList(Path("other.txt")));
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::Success));
+    QCOMPARE(GetAccessList(Path()), strList);
+}
+
+void tst_AtomicFile::AFileWithARefusingAccessListIsReported()
+{
+    Put("old");
+    QVERIFY(SetPermissions(Path(), QFile::ReadOwner));
+    QCOMPARE(CAtomicFile::Write(Path(), "new"), int(CErrorCode::NoPermission));
+    QCOMPARE(Get(), QByteArray("old"));
+    QCOMPARE(Names(), QStringList{"file.txt"});
+}
+
+void tst_AtomicFile::OtherNamesOfAFileAreUnderstood_data()
+{
+    QTest::addColumn<QString>("strName");
+    QTest::addColumn<QString>("strReal");
+    QTest::newRow("final dots") << "missing.txt.."
+                                << "missing.txt";
+    QTest::newRow("final blanks") << "missing.txt "
+                                  << "missing.txt";
+    QTest::newRow("stream") << "missing.txt:notes"
+                            << "missing.txt";
+    QTest::newRow("the stream") << "missing.txt::$DATA"
+                                << "missing.txt";
+    QTest::newRow("way and back") << "none/../missing.txt"
+                                  << "missing.txt";
+    QTest::newRow("other separators") << ".\\missing.txt"
+                                      << "missing.txt";
+    QTest::newRow("final dots of a file") << "a long name.text."
+                                          << "a long name.text";
+    QTest::newRow("short name") << QString() << "a long name.text";
+}
+
+void tst_AtomicFile::OtherNamesOfAFileAreUnderstood()
+{
+    QFETCH(QString, strName);
+    QFETCH(QString, strReal);
+    Put("text", "a long name.text");
+    QString strPath = m_pFolder->filePath(strName);
+    if (strName.isEmpty())
+    {
+        wchar_t szShort[MAX_PATH];
+        const std::wstring path = QDir::toNativeSeparators(Path("a long name.text")).toStdWString();
+        QVERIFY(::GetShortPathNameW(path.c_str(), szShort, MAX_PATH) > 0);
+        strPath = QString::fromWCharArray(szShort);
+        QVERIFY(!strPath.endsWith("a long name.text"));
+    }
+    QCOMPARE(CAtomicFile::GetTarget(strPath), m_pFolder->filePath(strReal));
+}
+
+#endif
 
 QTEST_GUILESS_MAIN(tst_AtomicFile)
 

@@ -293,7 +293,7 @@ void tst_LocalIniFile::AnUnreadableFileIsNotOverwritten()
 {
     Put("[H]\nprecious=1\n");
     {
-        const CUnreadable unreadable("test.ini");
+        const CPermissions unreadable("test.ini", QFile::WriteOwner);
         QVERIFY(!CLocalIniFile::WriteValue("G", "k", "v", "test.ini"));
     }
     QCOMPARE(Get(), QByteArray("[H]\nprecious=1\n"));
