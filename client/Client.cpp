@@ -1,7 +1,7 @@
 #include "Client.h"
 
+#include "Caller.h"
 #include "MainWindow.h"
-#include "Output.h"
 #include "SystemSignals.h"
 #include <client/alarm/AlarmSounds.h>
 #include <client/session/AutoStart.h>
@@ -34,7 +34,6 @@
 #include <QTranslator>
 
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 
 using UICommonMdl::CAlarmType;
@@ -130,7 +129,7 @@ void SettleResourceFolder()
     const QString strFolder = qEnvironmentVariable(g_szResources);
     if (!strFolder.isEmpty())
     {
-        qputenv(g_szResources, QFile::encodeName(QFileInfo(strFolder).absoluteFilePath()));
+        SetEnvironment(g_szResources, QFileInfo(strFolder).absoluteFilePath());
     }
 }
 
@@ -163,7 +162,7 @@ void Client::Complain(const QString& strText)
     std::replace_if(
         strLine.begin(), strLine.end(), [](QChar ch) { return ch.category() == QChar::Other_Control; },
         QLatin1Char(' '));
-    std::fprintf(stderr, "local-config-client: %s\n", qUtf8Printable(strLine));
+    PrintError(QStringLiteral("local-config-client: %1\n").arg(strLine));
 }
 
 bool Client::EnterDataFolder()
@@ -490,6 +489,7 @@ int Client::TakeScreenshot()
     }
     LocalConfig::CLocalConfig dialog(nullptr);
     dialog.Init(&service, &userManager);
+    dialog.setAttribute(Qt::WA_DontShowOnScreen);
     dialog.show();
 
     QEventLoop loop;

@@ -1,9 +1,9 @@
+#include "Caller.h"
 #include "Client.h"
 #include "SystemSignals.h"
 
 #include <QApplication>
 
-#include <cstdio>
 #include <cstdlib>
 
 using namespace LocalConfigClient;
@@ -58,14 +58,9 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationName(QStringLiteral("local-config-client"));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.0.0"));
 
-    QStringList listArguments;
-    for (int n = 1; n < argc; ++n)
-    {
-        listArguments += QString::fromLocal8Bit(argv[n]);
-    }
     CommandLine commandLine;
     QString strError;
-    if (!CommandLine::Parse(listArguments, commandLine, strError))
+    if (!CommandLine::Parse(GetArguments(argc, argv), commandLine, strError))
     {
         Client::Complain(strError);
         return g_nExitUsage;
@@ -78,12 +73,12 @@ int main(int argc, char* argv[])
         const QCoreApplication application(nOwnArguments, argv);
         if (commandLine.eAction == CommandLine::ShowHelp)
         {
-            std::fputs(qUtf8Printable(CommandLine::GetHelp()), stdout);
+            PrintText(CommandLine::GetHelp());
             return 0;
         }
         if (commandLine.eAction == CommandLine::ShowVersion)
         {
-            std::printf("local-config-client %s\n", qUtf8Printable(QCoreApplication::applicationVersion()));
+            PrintText(QStringLiteral("local-config-client %1\n").arg(QCoreApplication::applicationVersion()));
             return 0;
         }
         return Client(commandLine).RunWithoutDisplay();

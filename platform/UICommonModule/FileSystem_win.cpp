@@ -19,13 +19,22 @@ namespace
 
 constexpr DWORD g_nQuotaExceeded = 1295; // ERROR_DISK_QUOTA_EXCEEDED, which some SDKs do not declare
 constexpr int g_nMaxLinks = 40;
+constexpr int g_nLongPath = 240;        // letters; a little less than MAX_PATH, for folders must leave room for names
 constexpr ULONGLONG g_nPatience = 1000; // milliseconds for scanners, indexers and backups to let go of a file
 constexpr DWORD g_nPause = 20;
 constexpr DWORD g_nShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
+/// A path for the functions of the system, which take a long one only when it says that it is complete.
 std::wstring Native(const QString& strPath)
 {
-    return QDir::toNativeSeparators(strPath).toStdWString();
+    QString strNative = QDir::toNativeSeparators(strPath);
+    if (strPath.size() >= g_nLongPath && !strNative.startsWith(QLatin1String("\\\\?\\")))
+    {
+        const QString strFull = QDir::toNativeSeparators(QDir::cleanPath(QDir().absoluteFilePath(strPath)));
+        const bool bShare = strFull.startsWith(QLatin1String("\\\\"));
+        strNative = bShare ? QLatin1String("\\\\?\\UNC") + strFull.mid(1) : QLatin1String("\\\\?\\") + strFull;
+    }
+    return strNative.toStdWString();
 }
 
 int Adopt(HANDLE hFile, int nFlags, QIODevice::OpenMode eMode, QFile& file)

@@ -74,6 +74,8 @@ private slots:
     void AMissingFolderIsNotMade();
     void AnImportMakesTheFolder();
     void MessagesAreInTheLanguageOfTheIniFile();
+    void MessagesAreInTheEncodingOfTheOutput();
+    void NamesOfManyScriptsAreUnderstood();
 #ifndef Q_OS_WIN // no streams have names among the files there
     void ADumpThatCannotBePrintedFails();
 #endif
@@ -524,6 +526,28 @@ void tst_Client::MessagesAreInTheLanguageOfTheIniFile()
     QVERIFY2(listEnglish.value(0).contains("the folder does not exist"), qPrintable(listEnglish.value(0)));
     QCOMPARE(listChinese.size(), 1);
     QVERIFY(listChinese != listEnglish);
+}
+
+void tst_Client::MessagesAreInTheEncodingOfTheOutput()
+{
+    const QString strFile = Path(QString::fromUtf8("客户-клиент.json"));
+    const SRun run = Client({"--language", "zh_CN", "--import", strFile});
+    QCOMPARE(run.listErrors.size(), 1);
+    QVERIFY2(run.listErrors.first().contains(QString::fromUtf8("无法读取“%1”").arg(strFile)),
+             qPrintable(run.listErrors.first()));
+}
+
+void tst_Client::NamesOfManyScriptsAreUnderstood()
+{
+    const QString strFolder = m_pOther->filePath(QString::fromUtf8("客户 клиент été"));
+    const QByteArray document = Document(ChangedSettings());
+    Put(m_pOther->filePath("in.json"), document);
+    QCOMPARE(Run({"--import", m_pOther->filePath("in.json"), "--data-dir", strFolder}, m_environment).nExitCode, 0);
+    QCOMPARE(Snapshot(strFolder).value("settings.json"), document);
+    QCOMPARE(Run({"--dump", "--data-dir", strFolder}, m_environment).output, document);
+    const QString strCopy = QDir(strFolder).filePath(QString::fromUtf8("ελληνικά.json"));
+    QCOMPARE(Run({"--export", strCopy, "--data-dir", strFolder}, m_environment).nExitCode, 0);
+    QCOMPARE(Snapshot(strFolder).value(QFileInfo(strCopy).fileName()), document);
 }
 
 #ifndef Q_OS_WIN

@@ -7,6 +7,25 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
+/// Text that the client writes where this program reads it.
+inline QString DecodeOutput(const QByteArray& output)
+{
+#ifdef Q_OS_WIN
+    const UINT nConsole = ::GetConsoleOutputCP();
+    const UINT nEncoding = nConsole == 0 ? UINT(CP_UTF8) : nConsole;
+    QString strText(output.size(), QLatin1Char(' '));
+    strText.resize(::MultiByteToWideChar(nEncoding, 0, output.constData(), output.size(),
+                                         reinterpret_cast<wchar_t*>(strText.data()), strText.size()));
+    return strText.remove('\r');
+#else
+    return QString::fromLocal8Bit(output);
+#endif
+}
+
 /// What came of one run of the client's program.
 struct SRun
 {
@@ -27,7 +46,7 @@ inline SRun Run(const QStringList& listArguments, const QProcessEnvironment& env
         run.nExitCode = process.exitCode();
     }
     run.output = process.readAllStandardOutput();
-    run.listErrors = QString::fromLocal8Bit(process.readAllStandardError()).split('\n', Qt::SkipEmptyParts);
+    run.listErrors = DecodeOutput(process.readAllStandardError()).split('\n', Qt::SkipEmptyParts);
     return run;
 }
 
