@@ -1,0 +1,11 @@
+# Writes a form whose classes are the ones of Qt that its own classes extend. Usage: cmake -DFORM=.. -DPLAIN=.. -P
+file(READ "${FORM}" form)
+string(REGEX MATCHALL "<class>[A-Za-z:]+</class>[ \n]*<extends>[A-Za-z]+</extends>" classes "${form}")
+foreach(pair IN LISTS classes)
+    string(REGEX MATCH "<class>([A-Za-z:]+)</class>[ \n]*<extends>([A-Za-z]+)</extends>" pair "${pair}")
+    string(REPLACE "class=\"${CMAKE_MATCH_1}\"" "class=\"${CMAKE_MATCH_2}\"" form "${form}")
+endforeach()
+string(REGEX REPLACE "<property name=\"browseMode\" stdset=\"0\">[^/]*</enum>[ \n]*</property>" "" form "${form}")
+string(REGEX REPLACE "<customwidgets>.*</customwidgets>" "" form "${form}")
+string(REGEX REPLACE "<class>([A-Za-z]+)</class>" "<class>Plain::\\1</class>" form "${form}")
+file(WRITE "${PLAIN}" "${form}")
