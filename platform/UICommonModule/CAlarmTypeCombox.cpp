@@ -120,6 +120,7 @@ void CAlarmTypeCombox::SetChoice(const std::optional<SChoice>& choice)
     update();
     if (GetShownText() != strBefore)
     {
+        updateGeometry();
         QAccessibleValueChangeEvent event(this, GetShownText());
         QAccessible::updateAccessibility(&event);
     }
@@ -150,6 +151,20 @@ bool CAlarmTypeCombox::ChooseItem(int nMainItem, int nSubItem)
 void CAlarmTypeCombox::ClearChosenItem()
 {
     SetChoice(std::nullopt);
+}
+
+QSize CAlarmTypeCombox::sizeHint() const
+{
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QFontMetrics metrics = fontMetrics();
+    const QSize contents(metrics.horizontalAdvance(GetShownText()), metrics.height() + 2); // 2: as the base has it
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, contents, this);
+}
+
+QSize CAlarmTypeCombox::minimumSizeHint() const
+{
+    return sizeHint();
 }
 
 void CAlarmTypeCombox::showPopup()

@@ -52,6 +52,10 @@ public:
     void SetTextPixmap(const QPixmap& pixText) { m_pixText = pixText; }
     void SetStatePixmap(const QPixmap& pixStrip) { m_pixState = pixStrip; }
 
+    /// For the text that is shown, whatever the other types are called: there may be thousands.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
     void showPopup() override;
     void hidePopup() override;
 

@@ -55,6 +55,8 @@ private slots:
     void AnUnknownItemCannotBeChosen();
     void ClearingIsSilent();
     void AChosenItemIsShown();
+    void TheSizeFollowsTheShownTextAlone();
+    void TheSizeHintHasTheHeightOfAnyBox();
     void AScreenReaderOpensTheMenu();
     void ANewMenuKeepsTheItemsOfTheBox();
     void ANewMenuKeepsAChoiceThatItHas();
@@ -236,6 +238,25 @@ void tst_AlarmTypeCombox::AChosenItemIsShown()
     m_pCombo->ClearChosenItem();
     m_pCombo->setFocus();
     QCOMPARE(m_pCombo->grab().toImage(), before);
+}
+
+void tst_AlarmTypeCombox::TheSizeFollowsTheShownTextAlone()
+{
+    m_pCombo->clear();
+    m_pCombo->addItem("a");
+    const QSize before = m_pCombo->sizeHint();
+    m_pCombo->addItem("an item that is far longer than the one that is shown");
+    QCOMPARE(m_pCombo->sizeHint(), before);
+    QCOMPARE(m_pCombo->minimumSizeHint(), before);
+    m_pCombo->setCurrentIndex(1);
+    QVERIFY(m_pCombo->sizeHint().width() > before.width());
+}
+
+void tst_AlarmTypeCombox::TheSizeHintHasTheHeightOfAnyBox()
+{
+    QComboBox box;
+    box.addItem(m_pCombo->currentText());
+    QCOMPARE(m_pCombo->sizeHint().height(), box.sizeHint().height());
 }
 
 void tst_AlarmTypeCombox::AScreenReaderOpensTheMenu()
