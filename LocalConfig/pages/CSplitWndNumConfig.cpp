@@ -3,6 +3,9 @@
 
 #include <LocalConfig/SkinStyle.h>
 
+#include <QStyle>
+#include <QVariant>
+
 namespace LocalConfig
 {
 
@@ -16,6 +19,8 @@ struct SSplitButton
 };
 
 using Form = Ui::CSplitWndNumConfig;
+
+constexpr char g_szOpened[] = "opened"; // what the sheet tells it by
 
 constexpr SSplitButton g_arrButtons[] = {
     {&Form::btnDiv1, 1},   {&Form::btnDiv4, 4},   {&Form::btnDiv6, 6},   {&Form::btnDiv8, 8},   {&Form::btnDiv9, 9},
@@ -39,6 +44,20 @@ CSplitWndNumConfig::CSplitWndNumConfig(QWidget* pParent)
 }
 
 CSplitWndNumConfig::~CSplitWndNumConfig() = default;
+
+/// The sheet's forty pictures come with the first show, because most dialogs are closed without one.
+void CSplitWndNumConfig::showEvent(QShowEvent* pEvent)
+{
+    if (!property(g_szOpened).toBool())
+    {
+        setProperty(g_szOpened, true);
+        for (const SSplitButton& button : g_arrButtons)
+        {
+            style()->polish((*m_pUi).*button.pButton);
+        }
+    }
+    QWidget::showEvent(pEvent);
+}
 
 void CSplitWndNumConfig::OnNormalClicked()
 {

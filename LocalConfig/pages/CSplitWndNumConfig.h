@@ -25,6 +25,9 @@ signals:
     /// \param splitNum  1, 4, 6, 8, 9, 13, 16, 20, 25 or 36
     void sgnSplitChanged(int splitNum);
 
+protected:
+    void showEvent(QShowEvent* pEvent) override;
+
 private slots:
     void OnNormalClicked();
 

@@ -63,6 +63,15 @@ int CountPanes(QImage image)
     return nPanes;
 }
 
+/// Whether a button shows anything on its ground.
+bool HasPicture(const QWidget& picker, int nSplit)
+{
+    QImage image(Button(picker, nSplit)->size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    Button(picker, nSplit)->render(&image, {}, {}, QWidget::RenderFlags());
+    return CountPanes(image) > 0;
+}
+
 void ButtonRows()
 {
     QTest::addColumn<int>("nIndex");
@@ -87,6 +96,9 @@ private slots:
     void AClickReportsTheCount();
     void KeysPickToo();
     void AnUnknownSenderReportsNothing();
+    void AnOpenPickerShowsThePictures_data() { ButtonRows(); }
+    void AnOpenPickerShowsThePictures();
+    void APickerThatWasNeverOpenedHasLoadedNoPicture();
     void PicturesDrawTheSplit_data();
     void PicturesDrawTheSplit();
     void StatesDiffer_data() { ButtonRows(); }
@@ -162,6 +174,28 @@ void tst_SplitPicker::AnUnknownSenderReportsNothing()
     connect(&other, SIGNAL(clicked()), &picker, SLOT(OnNormalClicked()));
     other.click();
     QCOMPARE(spy.size(), 0);
+}
+
+void tst_SplitPicker::AnOpenPickerShowsThePictures()
+{
+    QFETCH(int, nIndex);
+    CSplitWndNumConfig picker(nullptr);
+    picker.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&picker));
+    QVERIFY(HasPicture(picker, g_arrButtons[nIndex].nSplit));
+    picker.hide();
+    picker.show();
+    QVERIFY(HasPicture(picker, g_arrButtons[nIndex].nSplit));
+}
+
+void tst_SplitPicker::APickerThatWasNeverOpenedHasLoadedNoPicture()
+{
+    CSplitWndNumConfig picker(nullptr);
+    picker.ensurePolished(); // as the page does it to all that stands on it
+    for (const SButton& button : g_arrButtons)
+    {
+        QVERIFY(!HasPicture(picker, button.nSplit));
+    }
 }
 
 void tst_SplitPicker::PicturesDrawTheSplit_data()
