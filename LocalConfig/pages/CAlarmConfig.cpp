@@ -84,10 +84,9 @@ CAlarmConfig::CAlarmConfig(QWidget* pParent)
     : QWidget(pParent)
     , m_pUi(std::make_unique<Ui::CAlarmConfig>())
 {
+    PassToolWindow(this);
     m_pUi->setupUi(this);
-    setWindowFlags(Qt::Tool);
     InitControls();
-    setWindowFlags({});
     ConnectSlots();
     setObjectName(QStringLiteral("CAlarmConfig"));
     ApplySkinStyle(this);

@@ -2,6 +2,7 @@
 #include "ui_CBasicConfig.h"
 
 #include "AutoStartEntry.h"
+#include "PageHelpers.h"
 
 #include <UICommonModule/CLocalIniFile.h>
 #include <UICommonModule/Pxa.h>
@@ -56,10 +57,9 @@ CBasicConfig::CBasicConfig(QWidget* pParent)
     : QWidget(pParent)
     , m_pUi(std::make_unique<Ui::CBasicConfig>())
 {
-    setWindowFlags(Qt::Tool);
+    PassToolWindow(this);
     m_pUi->setupUi(this);
     InitControls();
-    setWindowFlags({});
 }
 
 CBasicConfig::~CBasicConfig() = default;

@@ -34,9 +34,8 @@ CCaptureConfig::CCaptureConfig(QWidget* pParent)
     : QWidget(pParent)
     , m_pUi(std::make_unique<Ui::CCaptureConfig>())
 {
-    setWindowFlags(Qt::Tool);
+    PassToolWindow(this);
     m_pUi->setupUi(this);
-    setWindowFlags({});
     InitControls();
     m_pUi->picNumEdit->installEventFilter(this);
 }

@@ -24,11 +24,10 @@ CPlaybackConfig::CPlaybackConfig(QWidget* pParent)
     : QWidget(pParent)
     , m_pUi(std::make_unique<Ui::CPlaybackConfig>())
 {
-    setWindowFlags(Qt::Tool); // before there are children that would be styled anew
+    PassToolWindow(this);
     m_pUi->setupUi(this);
     installEventFilter(this);
     InitControls();
-    setWindowFlags({});
 }
 
 CPlaybackConfig::~CPlaybackConfig() = default;

@@ -33,9 +33,8 @@ CRecordConfig::CRecordConfig(QWidget* pParent)
     : QWidget(pParent)
     , m_pUi(std::make_unique<Ui::CRecordConfig>())
 {
-    setWindowFlags(Qt::Tool);
+    PassToolWindow(this);
     m_pUi->setupUi(this);
-    setWindowFlags({});
     InitControls();
     m_pUi->maxRecSizeEdit->installEventFilter(this);
 }

@@ -1,6 +1,8 @@
 #include "CSecurityConfig.h"
 #include "ui_CSecurityConfig.h"
 
+#include "PageHelpers.h"
+
 #include <KvGui/KvCustomDialog.h>
 #include <KvGui/KvMessageBox.h>
 #include <LocalConfig/CScopedDisconnect.h>
@@ -16,9 +18,8 @@ CSecurityConfig::CSecurityConfig(QWidget* pParent)
     : QWidget(pParent)
     , m_pUi(std::make_unique<Ui::CSecurityConfig>())
 {
-    setWindowFlags(Qt::Tool);
+    PassToolWindow(this);
     m_pUi->setupUi(this);
-    setWindowFlags({});
     m_pUi->checkEncryption->setChecked(SecurityConfigInfo().encryptTransmission);
     connect(m_pUi->checkEncryption, &QCheckBox::stateChanged, this, &CSecurityConfig::OnSecurityStateChanged);
 }

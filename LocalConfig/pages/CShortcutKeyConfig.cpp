@@ -26,9 +26,8 @@ CShortcutKeyConfig::CShortcutKeyConfig(QWidget* pParent)
     : QWidget(pParent)
     , m_pUi(std::make_unique<Ui::CShortcutKeyConfig>())
 {
-    setWindowFlags(Qt::Tool);
+    PassToolWindow(this);
     m_pUi->setupUi(this);
-    setWindowFlags({});
     setObjectName(QStringLiteral("CShortcutKeyConfig"));
     ApplySkinStyle(this); // first, because a table settles its looks when it measures the headers of its model
     InitControls();

@@ -45,10 +45,9 @@ CTvWallConfig::CTvWallConfig(QWidget* pParent)
     : QWidget(pParent)
     , m_pUi(std::make_unique<Ui::CTvWallConfig>())
 {
-    setWindowFlags(Qt::Tool); // before there are children that would be styled anew
+    PassToolWindow(this);
     m_pUi->setupUi(this);
     InitControls();
-    setWindowFlags({});
 }
 
 CTvWallConfig::~CTvWallConfig() = default;

@@ -163,6 +163,12 @@ void Point(QWidget* pControl, Tell tell)
 
 } // namespace
 
+void PassToolWindow(QWidget* pPage)
+{
+    pPage->setWindowFlags(Qt::Tool);
+    pPage->setWindowFlags({});
+}
+
 void AppendColon(const QString& strColon, std::initializer_list<QLabel*> listCaptions)
 {
     for (QLabel* pCaption : listCaptions)

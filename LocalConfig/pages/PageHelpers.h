@@ -21,6 +21,9 @@ namespace LocalConfig
 
 /// What several pages do alike.
 
+/// Makes a page a tool window and at once a child again; before it has children, which would all be styled anew.
+void PassToolWindow(QWidget* pPage);
+
 /// Appends the translated colon to captions, once, when a page is built.
 void AppendColon(const QString& strColon, std::initializer_list<QLabel*> listCaptions);
 
