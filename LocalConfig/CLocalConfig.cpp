@@ -114,6 +114,8 @@ CLocalConfig::CLocalConfig(QWidget* pParent)
     , m_pUi(std::make_unique<Ui::CLocalConfig>())
     , m_vecPages(SectionCount)
 {
+    setObjectName(QStringLiteral("CLocalConfig"));
+    ApplySkinStyle(this); // before there are children that would be styled anew
     m_pUi->setupUi(GetCentralWidget());
     // The content's height counts the hidden box, too; what the shown ones leave of it stays empty below them. Qt keeps
     // to this only because no box stretches.
@@ -121,8 +123,6 @@ CLocalConfig::CLocalConfig(QWidget* pParent)
     InitDialogSize();
     SetTitle(CFormText::tr("Local Config"));
     ConnectSlots();
-    setObjectName(QStringLiteral("CLocalConfig"));
-    ApplySkinStyle(this);
 }
 
 CLocalConfig::~CLocalConfig() = default;
