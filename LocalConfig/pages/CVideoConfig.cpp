@@ -319,8 +319,12 @@ void CVideoConfig::OnSplitWndChange(int splitWndNum)
         QStringLiteral("QPushButton#btnShowSplitWnd{image: url(:/LocalConfig/tip_%1-n.svg);border:none;} "
                        "\t\t\t\t\t\tQPushButton#btnShowSplitWnd:hover{image: url(:/LocalConfig/tip_%1-h.svg);} "
                        "\t\t\t\t\t\tQPushButton#btnShowSplitWnd:pressed{image: url(:/LocalConfig/tip_%1-p.svg);} "
-                       "\t\t\t\t\t\tQPushButton#btnShowSplitWnd:disabled{image: url(:/LocalConfig/tip_%1-d.svg);}");
-    m_pUi->btnShowSplitWnd->setStyleSheet(strSheet.arg(splitWndNum));
+                       "\t\t\t\t\t\tQPushButton#btnShowSplitWnd:disabled{image: url(:/LocalConfig/tip_%1-d.svg);}")
+            .arg(splitWndNum);
+    if (m_pUi->btnShowSplitWnd->styleSheet() != strSheet) // or it would be read and its pictures drawn again
+    {
+        m_pUi->btnShowSplitWnd->setStyleSheet(strSheet);
+    }
     m_nDefaultSplit = splitWndNum;
 }
 

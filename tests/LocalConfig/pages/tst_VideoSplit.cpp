@@ -16,6 +16,7 @@ private slots:
 
     void SplitButtonStyle_data();
     void SplitButtonStyle();
+    void TheSameSplitStylesNothingAnew();
     void ThePickerIsHiddenAtFirst();
     void PickerTogglesAndStandsBelowTheButton();
     void PickingHidesThePicker();
@@ -44,6 +45,32 @@ void tst_VideoSplit::SplitButtonStyle()
                  "QPushButton#btnShowSplitWnd:hover{image: url(:/LocalConfig/tip_" + strN + "-h.svg);}" + strGap +
                  "QPushButton#btnShowSplitWnd:pressed{image: url(:/LocalConfig/tip_" + strN + "-p.svg);}" + strGap +
                  "QPushButton#btnShowSplitWnd:disabled{image: url(:/LocalConfig/tip_" + strN + "-d.svg);}");
+}
+
+void tst_VideoSplit::TheSameSplitStylesNothingAnew()
+{
+    class CStyleWatch : public QObject
+    {
+    public:
+        bool eventFilter(QObject* /*pWatched*/, QEvent* pEvent) override
+        {
+            m_nChanges += pEvent->type() == QEvent::StyleChange ? 1 : 0;
+            return false;
+        }
+
+        int m_nChanges = 0;
+    };
+
+    VideoConfigInfo record;
+    record.nDefaultSplit = 9;
+    Load(record);
+    Show();
+    CStyleWatch watch;
+    Find<QPushButton>("btnShowSplitWnd")->installEventFilter(&watch);
+    m_pPage->LoadConfig(false);
+    QCOMPARE(watch.m_nChanges, 0);
+    m_pPage->LoadConfig(true);
+    QVERIFY(watch.m_nChanges > 0);
 }
 
 void tst_VideoSplit::ThePickerIsHiddenAtFirst()
