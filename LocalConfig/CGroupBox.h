@@ -17,7 +17,8 @@ public:
     int GetIndex() const;
     void SetIndex(int nIndex);
 
-    /// Whether this is the selected section; style sheets see it as the property "select".
+    /// Whether this is the selected section; style sheets see it as the property "select", and the edges of the
+    /// selected card in the state "on".
     bool IsSelect() const;
     void SetSelect(bool bSelect);
 
@@ -26,6 +27,7 @@ signals:
     void SignalGroupBoxClicked(int iIndex);
 
 protected:
+    void paintEvent(QPaintEvent* pEvent) override;
     void mousePressEvent(QMouseEvent* pEvent) override;
 
 private:

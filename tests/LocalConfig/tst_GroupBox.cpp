@@ -19,6 +19,7 @@ private slots:
     void IndexIsKept();
     void SelectSetsTheProperty();
     void SelectPolishesOnlyOnChange();
+    void TheEdgesOfASelectedCardAreOn();
     void PressEmitsTheIndex_data();
     void PressEmitsTheIndex();
     void PressOnALabelSelects();
@@ -64,6 +65,27 @@ void tst_GroupBox::SelectPolishesOnlyOnChange()
     QCOMPARE(box.palette().color(QPalette::WindowText), QColor(1, 2, 3));
     box.SetSelect(false);
     QCOMPARE(box.palette().color(QPalette::WindowText), QColor(0, 0, 0));
+}
+
+void tst_GroupBox::TheEdgesOfASelectedCardAreOn()
+{
+    CGroupBox box(nullptr);
+    box.setStyleSheet("LocalConfig--CGroupBox { background: #0000ff; border: none; }"
+                      "LocalConfig--CGroupBox[select=\"true\"]:on { background: #ff0000; }");
+    box.resize(200, 100);
+    const QColor off(Qt::blue);
+    const QColor on(Qt::red);
+    QCOMPARE(box.grab().toImage().pixelColor(0, 50), off);
+    box.SetSelect(true);
+    const QImage image = box.grab().toImage();
+    for (int x : {0, 7, 192, 199})
+    {
+        QCOMPARE(image.pixelColor(x, 50), on);
+    }
+    for (int x : {8, 100, 191})
+    {
+        QCOMPARE(image.pixelColor(x, 50), off);
+    }
 }
 
 void tst_GroupBox::PressEmitsTheIndex_data()
