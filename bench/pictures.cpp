@@ -29,10 +29,10 @@ public:
         : m_folder(strFolder)
     {}
 
-    void Write(const QString& strName, QWidget& widget)
+    void Write(const QString& strName, QWidget& widget, const QRect& area = QRect(QPoint(), QSize(-1, -1)))
     {
         QApplication::processEvents();
-        if (!widget.grab().save(m_folder.filePath(strName + ".png")))
+        if (!widget.grab(area).save(m_folder.filePath(strName + ".png")))
         {
             qFatal("%s cannot be written", qPrintable(strName));
         }
@@ -42,7 +42,7 @@ public:
     {
         for (auto* pBox : dialog.findChildren<LocalConfig::CGroupBox*>())
         {
-            Write(strState + '-' + pBox->objectName(), *pBox);
+            Write(strState + '-' + pBox->objectName(), *pBox->parentWidget(), pBox->geometry());
         }
     }
 
