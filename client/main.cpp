@@ -1,10 +1,12 @@
 #include "Caller.h"
 #include "Client.h"
+#include "ScreenScale.h"
 #include "SystemSignals.h"
 
 #include <QApplication>
 
 #include <cstdlib>
+#include <memory>
 
 using namespace LocalConfigClient;
 
@@ -97,7 +99,10 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     g_eAction = commandLine.eAction;
     g_defaultHandler = qInstallMessageHandler(&OnMessage);
-    QApplication application(nOwnArguments, argv);
+    // A picture is as large as it is asked for, a window must fit its screen.
+    const auto pApplication = commandLine.eAction == CommandLine::OpenWindow
+                                  ? ScreenScale::MakeApplication(nOwnArguments, argv)
+                                  : std::make_unique<QApplication>(nOwnArguments, argv);
     qInstallMessageHandler(nullptr);
-    return Client(commandLine).Run(application);
+    return Client(commandLine).Run(*pApplication);
 }
