@@ -1,6 +1,7 @@
 #include "CLocalConfig.h"
 #include "ui_CLocalConfig.h"
 
+#include "CKeyboardTravel.h"
 #include "CScopedDisconnect.h"
 #include "CSkinIconEngine.h"
 #include "SectionIndex.h"
@@ -120,6 +121,7 @@ CLocalConfig::CLocalConfig(QWidget* pParent)
     // The content's height counts the hidden box, too; what the shown ones leave of it stays empty below them. Qt keeps
     // to this only because no box stretches.
     m_pUi->verticalLayout->setAlignment(Qt::AlignTop);
+    m_pTravel = new CKeyboardTravel(this, m_pUi->m_pToolListView, m_pUi->scrollArea);
     InitDialogSize();
     SetTitle(CFormText::tr("Local Config"));
     ConnectSlots();
@@ -196,6 +198,7 @@ void CLocalConfig::ConnectSlots()
     }
     connect(m_pUi->m_pToolListView, &KVGUI::KvToolListView::SignalCurrentIndexChanged, this,
             &CLocalConfig::OnToolListCurrentIndexChanged);
+    connect(m_pTravel, &CKeyboardTravel::SignalSectionEntered, this, &CLocalConfig::OnGroupBoxClicked);
     connect(this, &CLocalConfig::SignalOtherButtonClicked, this, &CLocalConfig::OnResumeClicked);
     connect(this, &CLocalConfig::SignalOkButtonClicked, this, &CLocalConfig::OnSaveBtnClicked);
     connect(this, &CLocalConfig::SignalCancelButtonClicked, this, &CLocalConfig::OnBtnCancelClicked);
@@ -462,6 +465,11 @@ void CLocalConfig::OnGroupBoxClicked(int iIndex)
         m_pUi->m_pToolListView->SetCurrentIndex(iIndex);
     }
     ChangeSelectGroupBox(iIndex);
+}
+
+bool CLocalConfig::focusNextPrevChild(bool bNext)
+{
+    return m_pTravel->MoveFocus(bNext) || KvCustomDialog::focusNextPrevChild(bNext);
 }
 
 CGroupBox* CLocalConfig::GetGroupBoxByIndex(int iIndex) const

@@ -24,6 +24,7 @@ namespace LocalConfig
 {
 
 class CGroupBox;
+class CKeyboardTravel;
 class IConfigPage;
 
 /// The "Local Config" dialog: everything that is configured on the operator's own workstation, in nine sections.
@@ -67,6 +68,7 @@ signals:
 protected:
     void showEvent(QShowEvent* pEvent) override;
     void resizeEvent(QResizeEvent* pEvent) override;
+    bool focusNextPrevChild(bool bNext) override;
 
 private slots:
     void OnGroupBoxClicked(int iIndex);
@@ -115,6 +117,7 @@ private:
     static bool IsContains(int iValue, const QWidget* pWidget);
 
     std::unique_ptr<Ui::CLocalConfig> m_pUi;
+    CKeyboardTravel* m_pTravel = nullptr;
     LocalConfigLogical::ILocalConfig* m_pLocalConfig = nullptr;
     UserLogical::IUserManager* m_pUserManager = nullptr;
     UserLogical::ILoginManager* m_pLoginManager = nullptr;

@@ -1,5 +1,7 @@
 // What both skins must be: complete, legible, and different where the eye must see a difference.
 
+#include "support/Skin.h"
+
 #include <KvGui/KvCheckBox.h>
 #include <KvGui/KvComboBox.h>
 #include <KvGui/KvLineEdit.h>
@@ -71,14 +73,6 @@ double Contrast(const QColor& one, const QColor& other)
     const double dLight = std::max(Luminance(one), Luminance(other));
     const double dDark = std::min(Luminance(one), Luminance(other));
     return (dLight + 0.05) / (dDark + 0.05);
-}
-
-void UseSkin(const QString& strSkin)
-{
-    Pxa::SetSkin(strSkin);
-    QString strSheet;
-    QVERIFY(Pxa::loadStyleSheet(Pxa::GetSkinPath("public", "KvGui.qss"), strSheet));
-    qApp->setStyleSheet(strSheet);
 }
 
 void SkinRows()

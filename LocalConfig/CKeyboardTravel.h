@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+class QScrollArea;
+class QWidget;
+
+namespace KVGUI
+{
+class KvToolListView;
+}
+
+namespace LocalConfig
+{
+
+class CGroupBox;
+
+/// The ways of the keyboard through the dialog: from the navigation list into the selected section and back, and the
+/// view that follows. The pages themselves know nothing of it.
+class CKeyboardTravel : public QObject
+{
+    Q_OBJECT
+
+public:
+    CKeyboardTravel(QWidget* pDialog, KVGUI::KvToolListView* pList, QScrollArea* pScrollArea);
+
+    /// Goes where Tab or Shift+Tab leads from a border between list and section.
+    /// \return false elsewhere, where the focus has its ordinary way
+    bool MoveFocus(bool bNext);
+
+signals:
+    /// A control of this section has got the focus.
+    void SignalSectionEntered(int nIndex);
+
+private:
+    void OnFocusChanged(QWidget* pOld, QWidget* pNow);
+    void ShowStop(const QWidget* pStop) const;
+
+    template <class Condition>
+    QWidget* FindStop(Condition condition) const;
+    QWidget* FindFirstStop(int nIndex) const;
+    bool IsInSections(const QWidget* pWidget) const;
+    static const CGroupBox* FindSection(const QWidget* pWidget);
+
+    QWidget* m_pDialog;
+    KVGUI::KvToolListView* m_pList;
+    QScrollArea* m_pScrollArea;
+    QPointer<QWidget> m_pHolder; // of the focus, also while another window has it
+    QMetaObject::Connection m_currentCell;
+};
+
+} // namespace LocalConfig
