@@ -7,6 +7,9 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QScrollArea>
+#include <QShortcut>
+
+#include <functional>
 
 namespace LocalConfig
 {
@@ -36,6 +39,13 @@ CKeyboardTravel::CKeyboardTravel(QWidget* pDialog, KVGUI::KvToolListView* pList,
     , m_pScrollArea(pScrollArea)
 {
     connect(qApp, &QApplication::focusChanged, this, &CKeyboardTravel::OnFocusChanged);
+    const auto add = [this](const QKeySequence& keys, std::function<void()> action) {
+        connect(new QShortcut(keys, m_pDialog), &QShortcut::activated, this, std::move(action));
+    };
+    add(Qt::CTRL + Qt::Key_PageUp, [this] { GoToSection(-1); });
+    add(Qt::CTRL + Qt::Key_PageDown, [this] { GoToSection(1); });
+    add(Qt::Key_F6, [this] { GoToArea(1); });
+    add(Qt::SHIFT + Qt::Key_F6, [this] { GoToArea(-1); });
 }
 
 // --- Tab
@@ -59,18 +69,20 @@ bool CKeyboardTravel::MoveFocus(bool bNext)
     return pTarget;
 }
 
-/// The first control, in the order of Tab from the navigation list, that Tab stops at and that meets a condition.
+/// The first control, in the order of Tab from the navigation list on, that Tab stops at and that meets a condition.
 template <class Condition>
 QWidget* CKeyboardTravel::FindStop(Condition condition) const
 {
-    for (QWidget* pWidget = m_pList->nextInFocusChain(); pWidget != m_pList; pWidget = pWidget->nextInFocusChain())
+    QWidget* pWidget = m_pList;
+    do
     {
         if ((pWidget->focusPolicy() & Qt::TabFocus) && !pWidget->focusProxy() && pWidget->isEnabled() &&
             pWidget->isVisibleTo(m_pDialog) && condition(pWidget))
         {
             return pWidget;
         }
-    }
+        pWidget = pWidget->nextInFocusChain();
+    } while (pWidget != m_pList);
     return nullptr;
 }
 
@@ -94,6 +106,51 @@ const CGroupBox* CKeyboardTravel::FindSection(const QWidget* pWidget)
         pWidget = pWidget->parentWidget();
     }
     return static_cast<const CGroupBox*>(pWidget);
+}
+
+// --- From section to section, and round the dialog
+
+void CKeyboardTravel::GoToSection(int nStep)
+{
+    const QModelIndex current = m_pList->currentIndex();
+    const QModelIndex target = current.sibling(current.row() + nStep, 0);
+    if (!target.isValid())
+    {
+        return;
+    }
+    m_pList->setCurrentIndex(target);
+    if (GetArea(m_pDialog->focusWidget()) != AreaList)
+    {
+        QWidget* pStop = FindFirstStop(AreaSections);
+        (pStop ? pStop : m_pList)->setFocus(Qt::ShortcutFocusReason);
+    }
+}
+
+void CKeyboardTravel::GoToArea(int nStep)
+{
+    const int nArea = GetArea(m_pDialog->focusWidget());
+    for (int n = 1; n < AreaCount; ++n) // one of them may have no control that is usable
+    {
+        if (QWidget* pStop = FindFirstStop(Area((nArea + n * nStep + AreaCount) % AreaCount)))
+        {
+            pStop->setFocus(Qt::ShortcutFocusReason);
+            return;
+        }
+    }
+}
+
+CKeyboardTravel::Area CKeyboardTravel::GetArea(const QWidget* pWidget) const
+{
+    return pWidget == m_pList ? AreaList : IsInSections(pWidget) ? AreaSections : AreaButtons;
+}
+
+/// Of the sections only the selected one counts.
+QWidget* CKeyboardTravel::FindFirstStop(Area eArea) const
+{
+    return FindStop([this, eArea](const QWidget* pWidget) {
+        return GetArea(pWidget) == eArea &&
+               (eArea != AreaSections || FindSection(pWidget)->GetIndex() == m_pList->GetCurrentIndex());
+    });
 }
 
 // --- The view

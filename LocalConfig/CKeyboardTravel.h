@@ -16,8 +16,9 @@ namespace LocalConfig
 
 class CGroupBox;
 
-/// The ways of the keyboard through the dialog: from the navigation list into the selected section and back, and the
-/// view that follows. The pages themselves know nothing of it.
+/// The ways of the keyboard through the dialog, and the view that follows. Tab leads from the navigation list into the
+/// selected section, and Shift+Tab back; Ctrl+Page Up and Ctrl+Page Down go from section to section; F6 goes round
+/// list, section and buttons. The pages know nothing of it.
 class CKeyboardTravel : public QObject
 {
     Q_OBJECT
@@ -34,6 +35,19 @@ signals:
     void SignalSectionEntered(int nIndex);
 
 private:
+    enum Area
+    {
+        AreaList,
+        AreaSections,
+        AreaButtons,
+        AreaCount
+    };
+
+    void GoToSection(int nStep);
+    void GoToArea(int nStep);
+    Area GetArea(const QWidget* pWidget) const;
+    QWidget* FindFirstStop(Area eArea) const;
+
     void OnFocusChanged(QWidget* pOld, QWidget* pNow);
     void ShowStop(const QWidget* pStop) const;
 
