@@ -3,8 +3,11 @@
 
 #include <LocalConfig/SkinStyle.h>
 
+#include <QKeyEvent>
 #include <QStyle>
 #include <QVariant>
+
+#include <algorithm>
 
 namespace LocalConfig
 {
@@ -27,6 +30,24 @@ constexpr SSplitButton g_arrButtons[] = {
     {&Form::btnDiv13, 13}, {&Form::btnDiv16, 16}, {&Form::btnDiv20, 20}, {&Form::btnDiv25, 25}, {&Form::btnDiv36, 36},
 };
 
+/// Columns and rows that an arrow key goes; none for another key.
+QPoint GetStep(int nKey)
+{
+    switch (nKey)
+    {
+    case Qt::Key_Left:
+        return {-1, 0};
+    case Qt::Key_Right:
+        return {1, 0};
+    case Qt::Key_Up:
+        return {0, -1};
+    case Qt::Key_Down:
+        return {0, 1};
+    default:
+        return {};
+    }
+}
+
 } // namespace
 
 CSplitWndNumConfig::CSplitWndNumConfig(QWidget* pParent)
@@ -37,8 +58,12 @@ CSplitWndNumConfig::CSplitWndNumConfig(QWidget* pParent)
     setAttribute(Qt::WA_StyledBackground);
     for (const SSplitButton& button : g_arrButtons)
     {
-        connect((*m_pUi).*button.pButton, &QPushButton::clicked, this, &CSplitWndNumConfig::OnNormalClicked);
+        QPushButton* pButton = (*m_pUi).*button.pButton;
+        pButton->setFocusPolicy(Qt::TabFocus); // a click picks, and the picker goes
+        pButton->installEventFilter(this);
+        connect(pButton, &QPushButton::clicked, this, &CSplitWndNumConfig::OnNormalClicked);
     }
+    setFocusProxy(m_pUi->btnDiv1);
     setObjectName(QStringLiteral("CSplitWndNumConfig"));
     ApplySkinStyle(this);
 }
@@ -57,6 +82,41 @@ void CSplitWndNumConfig::showEvent(QShowEvent* pEvent)
         }
     }
     QWidget::showEvent(pEvent);
+}
+
+bool CSplitWndNumConfig::HasKeyboardOn(int nSplit) const
+{
+    return std::any_of(std::begin(g_arrButtons), std::end(g_arrButtons), [&](const SSplitButton& button) {
+        return button.nSplit == nSplit && ((*m_pUi).*button.pButton)->hasFocus();
+    });
+}
+
+bool CSplitWndNumConfig::eventFilter(QObject* pWatched, QEvent* pEvent)
+{
+    if (pEvent->type() == QEvent::KeyPress)
+    {
+        QPoint step = GetStep(static_cast<QKeyEvent*>(pEvent)->key());
+        if (!step.isNull())
+        {
+            step.rx() *= isRightToLeft() ? -1 : 1;
+            MoveFocus(static_cast<QWidget*>(pWatched), step);
+            return true; // also at the edges, where it would scroll otherwise
+        }
+    }
+    return QWidget::eventFilter(pWatched, pEvent);
+}
+
+void CSplitWndNumConfig::MoveFocus(QWidget* pButton, QPoint step)
+{
+    const QGridLayout* pGrid = m_pUi->gridLayout;
+    int nRow = 0;
+    int nColumn = 0;
+    int nSpan = 0;
+    pGrid->getItemPosition(pGrid->indexOf(pButton), &nRow, &nColumn, &nSpan, &nSpan);
+    if (QLayoutItem* pTarget = pGrid->itemAtPosition(nRow + step.y(), nColumn + step.x()))
+    {
+        pTarget->widget()->setFocus(Qt::OtherFocusReason);
+    }
 }
 
 void CSplitWndNumConfig::OnNormalClicked()

@@ -7,7 +7,8 @@
 #include <UICommonModule/CLocalIniFile.h>
 #include <UICommonModule/Pxa.h>
 
-#include <QEvent>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QRegExpValidator>
 
 namespace LocalConfig
@@ -138,6 +139,7 @@ void CVideoConfig::ConnectSlots()
     connect(m_pUi->playmodeComboBox, currentIndexChanged, this, &CVideoConfig::OnCurrentIndexChangedPlayModeType);
     connect(m_pUi->btnShowSplitWnd, &QPushButton::clicked, this, &CVideoConfig::OnShowSplitWndCfg);
     connect(m_pSplitPicker, &CSplitWndNumConfig::sgnSplitChanged, this, &CVideoConfig::OnSplitWndChange);
+    connect(qApp, &QApplication::focusChanged, this, &CVideoConfig::OnFocusChanged);
     connect(m_pUi->instantComboBox, currentIndexChanged, this, &CVideoConfig::OnCurrentIndexChangedInstantType);
     connect(m_pUi->timeUnitComboBox, currentIndexChanged, this, &CVideoConfig::OnCurrentIndexChangedTimeUnit);
     connect(m_pUi->silenceChkBox, &QCheckBox::stateChanged, this, &CVideoConfig::OnSilentStateChanged);
@@ -309,12 +311,22 @@ void CVideoConfig::OnShowSplitWndCfg()
     const QRect button(m_pUi->btnShowSplitWnd->mapTo(this, QPoint(0, 0)), m_pUi->btnShowSplitWnd->size());
     m_pSplitPicker->move(button.x() - button.width(), button.y() + button.height() + g_nPickerDistance);
     m_pSplitPicker->raise();
+    if (m_pSplitPicker->isVisible())
+    {
+        m_pSplitPicker->setFocus(Qt::PopupFocusReason);
+        ScrollTo(m_pSplitPicker);
+    }
 }
 
 void CVideoConfig::OnSplitWndChange(int splitWndNum)
 {
+    const bool bByKey = m_pSplitPicker->HasKeyboardOn(splitWndNum);
     setFocus(Qt::OtherFocusReason);
     m_pSplitPicker->hide();
+    if (bByKey)
+    {
+        m_pUi->btnShowSplitWnd->setFocus(Qt::PopupFocusReason); // nothing would show that the page has it
+    }
     const QString strSheet =
         QStringLiteral("QPushButton#btnShowSplitWnd{image: url(:/LocalConfig/tip_%1-n.svg);border:none;} "
                        "\t\t\t\t\t\tQPushButton#btnShowSplitWnd:hover{image: url(:/LocalConfig/tip_%1-h.svg);} "
@@ -326,6 +338,35 @@ void CVideoConfig::OnSplitWndChange(int splitWndNum)
         m_pUi->btnShowSplitWnd->setStyleSheet(strSheet);
     }
     m_nDefaultSplit = splitWndNum;
+}
+
+void CVideoConfig::ClosePicker()
+{
+    if (m_pSplitPicker->isAncestorOf(QApplication::focusWidget()))
+    {
+        m_pUi->btnShowSplitWnd->setFocus(Qt::PopupFocusReason);
+    }
+    m_pSplitPicker->hide();
+}
+
+void CVideoConfig::OnFocusChanged(QWidget* /*pOld*/, QWidget* pNow)
+{
+    // The button hides the picker itself.
+    if (pNow && pNow != m_pUi->btnShowSplitWnd && !m_pSplitPicker->isAncestorOf(pNow))
+    {
+        m_pSplitPicker->hide();
+    }
+}
+
+/// Tab leaves the picker as if the button that opened it had the focus.
+bool CVideoConfig::focusNextPrevChild(bool bNext)
+{
+    if (!m_pSplitPicker->isAncestorOf(QApplication::focusWidget()))
+    {
+        return QWidget::focusNextPrevChild(bNext);
+    }
+    ClosePicker();
+    return !bNext || QWidget::focusNextPrevChild(bNext);
 }
 
 void CVideoConfig::OnCurrentIndexChangedInstantType(int nIndex)
@@ -355,7 +396,13 @@ bool CVideoConfig::eventFilter(QObject* pWatched, QEvent* pEvent)
     }
     else if (pEvent->type() == QEvent::Leave)
     {
-        m_pSplitPicker->hide();
+        ClosePicker();
+    }
+    else if (pWatched == m_pSplitPicker && pEvent->type() == QEvent::KeyPress &&
+             static_cast<QKeyEvent*>(pEvent)->key() == Qt::Key_Escape)
+    {
+        ClosePicker();
+        return true; // it would close the dialog
     }
     return QWidget::eventFilter(pWatched, pEvent);
 }

@@ -36,6 +36,9 @@ public:
     void SetControlsEnabled(bool bEnable) override;
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
+protected:
+    bool focusNextPrevChild(bool bNext) override;
+
 signals:
     /// The page's height changed. The page itself never emits it; hosts of it may rely on its being there.
     void SignalChangeSize();
@@ -52,6 +55,8 @@ private slots:
 
 private:
     void InitControls();
+    void OnFocusChanged(QWidget* pOld, QWidget* pNow);
+    void ClosePicker();
     void ConnectSlots();
     void Show(const LocalConfigLogical::VideoConfigInfo& record);
     void ShowInstantTime(const LocalConfigLogical::VideoConfigInfo& record);

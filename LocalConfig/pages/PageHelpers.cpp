@@ -103,29 +103,6 @@ QScrollArea* FindScrollArea(QWidget* pWidget)
     return static_cast<QScrollArea*>(pWidget);
 }
 
-/// Scrolls to a control that is not in sight. On its way is the top of its section, where the navigation takes notice
-/// as it does when a user scrolls there.
-void ScrollTo(QWidget* pControl)
-{
-    QScrollArea* pScrollArea = FindScrollArea(pControl);
-    if (!pScrollArea)
-    {
-        return;
-    }
-    const QWidget* pView = pScrollArea->viewport();
-    if (pView->rect().contains(QRect(pControl->mapTo(pView, QPoint()), pControl->size())))
-    {
-        return;
-    }
-    const QWidget* pSection = pControl;
-    while (pSection->parentWidget() != pScrollArea->widget())
-    {
-        pSection = pSection->parentWidget();
-    }
-    pScrollArea->verticalScrollBar()->setValue(pSection->y());
-    pScrollArea->ensureWidgetVisible(pControl);
-}
-
 /// The control, or the last one before it that is not locked: what a control is locked by stands before it.
 QWidget* FindUsable(QWidget* pControl)
 {
@@ -185,6 +162,28 @@ void SelectText(QComboBox* pCombo, const QString& strText)
 QString SRange::Fill(const QString& strTemplate) const
 {
     return strTemplate.arg(nMin).arg(nMax);
+}
+
+void ScrollTo(QWidget* pControl)
+{
+    QScrollArea* pScrollArea = FindScrollArea(pControl);
+    if (!pScrollArea)
+    {
+        return;
+    }
+    const QWidget* pView = pScrollArea->viewport();
+    if (pView->rect().contains(QRect(pControl->mapTo(pView, QPoint()), pControl->size())))
+    {
+        return;
+    }
+    // On the way is the top of its section, where the navigation takes notice as it does when a user scrolls there.
+    const QWidget* pSection = pControl;
+    while (pSection->parentWidget() != pScrollArea->widget())
+    {
+        pSection = pSection->parentWidget();
+    }
+    pScrollArea->verticalScrollBar()->setValue(pSection->y());
+    pScrollArea->ensureWidgetVisible(pControl);
 }
 
 void PointAt(QWidget* pControl, const QString& strText)

@@ -49,6 +49,9 @@ struct SRange
     QString Fill(const QString& strTemplate) const;
 };
 
+/// Scrolls to a control that is not wholly in sight.
+void ScrollTo(QWidget* pControl);
+
 /// Puts the focus on a control, scrolled into view, and shows a text as tool tip at its place, an empty one none; also
 /// past the reload that follows a refused save. Of several controls the last one has the focus in the end, so a hint
 /// that refuses nothing comes before every refusal.
