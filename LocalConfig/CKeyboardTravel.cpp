@@ -155,11 +155,16 @@ QWidget* CKeyboardTravel::FindFirstStop(Area eArea) const
 
 // --- The view
 
+void CKeyboardTravel::SetPaused(bool bPaused)
+{
+    m_bPaused = bPaused;
+}
+
 void CKeyboardTravel::OnFocusChanged(QWidget* /*pOld*/, QWidget* pNow)
 {
-    // A page that takes the focus while it is filled is no place to go to, and who gets it back is there already.
+    // A page that takes the focus for itself is no place to go to, and who gets it back is there already.
     const bool bMoved = pNow && pNow != m_pHolder && m_pDialog->isAncestorOf(pNow) && pNow->focusPolicy();
-    if (!bMoved)
+    if (!bMoved || m_bPaused)
     {
         return;
     }

@@ -30,6 +30,9 @@ public:
     /// \return false elsewhere, where the focus has its ordinary way
     bool MoveFocus(bool bNext);
 
+    /// While it is paused, nothing follows the focus.
+    void SetPaused(bool bPaused);
+
 signals:
     /// A control of this section has got the focus.
     void SignalSectionEntered(int nIndex);
@@ -60,6 +63,7 @@ private:
     QWidget* m_pDialog;
     KVGUI::KvToolListView* m_pList;
     QScrollArea* m_pScrollArea;
+    bool m_bPaused = false;
     QPointer<QWidget> m_pHolder; // of the focus, also while another window has it
     QMetaObject::Connection m_currentCell;
 };

@@ -24,6 +24,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 
 namespace LocalConfig
 {
@@ -522,6 +523,7 @@ void CLocalConfig::OnSaveBtnClicked()
     {
         return;
     }
+    QWidget* pHolder = focusWidget(); // a page takes the focus to what it refuses
     QMap<const IConfigPage*, int> mapResults;
     bool bAllSaved = true;
     ForEachPage([&](IConfigPage& page) {
@@ -529,6 +531,7 @@ void CLocalConfig::OnSaveBtnClicked()
         mapResults.insert(&page, nResult);
         bAllSaved = bAllSaved && nResult == 0;
     });
+    MarkSections(mapResults);
 
     if (bAllSaved)
     {
@@ -543,18 +546,57 @@ void CLocalConfig::OnSaveBtnClicked()
         return;
     }
 
-    KeepFocusOn(focusWidget(), [&] {
-        for (int nIndex = 0; nIndex < SectionCount; ++nIndex) // in navigation order, unlike the save
-        {
-            IConfigPage* pPage = m_vecPages[nIndex];
-            const bool bMayKeep = nIndex == IndexSnapshot || nIndex == IndexRecord;
-            if (pPage && !(bMayKeep && mapResults.value(pPage) == g_nKeepInput))
-            {
-                pPage->ReloadConfig(false);
-            }
-        }
-    });
+    KeepFocusOn(pHolder, [&] { ReloadRefused(mapResults); });
+    ShowFirstRefused(mapResults);
     Notify(CFormText::tr("Failed to save configuration, some values are illegal."));
+}
+
+void CLocalConfig::ReloadRefused(const QMap<const IConfigPage*, int>& mapResults)
+{
+    for (int nIndex = 0; nIndex < SectionCount; ++nIndex) // in navigation order, unlike the save
+    {
+        IConfigPage* pPage = m_vecPages[nIndex];
+        const bool bMayKeep = nIndex == IndexSnapshot || nIndex == IndexRecord;
+        if (pPage && !(bMayKeep && mapResults.value(pPage) == g_nKeepInput))
+        {
+            pPage->ReloadConfig(false);
+        }
+    }
+}
+
+/// In the navigation list, those whose page has refused.
+void CLocalConfig::MarkSections(const QMap<const IConfigPage*, int>& mapResults)
+{
+    for (int nIndex = 0; nIndex < SectionCount; ++nIndex)
+    {
+        const bool bRefused = mapResults.value(m_vecPages[nIndex]) != 0;
+        m_pUi->m_pToolListView->SetItemError(nIndex, bRefused ? CFormText::tr("Not saved, some values are illegal.")
+                                                              : QString());
+    }
+}
+
+/// The field, or the section where no field is to blame.
+void CLocalConfig::ShowFirstRefused(const QMap<const IConfigPage*, int>& mapResults)
+{
+    std::function<void()> show;
+    for (int nIndex = 0; nIndex < SectionCount; ++nIndex)
+    {
+        IConfigPage* pPage = m_vecPages[nIndex];
+        if (mapResults.value(pPage) == 0)
+        {
+            continue;
+        }
+        const std::function<void()> leadToField = pPage->TakeRefusal(); // each gives its own up
+        const auto showSection = [this, nIndex] {
+            OnGroupBoxClicked(nIndex);
+            OnToolListCurrentIndexChanged(nIndex);
+        };
+        if (!show)
+        {
+            show = leadToField ? leadToField : showSection;
+        }
+    }
+    show();
 }
 
 void CLocalConfig::OnResumeClicked()
@@ -574,6 +616,7 @@ void CLocalConfig::OnCloseBtmClicked()
         return;
     }
     ReloadPages(false);
+    MarkSections({});
     KvDialog::OnCloseBtmClicked();
 }
 
@@ -586,7 +629,9 @@ void CLocalConfig::ReloadPages(bool bDefault)
 template <class Action>
 void CLocalConfig::KeepFocusOn(QWidget* pHolder, Action action)
 {
+    m_pTravel->SetPaused(true);
     action();
+    m_pTravel->SetPaused(false);
     if (focusWidget() != pHolder)
     {
         const bool bCanTakeIt = pHolder && pHolder->isEnabled() && pHolder->isVisibleTo(this);

@@ -106,6 +106,9 @@ private:
     template <class Action>
     void ForEachPage(Action action);
     void ReloadPages(bool bDefault);
+    void ReloadRefused(const QMap<const IConfigPage*, int>& mapResults);
+    void MarkSections(const QMap<const IConfigPage*, int>& mapResults);
+    void ShowFirstRefused(const QMap<const IConfigPage*, int>& mapResults);
     void SetConnected(bool bConnected);
     template <class Action>
     void KeepFocusOn(QWidget* pHolder, Action action);

@@ -96,7 +96,7 @@ int CCaptureConfig::SaveConfig()
     const int nCount = m_pUi->picNumEdit->text().toInt();
     if (!g_count.Contains(nCount))
     {
-        PointAtKept(m_pUi->picNumEdit);
+        m_refusal = PointAtKept(m_pUi->picNumEdit);
         return -2;
     }
     record.continuousCount = nCount;
@@ -105,7 +105,7 @@ int CCaptureConfig::SaveConfig()
     const int nInterval = m_pUi->picTmSpinBox->locale().toInt(m_pUi->picTmSpinBox->text());
     if (nInterval < g_interval.nMin)
     {
-        PointAt(m_pUi->picTmSpinBox, tr("Continue snapshot time interval must be longer than 1s."));
+        m_refusal = PointAt(m_pUi->picTmSpinBox, tr("Continue snapshot time interval must be longer than 1s."));
         ShowNumber(m_pUi->picTmSpinBox, record.interval);
         return -1;
     }
@@ -114,7 +114,7 @@ int CCaptureConfig::SaveConfig()
     record.picturePath = m_pUi->picPathEdit->text().toStdString();
     if (record.picturePath.size() > g_nMaxPathBytes)
     {
-        PointAt(m_pUi->picPathEdit, QString());
+        m_refusal = PointAt(m_pUi->picPathEdit, QString());
         return -1;
     }
     record.nameFormat = m_pUi->picNameFormatCmbBox->currentIndex();

@@ -80,13 +80,13 @@ int CRecordConfig::SaveConfig()
     record.recordPath = m_pUi->recPathEdit->text().toStdString();
     if (record.recordPath.size() > g_nMaxPathBytes)
     {
-        PointAt(m_pUi->recPathEdit, QString());
+        m_refusal = PointAt(m_pUi->recPathEdit, QString());
         return -1;
     }
     const int nFileSize = m_pUi->maxRecSizeEdit->text().toInt();
     if (!g_fileSize.Contains(nFileSize))
     {
-        PointAtKept(m_pUi->maxRecSizeEdit);
+        m_refusal = PointAtKept(m_pUi->maxRecSizeEdit);
         return -2;
     }
     record.maxFileSize = nFileSize;

@@ -3,6 +3,8 @@
 #include <LocalConfig/interfaces/IConfigSection.h>
 #include <LocalConfig/pages/IConfigPage.h>
 
+#include <utility>
+
 namespace LocalConfig
 {
 
@@ -29,6 +31,8 @@ public:
 
     void UnInit() override { m_pSection = nullptr; }
 
+    std::function<void()> TakeRefusal() override { return std::exchange(m_refusal, nullptr); }
+
 protected:
     /// The section's current values over the built-in defaults; the defaults alone when asked for or without a section.
     Record GetRecord(bool bDefault = false) const
@@ -41,7 +45,8 @@ protected:
         return record;
     }
 
-    Section* m_pSection = nullptr; ///< the host's; null before SetConfigSection and after UnInit
+    std::function<void()> m_refusal; ///< what leads to the field that the last save has refused
+    Section* m_pSection = nullptr;   ///< the host's; null before SetConfigSection and after UnInit
 };
 
 } // namespace LocalConfig

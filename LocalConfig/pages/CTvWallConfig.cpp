@@ -117,7 +117,7 @@ int CTvWallConfig::SaveConfig()
     const int nStayTime = m_pUi->lineeditStayTime->text().toInt();
     if (!g_stayTime.Contains(nStayTime))
     {
-        PointAt(m_pUi->lineeditStayTime, GetStayTimeMessage());
+        m_refusal = PointAt(m_pUi->lineeditStayTime, GetStayTimeMessage());
         m_pUi->lineeditStayTime->setText(QString::number(TvWallConfigInfo().nStayTime));
         return -1;
     }

@@ -238,7 +238,7 @@ int CVideoConfig::SaveConfig()
     record.nSubStreamSplitThreshold = m_pUi->wndSplitCmbBox->currentText().toInt();
     if (!SaveInstantTime(record))
     {
-        PointAt(m_pUi->instantTimeEdit, QString());
+        m_refusal = PointAt(m_pUi->instantTimeEdit, QString());
         return -1;
     }
     UICommonMdl::CLocalIniFile::WriteValue(QStringLiteral("ProcessDecode"), QStringLiteral("enable"),

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 namespace LocalConfigLogical
@@ -35,6 +37,10 @@ public:
     /// Checks the controls and writes them into the section. Called on every page, also when another has refused.
     /// \return 0 stored; -2 refused, and the user's input stays when the dialog reloads; any other value refused
     virtual int SaveConfig() = 0;
+
+    /// Given once after a save that was refused because of a field: leads there and tells about it. The dialog asks for
+    /// it when it has loaded the pages again. Empty when no field is to blame.
+    virtual std::function<void()> TakeRefusal() { return {}; }
 
     /// Enables or disables the editable controls with the connection to the platform.
     virtual void SetControlsEnabled(bool bEnable) = 0;

@@ -12,7 +12,6 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QTimer>
 #include <QToolTip>
 
 namespace LocalConfig
@@ -120,7 +119,7 @@ QWidget* FindUsable(QWidget* pControl)
 
 /// Puts the focus on a control, scrolled into view, and tells the user about it.
 template <class Tell>
-void Point(QWidget* pControl, Tell tell)
+std::function<void()> Point(QWidget* pControl, Tell tell)
 {
     const auto point = [pControl, tell] {
         ScrollTo(pControl);
@@ -128,14 +127,7 @@ void Point(QWidget* pControl, Tell tell)
         tell();
     };
     point();
-    // Once more after a refused save, when the dialog has loaded its pages again: that moves the focus, and the tip
-    // goes. Where several controls were pointed at, the last one has the focus then.
-    QTimer::singleShot(0, pControl, [pControl, point] {
-        if (pControl->isVisible())
-        {
-            point();
-        }
-    });
+    return point;
 }
 
 } // namespace
@@ -186,14 +178,14 @@ void ScrollTo(QWidget* pControl)
     pScrollArea->ensureWidgetVisible(pControl);
 }
 
-void PointAt(QWidget* pControl, const QString& strText)
+std::function<void()> PointAt(QWidget* pControl, const QString& strText)
 {
-    Point(pControl, [pControl, strText] { ShowTip(pControl, strText); });
+    return Point(pControl, [pControl, strText] { ShowTip(pControl, strText); });
 }
 
-void PointAtKept(KVGUI::KvLineEdit* pEdit)
+std::function<void()> PointAtKept(KVGUI::KvLineEdit* pEdit)
 {
-    Point(pEdit, [pEdit] {
+    return Point(pEdit, [pEdit] {
         QToolTip::hideText();
         pEdit->showErrorHintNoTip(true);
     });

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 
@@ -52,13 +53,12 @@ struct SRange
 /// Scrolls to a control that is not wholly in sight.
 void ScrollTo(QWidget* pControl);
 
-/// Puts the focus on a control, scrolled into view, and shows a text as tool tip at its place, an empty one none; also
-/// past the reload that follows a refused save. Of several controls the last one has the focus in the end, so a hint
-/// that refuses nothing comes before every refusal.
-void PointAt(QWidget* pControl, const QString& strText);
+/// Puts the focus on a control, scrolled into view, and shows a text as tool tip at its place, an empty one none.
+/// \return what does so again; to a locked control leads what it is locked by
+std::function<void()> PointAt(QWidget* pControl, const QString& strText);
 
 /// Likewise for a refused field that keeps its text: it is marked instead.
-void PointAtKept(KVGUI::KvLineEdit* pEdit);
+std::function<void()> PointAtKept(KVGUI::KvLineEdit* pEdit);
 
 /// Lets a field take only what a pattern accepts, or the beginning of it. The page owns the validator.
 void SetPattern(QWidget* pPage, QLineEdit* pEdit, const QString& strPattern);

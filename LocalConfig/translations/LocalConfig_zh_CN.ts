@@ -224,6 +224,10 @@
         <source>Failed to save configuration, some values are illegal.</source>
         <translation>保存配置失败，部分值不合法。</translation>
     </message>
+    <message>
+        <source>Not saved, some values are illegal.</source>
+        <translation>未保存，部分值不合法。</translation>
+    </message>
 </context>
 <context>
     <name>CPlaybackConfig</name>

@@ -19,6 +19,7 @@ constexpr int g_nMargin = 16;
 constexpr int g_nIconGap = 12;
 constexpr int g_nBarWidth = 3;
 constexpr int g_nRadius = 4;
+constexpr int g_nErrorSize = 16;
 
 } // namespace
 
@@ -78,6 +79,13 @@ public:
         QRect text = option.rect;
         text.setLeft(icon.right() + 1 + g_nIconGap);
         text.setRight(option.rect.right() - g_nMargin / 2);
+        if (!index.data(Qt::ToolTipRole).isNull())
+        {
+            const QRect mark(option.rect.right() - g_nMargin - g_nErrorSize,
+                             option.rect.center().y() - g_nErrorSize / 2 + 1, g_nErrorSize, g_nErrorSize);
+            text.setRight(mark.left() - g_nMargin / 2);
+            PaintError(*pPainter, place(mark), palette);
+        }
         pPainter->setPen(bCurrent ? color(m_pView->m_selectedTextColor, palette.color(QPalette::Text))
                                   : palette.color(QPalette::Text));
         const QString strText =
@@ -88,6 +96,22 @@ public:
     }
 
 private:
+    void PaintError(QPainter& painter, const QRect& mark, const QPalette& palette) const
+    {
+        const auto color = [](const QColor& own, const QColor& other) { return own.isValid() ? own : other; };
+        painter.save();
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color(m_pView->m_errorColor, palette.color(QPalette::Text)));
+        painter.drawEllipse(mark);
+        QFont font = painter.font();
+        font.setPixelSize(g_nErrorSize * 3 / 4);
+        font.setBold(true);
+        painter.setFont(font);
+        painter.setPen(color(m_pView->m_errorTextColor, palette.color(QPalette::Base)));
+        painter.drawText(mark, Qt::AlignCenter, QStringLiteral("!"));
+        painter.restore();
+    }
+
     KvToolListView* m_pView;
 };
 
@@ -132,6 +156,22 @@ void KvToolListView::SetCurrentIndex(int nIndex)
 int KvToolListView::GetCurrentIndex() const
 {
     return currentIndex().isValid() ? currentIndex().data(g_nIndexRole).toInt() : -1;
+}
+
+void KvToolListView::SetItemError(int nIndex, const QString& strText)
+{
+    const QModelIndex index = Find(nIndex);
+    if (index.isValid())
+    {
+        const QVariant text = strText.isEmpty() ? QVariant() : QVariant(strText);
+        m_pModel->setData(index, text, Qt::ToolTipRole);
+        m_pModel->setData(index, text, Qt::AccessibleDescriptionRole);
+    }
+}
+
+QString KvToolListView::GetItemError(int nIndex) const
+{
+    return Find(nIndex).data(Qt::ToolTipRole).toString();
 }
 
 QModelIndex KvToolListView::Find(int nIndex) const

@@ -23,6 +23,8 @@ class KVGUI_EXPORT KvToolListView : public QListView
     Q_PROPERTY(QColor selectedColor MEMBER m_selectedColor NOTIFY SignalColorChanged)
     Q_PROPERTY(QColor selectedTextColor MEMBER m_selectedTextColor NOTIFY SignalColorChanged)
     Q_PROPERTY(QColor focusColor MEMBER m_focusColor NOTIFY SignalColorChanged)
+    Q_PROPERTY(QColor errorColor MEMBER m_errorColor NOTIFY SignalColorChanged)
+    Q_PROPERTY(QColor errorTextColor MEMBER m_errorTextColor NOTIFY SignalColorChanged)
 
 public:
     explicit KvToolListView(QWidget* pParent = nullptr);
@@ -37,6 +39,13 @@ public:
 
     /// -1 when no entry is current.
     int GetCurrentIndex() const;
+
+    /// Marks an entry as wrong and tells why, as tool tip and to screen readers; an empty text takes the mark away, an
+    /// unknown index does nothing.
+    void SetItemError(int nIndex, const QString& strText);
+
+    /// Empty where the entry is not marked.
+    QString GetItemError(int nIndex) const;
 
 signals:
     /// The current entry changed, or the user picked the current one again (with the mouse, Home, End, Enter or Space).
@@ -63,6 +72,8 @@ private:
     QColor m_selectedColor;
     QColor m_selectedTextColor;
     QColor m_focusColor;
+    QColor m_errorColor;
+    QColor m_errorTextColor;
 };
 
 } // namespace KVGUI

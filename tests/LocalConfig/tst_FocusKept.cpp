@@ -16,6 +16,8 @@ private slots:
     void DefaultsLeaveTheFocus_data() { Controls(); }
     void DefaultsLeaveTheFocus();
     void DefaultLeavesTheFocusOnItsButton();
+    void WhatTheDialogDoesLeavesTheView_data();
+    void WhatTheDialogDoesLeavesTheView();
     void ASaveRefusedByTheHostLeavesTheFocus_data() { Controls(); }
     void ASaveRefusedByTheHostLeavesTheFocus();
     void ASaveRefusedByAFieldFocusesTheField();
@@ -91,6 +93,43 @@ void tst_FocusKept::DefaultLeavesTheFocusOnItsButton()
     d.Open();
     d.Click("btnOther");
     QCOMPARE(d.dialog.focusWidget(), d.Button("btnOther"));
+}
+
+void tst_FocusKept::WhatTheDialogDoesLeavesTheView_data()
+{
+    QTest::addColumn<QString>("strName");
+    QTest::addColumn<QString>("strWhat");
+    for (const char* pszWhat : {"defaults", "disconnect", "disconnect and reconnect"})
+    {
+        for (const char* pszName : {"btnOther", "picNumEdit", "checkEncryption", "m_pToolListView"})
+        {
+            QTest::addRow("%s, %s", pszWhat, pszName) << pszName << pszWhat;
+        }
+    }
+}
+
+void tst_FocusKept::WhatTheDialogDoesLeavesTheView()
+{
+    QFETCH(QString, strWhat);
+    SRealDialog d(m_host);
+    FocusControl(d);
+    const int nValue = d.ScrollBar()->value();
+    const int nIndex = d.List()->GetCurrentIndex();
+    if (strWhat == "defaults")
+    {
+        emit d.dialog.SignalOtherButtonClicked();
+    }
+    else
+    {
+        Connect(false);
+        if (strWhat == "disconnect and reconnect")
+        {
+            Connect(true);
+        }
+    }
+    QCOMPARE(d.ScrollBar()->value(), nValue);
+    QCOMPARE(d.List()->GetCurrentIndex(), nIndex);
+    QCOMPARE(d.SelectedBoxes(), QList<int>{nIndex});
 }
 
 void tst_FocusKept::ASaveRefusedByTheHostLeavesTheFocus()

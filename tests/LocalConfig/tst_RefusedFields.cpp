@@ -49,6 +49,13 @@ private slots:
     void AMessageStaysWhenItComesUnderTheMouse();
     void AMessageGoesWhenTheUserGoesOn_data() { Messages(); }
     void AMessageGoesWhenTheUserGoesOn();
+    void OfSeveralRefusedFieldsTheFirstHasTheFocus_data();
+    void OfSeveralRefusedFieldsTheFirstHasTheFocus();
+    void OfSeveralMessagesTheFirstIsShown();
+    void EveryRefusedSectionIsMarkedUntilTheNextSave();
+    void ClosingTakesTheMarksAway();
+    void ASectionThatTheHostRefusesIsShownAndMarked();
+    void AFieldThatWasRefusedBeforeIsNotShownAgain();
     void AKeptTextStaysMarkedUntilItIsGood_data();
     void AKeptTextStaysMarkedUntilItIsGood();
 
@@ -58,6 +65,8 @@ private:
     /// Types what the row refuses, goes to an end of the content, and saves.
     void Refuse(SRealDialog& d, int nKey = Qt::Key_Home);
     bool IsInSight(SRealDialog& d) const;
+    static void Enter(SRealDialog& d, const SField& field);
+    static QList<int> MarkedSections(SRealDialog& d);
 
     SRealHost m_host;
     QWidget* m_pField = nullptr;
@@ -70,6 +79,7 @@ void tst_RefusedFields::init()
     record.bInstantCustom = true;
     record.nPlayMode = 4;
     m_host.video.m_record = record;
+    m_host.record.m_nResult = 0;
 }
 
 void tst_RefusedFields::Fields()
@@ -195,6 +205,128 @@ void tst_RefusedFields::AMessageGoesWhenTheUserGoesOn()
     QVERIFY(QToolTip::isVisible());
     QTest::keyClick(m_pField, Qt::Key_Tab);
     QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void tst_RefusedFields::Enter(SRealDialog& d, const SField& field)
+{
+    auto* pField = d.dialog.findChild<QWidget*>(field.pszName);
+    auto* pEdit = qobject_cast<QLineEdit*>(pField);
+    Type(pEdit ? pEdit : pField->findChild<QLineEdit*>(), field.strRefused);
+}
+
+QList<int> tst_RefusedFields::MarkedSections(SRealDialog& d)
+{
+    QList<int> listMarked;
+    for (const SBox& box : g_arrBoxes)
+    {
+        if (!d.List()->GetItemError(box.nIndex).isEmpty())
+        {
+            listMarked += box.nIndex;
+        }
+    }
+    return listMarked;
+}
+
+void tst_RefusedFields::OfSeveralRefusedFieldsTheFirstHasTheFocus_data()
+{
+    QTest::addColumn<int>("nFirst");
+    QTest::addColumn<int>("nSecond");
+    for (int nFirst = 0; nFirst < int(std::size(g_arrFields)); ++nFirst)
+    {
+        for (int nSecond = nFirst + 1; nSecond < int(std::size(g_arrFields)); ++nSecond)
+        {
+            if (g_arrFields[nFirst].nIndex != g_arrFields[nSecond].nIndex) // else the page stops at its own order
+            {
+                QTest::addRow("%s, %s", g_arrFields[nFirst].pszName, g_arrFields[nSecond].pszName) << nFirst << nSecond;
+            }
+        }
+    }
+}
+
+void tst_RefusedFields::OfSeveralRefusedFieldsTheFirstHasTheFocus()
+{
+    QFETCH(int, nFirst);
+    QFETCH(int, nSecond);
+    SRealDialog d(m_host);
+    d.Open();
+    Enter(d, g_arrFields[nFirst]);
+    Enter(d, g_arrFields[nSecond]);
+    d.Click("btnOk");
+    QCoreApplication::processEvents();
+    m_pField = d.dialog.findChild<QWidget*>(g_arrFields[nFirst].pszName);
+    QVERIFY(m_pField->hasFocus());
+    QVERIFY(IsInSight(d));
+    QCOMPARE(d.SelectedBoxes(), QList<int>{g_arrFields[nFirst].nIndex});
+    QCOMPARE(d.List()->GetCurrentIndex(), g_arrFields[nFirst].nIndex);
+}
+
+void tst_RefusedFields::OfSeveralMessagesTheFirstIsShown()
+{
+    SRealDialog d(m_host);
+    d.Open();
+    Enter(d, {"picTmSpinBox", "0", 3});
+    Enter(d, {"lineeditStayTime", "14", 6});
+    d.Click("btnOk");
+    QCoreApplication::processEvents();
+    QVERIFY(QToolTip::isVisible());
+    QVERIFY2(QToolTip::text().startsWith("Continue snapshot time interval"), qPrintable(QToolTip::text()));
+}
+
+void tst_RefusedFields::EveryRefusedSectionIsMarkedUntilTheNextSave()
+{
+    SRealDialog d(m_host);
+    d.Open();
+    Enter(d, {"picTmSpinBox", "0", 3});
+    Enter(d, {"lineeditStayTime", "14", 6});
+    QCOMPARE(MarkedSections(d), QList<int>());
+    d.Click("btnOk");
+    QCOMPARE(MarkedSections(d), (QList<int>{3, 6}));
+    d.Click("btnOther");
+    QCOMPARE(MarkedSections(d), (QList<int>{3, 6}));
+    Enter(d, {"maxRecSizeEdit", "9", 4});
+    d.Click("btnOk");
+    QCOMPARE(MarkedSections(d), QList<int>{4});
+    Enter(d, {"maxRecSizeEdit", "10", 4});
+    d.Click("btnOk");
+    QCOMPARE(MarkedSections(d), QList<int>());
+}
+
+void tst_RefusedFields::ClosingTakesTheMarksAway()
+{
+    SRealDialog d(m_host);
+    d.Open();
+    Enter(d, {"lineeditStayTime", "14", 6});
+    d.Click("btnOk");
+    d.Click("btnCancel");
+    QCOMPARE(MarkedSections(d), QList<int>());
+}
+
+void tst_RefusedFields::ASectionThatTheHostRefusesIsShownAndMarked()
+{
+    m_host.record.m_nResult = 5;
+    SRealDialog d(m_host);
+    d.Open();
+    d.Button("btnOk")->setFocus();
+    d.Click("btnOk");
+    QCOMPARE(MarkedSections(d), QList<int>{4});
+    QCOMPARE(d.SelectedBoxes(), QList<int>{4});
+    QCOMPARE(d.List()->GetCurrentIndex(), 4);
+    QCOMPARE(d.ScrollBar()->value(), d.Box(4)->y() - 20);
+    QVERIFY(d.Button("btnOk")->hasFocus());
+}
+
+void tst_RefusedFields::AFieldThatWasRefusedBeforeIsNotShownAgain()
+{
+    SRealDialog d(m_host);
+    d.Open();
+    Enter(d, {"picTmSpinBox", "0", 3});
+    Enter(d, {"maxRecSizeEdit", "9", 4});
+    d.Click("btnOk");
+    Enter(d, {"maxRecSizeEdit", "10", 4});
+    m_host.record.m_nResult = 5;
+    d.Click("btnOk");
+    QCoreApplication::processEvents();
+    QVERIFY(d.Button("btnOk")->hasFocus());
 }
 
 void tst_RefusedFields::AKeptTextStaysMarkedUntilItIsGood_data()

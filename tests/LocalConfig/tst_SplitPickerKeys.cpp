@@ -59,6 +59,7 @@ private slots:
     void ArrowsScrollNothing();
     void APickGivesTheFocusBack_data();
     void APickGivesTheFocusBack();
+    void APickByMouseLeavesTheView();
     void AnOpenPickerIsWhollySeen();
     void TabLeavesAndCloses();
     void ShiftTabLeavesAndCloses();
@@ -175,6 +176,17 @@ void tst_SplitPickerKeys::APickGivesTheFocusBack()
     QVERIFY(!d.pPicker->isVisible());
     QVERIFY(d.pOpener->styleSheet().contains("tip_9-n.svg"));
     QCOMPARE(d.dialog.focusWidget(), d.pOpener);
+}
+
+void tst_SplitPickerKeys::APickByMouseLeavesTheView()
+{
+    SPicker d(m_host);
+    d.Open();
+    QTest::mouseClick(d.pOpener, Qt::LeftButton);
+    const int nValue = d.ScrollBar()->value();
+    QTest::mouseClick(d.Split(25), Qt::LeftButton);
+    QVERIFY(!d.pPicker->isVisible());
+    QCOMPARE(d.ScrollBar()->value(), nValue);
 }
 
 void tst_SplitPickerKeys::AnOpenPickerIsWhollySeen()

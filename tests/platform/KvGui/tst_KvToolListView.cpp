@@ -39,6 +39,8 @@ private slots:
     void EnterStaysInTheList();
     void TheCurrentEntryLooksDifferent();
     void FocusIsVisible();
+    void AnErrorIsSeenAndTold();
+    void AnErrorOfAnUnknownIndexChangesNothing();
     void HasAFrame();
 
 private:
@@ -296,6 +298,30 @@ void tst_KvToolListView::FocusIsVisible()
     const QImage focused = m_pList->grab().toImage();
     m_pList->clearFocus();
     QVERIFY(m_pList->grab().toImage() != focused);
+}
+
+void tst_KvToolListView::AnErrorIsSeenAndTold()
+{
+    const QImage before = m_pList->grab().toImage();
+    m_pList->SetItemError(1, "Wrong");
+    QCOMPARE(m_pList->GetItemError(0), QString());
+    QCOMPARE(m_pList->GetItemError(1), QString("Wrong"));
+    QVERIFY(m_pList->grab().toImage() != before);
+    const QModelIndex index = m_pList->model()->index(1, 0);
+    QCOMPARE(index.data(Qt::AccessibleDescriptionRole).toString(), QString("Wrong"));
+    QCOMPARE(index.data(Qt::ToolTipRole).toString(), QString("Wrong"));
+    m_pList->SetItemError(1, QString());
+    QCOMPARE(m_pList->GetItemError(1), QString());
+    QCOMPARE(m_pList->grab().toImage(), before);
+    QVERIFY(m_pSpy->isEmpty());
+}
+
+void tst_KvToolListView::AnErrorOfAnUnknownIndexChangesNothing()
+{
+    const QImage before = m_pList->grab().toImage();
+    m_pList->SetItemError(9, "Wrong");
+    QCOMPARE(m_pList->GetItemError(9), QString());
+    QCOMPARE(m_pList->grab().toImage(), before);
 }
 
 void tst_KvToolListView::HasAFrame()
