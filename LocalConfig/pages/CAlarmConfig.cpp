@@ -274,10 +274,11 @@ void CAlarmConfig::ResetTypeLists(AlarmConfigInfo& record)
 
 void CAlarmConfig::ShowSound(const AlarmSoundInfo& sound)
 {
-    m_pUi->editSoundPath->setText(sound.customSound.empty() ? QStringLiteral("./Sound/sound_%1/%2")
-                                                                  .arg(UICommonMdl::CGlobalInfo::GetClientStrLanguage(),
-                                                                       QString::fromStdString(sound.defaultSound))
-                                                            : QString::fromStdString(sound.customSound));
+    m_pUi->editSoundPath->setText(
+        sound.customSound.empty()
+            ? QStringLiteral("./Sound/sound_%1/%2")
+                  .arg(UICommonMdl::CGlobalInfo::GetClientStrLanguage(), QString::fromStdString(sound.defaultSound))
+            : QDir::toNativeSeparators(QString::fromStdString(sound.customSound)));
 }
 
 // --- Save
@@ -424,7 +425,7 @@ void CAlarmConfig::OnSoundPathBtnClicked()
         return;
     }
     const QString strPath = dialog->selectedFiles().value(0);
-    m_pUi->editSoundPath->setText(strPath);
+    m_pUi->editSoundPath->setText(QDir::toNativeSeparators(strPath));
 
     // The linked rules' common key is not used here.
     const CAlarmType* pCatalogue = CAlarmType::Instance();

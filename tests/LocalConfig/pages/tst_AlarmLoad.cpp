@@ -113,10 +113,9 @@ void tst_AlarmLoad::LoadShowsTheFirstSound_data()
                                               << "zh_CN"
                                               << "./Sound/sound_zh_CN/rules.wav";
     QTest::newRow("custom") << "/own/rules.wav"
-                            << "en"
-                            << "/own/rules.wav";
+                            << "en" << QDir::toNativeSeparators("/own/rules.wav");
     QTest::newRow("custom, any script") << QString::fromUtf8("/\xe5\xa3\xb0.wav") << "en"
-                                        << QString::fromUtf8("/\xe5\xa3\xb0.wav");
+                                        << QDir::toNativeSeparators(QString::fromUtf8("/\xe5\xa3\xb0.wav"));
 }
 
 void tst_AlarmLoad::LoadShowsTheFirstSound()

@@ -23,6 +23,7 @@ private slots:
     void BrowsingSetsTheCustomSound();
     void BrowsingWithoutAPickMeansTheFirstEntry();
     void BrowsingAfterDefaultsChangesTheCachedRecord();
+    void BrowsingStartsInTheFolderShown_data();
     void BrowsingStartsInTheFolderShown();
     void CancellingTheFileDialogChangesNothing();
     void AKeyThatTheRecordLacksIsHandedBackUnchanged();
@@ -79,9 +80,9 @@ void tst_AlarmTypeSounds::PickingATypeShowsItsSound_data()
     QTest::addColumn<QString>("strShown");
     const QString strBefore = g_strDefaultFolder + "rules.wav"; // of the first entry, which is shown at first
     QTest::newRow("302") << g_strDefaultFolder + "video.wav";
-    QTest::newRow("201") << "/own/device.wav";
-    QTest::newRow("961") << "/own/face.wav"; // all of group 104 but three
-    QTest::newRow("17021") << "/own/face.wav";
+    QTest::newRow("201") << QDir::toNativeSeparators("/own/device.wav");
+    QTest::newRow("961") << QDir::toNativeSeparators("/own/face.wav"); // all of group 104 but three
+    QTest::newRow("17021") << QDir::toNativeSeparators("/own/face.wav");
     QTest::newRow("967") << g_strDefaultFolder + "face967.wav";
     QTest::newRow("17020") << strBefore; // no entry of its own
     QTest::newRow("17029") << strBefore;
@@ -145,7 +146,7 @@ void tst_AlarmTypeSounds::BrowsingSetsTheCustomSound()
     QCOMPARE(m_listDialogFilters, QStringList{"WAVE Files (*.wav)"});
     QCOMPARE(spy.size(), 1);
     QCOMPARE(spy.first(), (QVariantList{nKey, strFile}));
-    QCOMPARE(Path()->text(), strFile);
+    QCOMPARE(Path()->text(), QDir::toNativeSeparators(strFile));
     QCOMPARE(m_pFixture->journal.Take(), (QStringList{"GetConfig", "SetConfig false"}));
     for (const auto& sound : Stored().alarmSounds)
     {
@@ -182,10 +183,23 @@ void tst_AlarmTypeSounds::BrowsingAfterDefaultsChangesTheCachedRecord()
     QCOMPARE(Stored().alarmSounds.at(201).customSound, std::string());
 }
 
+void tst_AlarmTypeSounds::BrowsingStartsInTheFolderShown_data()
+{
+    QTest::addColumn<QString>("strCustom");
+    QTest::newRow("default") << QString();
+    QTest::newRow("relative") << "./Sound/sound_en/mine.wav";
+#ifdef Q_OS_WIN
+    QTest::newRow("relative with backslashes") << R"(.\Sound\sound_en\mine.wav)";
+#endif
+}
+
 void tst_AlarmTypeSounds::BrowsingStartsInTheFolderShown()
 {
+    QFETCH(QString, strCustom);
     QVERIFY(QDir().mkpath("Sound/sound_en"));
-    Load(Record());
+    AlarmConfigInfo record = Record();
+    record.alarmSounds.begin()->second.customSound = strCustom.toStdString();
+    Load(record);
     QString strFolder;
     Browse(QString(), &strFolder);
     QCOMPARE(strFolder, QDir::currentPath() + "/Sound/sound_en");

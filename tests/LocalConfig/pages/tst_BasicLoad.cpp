@@ -14,18 +14,18 @@ namespace
 class CAutoStartEntry
 {
 public:
-    explicit CAutoStartEntry(const QString& strPath)
+    explicit CAutoStartEntry(const QString& strPath, const QString& strQuote = QStringLiteral("\""))
     {
 #ifdef Q_OS_WIN
         QSettings run("HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run", QSettings::NativeFormat);
-        run.setValue(QCoreApplication::applicationName(), '"' + QDir::toNativeSeparators(strPath) + '"');
+        run.setValue(QCoreApplication::applicationName(), strQuote + QDir::toNativeSeparators(strPath) + strQuote);
 #else
         const QDir config(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
         QVERIFY2(config.path().contains("tests/home"), "an entry must not be written in a user's home");
         QVERIFY(config.mkpath("autostart"));
         m_file.setFileName(config.filePath("autostart/" + QCoreApplication::applicationName() + ".desktop"));
         QVERIFY(m_file.open(QIODevice::WriteOnly));
-        m_file.write("[Desktop Entry]\nType=Application\nExec=\"" + strPath.toUtf8() + "\"\n");
+        m_file.write("[Desktop Entry]\nType=Application\nExec=" + (strQuote + strPath + strQuote).toUtf8() + '\n');
         m_file.close();
 #endif
     }
@@ -71,6 +71,9 @@ private slots:
     void AutoRunStateIsToldBeforeEachLoad();
     void AutoRunStateFollowsTheEntry_data();
     void AutoRunStateFollowsTheEntry();
+#ifdef Q_OS_WIN // where the entry is compared as it stands
+    void AnEntryWithoutQuotesIsNotThisClient();
+#endif
     void AutoRunBoxShowsTheRecord();
     void UnInitForgetsTheSection();
 };
@@ -241,6 +244,17 @@ void tst_BasicLoad::AutoRunStateFollowsTheEntry()
     m_pPage->SetConfigSection(m_pSection.data());
     QCOMPARE(m_journal.Take().first(), QString(bMatches ? "SetAutoRunState true" : "SetAutoRunState false"));
 }
+
+#ifdef Q_OS_WIN
+
+void tst_BasicLoad::AnEntryWithoutQuotesIsNotThisClient()
+{
+    const CAutoStartEntry entry(QCoreApplication::applicationFilePath(), QString());
+    m_pPage->SetConfigSection(m_pSection.data());
+    QCOMPARE(m_journal.Take().first(), QString("SetAutoRunState false"));
+}
+
+#endif
 
 void tst_BasicLoad::AutoRunBoxShowsTheRecord()
 {

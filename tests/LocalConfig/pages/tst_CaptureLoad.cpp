@@ -103,6 +103,12 @@ void tst_CaptureLoad::FolderAsShown_data()
     QTest::newRow("slash stays") << "/snap/" << Native("/snap/");
     QTest::newRow("backslash stays") << "D:\\snap\\"
                                      << "D:\\snap\\";
+    QTest::newRow("share") << "//server/share/snap" << Native("//server/share/snap/");
+    QTest::newRow("share with backslashes") << R"(\\server\share\snap\)"
+                                            << R"(\\server\share\snap\)";
+    QTest::newRow("relative to a drive") << "D:snap" << Native("D:snap/");
+    QTest::newRow("any script") << QString::fromUtf8("C:/Users/用户/快照/")
+                                << Native(QString::fromUtf8("C:/Users/用户/快照/"));
 }
 
 void tst_CaptureLoad::FolderAsShown()

@@ -158,6 +158,12 @@ void tst_RecordConfig::FolderAsShown_data()
     QTest::newRow("slash stays") << "/rec/" << Native("/rec/");
     QTest::newRow("backslash stays") << "E:\\rec\\"
                                      << "E:\\rec\\";
+    QTest::newRow("share") << "//server/share/rec" << Native("//server/share/rec/");
+    QTest::newRow("share with backslashes") << R"(\\server\share\rec\)"
+                                            << R"(\\server\share\rec\)";
+    QTest::newRow("relative to a drive") << "E:rec" << Native("E:rec/");
+    QTest::newRow("any script") << QString::fromUtf8("C:/Users/用户/快照/")
+                                << Native(QString::fromUtf8("C:/Users/用户/快照/"));
 }
 
 void tst_RecordConfig::FolderAsShown()
