@@ -31,4 +31,16 @@ configure_file(cmake/local-config.pc.in "${PROJECT_BINARY_DIR}/local-config.pc" 
 install(FILES "${PROJECT_BINARY_DIR}/local-config.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
     COMPONENT development)
 
-include(LocalConfigPackages)
+set(CPACK_PACKAGE_NAME local-config)
+set(CPACK_PACKAGE_VENDOR "The Local Config authors")
+set(CPACK_PACKAGE_CONTACT "The Local Config authors <local-config@example.org>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Settings dialog of a video-surveillance workstation")
+set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_VERBATIM_VARIABLES ON)
+if(WIN32)
+    include(WindowsPackage)
+elseif(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    include(DebianPackages)
+endif()
+include(CPack)

@@ -11,6 +11,7 @@
 #include <QThread>
 #include <QtTest>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <mutex>
@@ -70,8 +71,19 @@ public:
         QObject::connect(pServer, &QTcpServer::newConnection, pServer, [this] { ++m_nConnections; });
         return m_pServer->listen(QHostAddress::LocalHost, nPort);
     }
-    void Close() { m_pServer.reset(); }
+    void Close()
+    {
+        m_pServer->waitForNewConnection(0); // Wine keeps connections that nobody has taken
+        m_pServer.reset();
+    }
     quint16 Port() const { return m_pServer->serverPort(); }
+    bool HasConnection() const
+    {
+        const auto listSockets = m_pServer->findChildren<QTcpSocket*>();
+        return std::any_of(listSockets.begin(), listSockets.end(), [](const QTcpSocket* pSocket) {
+            return pSocket->state() == QAbstractSocket::ConnectedState;
+        });
+    }
     void SendToAll(const QByteArray& data) const
     {
         for (QTcpSocket* pSocket : m_pServer->findChildren<QTcpSocket*>())
@@ -341,9 +353,7 @@ void tst_LoginManager::ObserversComeAndGoWhileTheServerDoes()
     CServer server;
     QVERIFY(server.Open());
     const quint16 nPort = server.Port();
-    CObserver all;
     LoginManager manager("127.0.0.1", nPort, g_fast);
-    manager.AddObserver(&all);
     std::atomic<bool> bStop{false};
     std::atomic<int> nRounds{0};
     std::array<std::thread, 2> arrThreads;
@@ -378,11 +388,10 @@ void tst_LoginManager::ObserversComeAndGoWhileTheServerDoes()
     // None of them is left behind: whoever comes now hears of the next loss.
     CObserver last;
     manager.AddObserver(&last);
-    QTRY_VERIFY(all.States().isEmpty() || all.States().last() == "2/0"); // else there is nothing to lose yet
+    QTRY_VERIFY(server.HasConnection()); // else there is nothing to lose yet
     server.Close();
     QTRY_COMPARE(last.States().isEmpty() ? QString() : last.States().last(), QString("3/0"));
     manager.RemoveObserver(&last);
-    manager.RemoveObserver(&all);
 }
 
 void tst_LoginManager::AConnectionThatTheServerDropsIsALoss()

@@ -1,18 +1,5 @@
 # Debian packages by CPack: the libraries, the client, and what a host is built with.
 
-set(CPACK_PACKAGE_NAME local-config)
-set(CPACK_PACKAGE_VENDOR "The Local Config authors")
-set(CPACK_PACKAGE_CONTACT "The Local Config authors <local-config@example.org>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Settings dialog of a video-surveillance workstation")
-set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
-set(CPACK_STRIP_FILES ON)
-set(CPACK_VERBATIM_VARIABLES ON)
-
-if(NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
-    include(CPack)
-    return()
-endif()
-
 set(CPACK_GENERATOR DEB)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
@@ -60,5 +47,3 @@ install(FILES "${papers}/local-config-client.1.gz" DESTINATION "${CMAKE_INSTALL_
 package(development liblocalconfig-dev libdevel
     "What a host is built with: headers, and the packages of CMake and pkg-config.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${sameLibraries}, qtbase5-dev")
-
-include(CPack)
