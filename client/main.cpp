@@ -95,6 +95,9 @@ int main(int argc, char* argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qputenv("QT_LOGGING_RULES", "default.warning=false"); // what that plug-in lacks is no news to an operator
     }
+#ifdef Q_OS_WIN
+    QApplication::setDesktopSettingsAware(false); // lists and menus have fonts of their own there
+#endif
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     g_eAction = commandLine.eAction;
