@@ -4,6 +4,7 @@
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <string>
 
 namespace LocalConfigClient
 {
@@ -20,13 +21,9 @@ QByteArray ToScalar(const QVariant& value)
     return array.mid(1, array.size() - 2);
 }
 
-/// Most texts are plain, and then this is far quicker.
-QByteArray ToText(const QString& strText)
+bool IsPlain(QChar ch)
 {
-    const bool bPlain = std::all_of(strText.begin(), strText.end(), [](QChar ch) {
-        return ch.unicode() >= ' ' && ch.unicode() <= '~' && ch != QLatin1Char('"') && ch != QLatin1Char('\\');
-    });
-    return bPlain ? '"' + strText.toLatin1() + '"' : ToScalar(strText);
+    return ch.unicode() >= ' ' && ch.unicode() <= '~' && ch != QLatin1Char('"') && ch != QLatin1Char('\\');
 }
 
 class Writer
@@ -42,7 +39,8 @@ public:
             for (auto it = map.cbegin(); it != map.cend(); ++it)
             {
                 Next();
-                m_text += ToText(it.key()) + ": ";
+                AddText(it.key());
+                m_text += ": ";
                 Add(it.value());
             }
             Close('}');
@@ -58,22 +56,38 @@ public:
             Close(']');
             break;
         case QMetaType::LongLong:
-            m_text += QByteArray::number(value.toLongLong());
+            m_text += std::to_string(value.toLongLong());
             break;
         case QMetaType::QString:
-            m_text += ToText(value.toString());
+            AddText(value.toString());
             break;
         case QMetaType::Bool:
             m_text += value.toBool() ? "true" : "false";
             break;
         default:
-            m_text += ToScalar(value);
+            m_text += ToScalar(value).constData();
         }
     }
 
-    const QByteArray& GetText() const { return m_text; }
+    QByteArray GetText() const { return QByteArray::fromStdString(m_text); }
 
 private:
+    /// Most texts are plain, and then this is far quicker than Qt's form.
+    void AddText(const QString& strText)
+    {
+        if (!std::all_of(strText.begin(), strText.end(), IsPlain))
+        {
+            m_text += ToScalar(strText).constData();
+            return;
+        }
+        m_text += '"';
+        for (const QChar ch : strText)
+        {
+            m_text += ch.toLatin1();
+        }
+        m_text += '"';
+    }
+
     void Open(char chBracket)
     {
         m_text += chBracket;
@@ -86,7 +100,7 @@ private:
     {
         m_text += m_bFirst ? "" : ",\n";
         m_bFirst = false;
-        m_text += QByteArray(g_nIndent * m_nDepth, ' ');
+        m_text.append(std::size_t(g_nIndent * m_nDepth), ' ');
     }
 
     void Close(char chBracket)
@@ -94,11 +108,11 @@ private:
         m_text += m_bFirst ? "" : "\n";
         m_bFirst = false;
         --m_nDepth;
-        m_text += QByteArray(g_nIndent * m_nDepth, ' ');
+        m_text.append(std::size_t(g_nIndent * m_nDepth), ' ');
         m_text += chBracket;
     }
 
-    QByteArray m_text;
+    std::string m_text; // to which characters are added more quickly than to a QByteArray
     int m_nDepth = 0;
     bool m_bFirst = true;
 };
