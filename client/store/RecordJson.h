@@ -173,7 +173,7 @@ QVariant Write(const Value& value, const QVariant& old)
         for (const auto& [nKey, mapped] : value)
         {
             const QString strKey = QString::number(nKey);
-            map.insert(strKey, Write(mapped, before.value(strKey)));
+            map.insert(map.cend(), strKey, Write(mapped, before.value(strKey))); // most often that is its place
         }
         return map;
     }
