@@ -135,21 +135,6 @@ void CAlarmConfig::ConnectSlots()
     connect(CAlarmType::Instance(), &CAlarmType::SignalUpdateAlarmType, this, &CAlarmConfig::OnReInitAlarmType);
 }
 
-int CAlarmConfig::SetConfigSection(LocalConfigLogical::IAlarmSection* pSection)
-{
-    const int nResult = CSectionPage::SetConfigSection(pSection);
-    if (nResult == 0)
-    {
-        UpdateControlState(true);
-    }
-    return nResult;
-}
-
-int CAlarmConfig::SetSection(LocalConfigLogical::IConfigSection* pSection)
-{
-    return SetConfigSection(static_cast<LocalConfigLogical::IAlarmSection*>(pSection));
-}
-
 int CAlarmConfig::ApplyConfigXml()
 {
     const std::optional<bool> forced = ReadForcedAlarmSound(QDir::currentPath() + QStringLiteral("/Config.xml"));
@@ -207,7 +192,7 @@ void CAlarmConfig::LoadConfig(bool bDefault)
     m_pUi->ckbLinkVideo->setChecked(record.linkVideo);
     (record.openVideoType == 0 ? m_pUi->radioPopUp : m_pUi->radioPreview)->setChecked(true);
     FillTypeLists(record);
-    UpdateControlState(true);
+    EnableControls(true, record);
 }
 
 void CAlarmConfig::FillTypeLists(const AlarmConfigInfo& record)
@@ -334,7 +319,11 @@ void CAlarmConfig::PutBack(const AlarmConfigInfo& record)
 
 void CAlarmConfig::UpdateControlState(bool bEnable)
 {
-    const AlarmConfigInfo record = GetCurrentRecord();
+    EnableControls(bEnable, GetCurrentRecord());
+}
+
+void CAlarmConfig::EnableControls(bool bEnable, const AlarmConfigInfo& record)
+{
     EnableSoundControls(bEnable && record.alarmSound);
     EnableFlashControls(bEnable && record.mapFlash);
     EnableVideoChoice(bEnable && record.linkVideo);

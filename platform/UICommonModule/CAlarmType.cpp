@@ -165,9 +165,13 @@ void CAlarmType::GetAlarmCategory(QMap<int, QString>& mapMain, QMap<int, QMap<in
         const bool bInSet = pSetAlarmId && pSetAlarmId->contains(type.nId);
         if (bInSet != bExclude)
         {
-            mapMain.insert(type.group.nCategoryId, m_mapCategories.value(type.group.nCategoryId));
-            mapSub[type.group.nCategoryId].insert(nIndex, type.strName);
+            QMap<int, QString>& mapTypes = mapSub[type.group.nCategoryId];
+            mapTypes.insert(mapTypes.cend(), nIndex, type.strName); // indices ascend
         }
+    }
+    for (auto it = mapSub.cbegin(); it != mapSub.cend(); ++it)
+    {
+        mapMain.insert(it.key(), m_mapCategories.value(it.key()));
     }
 }
 
