@@ -25,6 +25,7 @@
 #include <UICommonModule/Pxa.h>
 
 #include <QDialogButtonBox>
+#include <QLibrary>
 
 using LocalConfigClient::ConfigService;
 using LocalConfigClient::Settings;
@@ -52,6 +53,11 @@ QString ReadSheet(const char* pszFile)
     QString strSheet;
     Pxa::loadStyleSheet(Pxa::GetSkinPath("LocalConfig", QString::fromLatin1(pszFile)), strSheet);
     return strSheet;
+}
+
+QString PeerFile()
+{
+    return QCoreApplication::applicationDirPath() + "/../lib/libbench-peer.so";
 }
 
 template <class Form>
@@ -135,6 +141,26 @@ std::unique_ptr<QDialog> MakeBare(CHost& /*host*/)
     BuildForm<Ui::CSecurityConfig>(shell.m_gBSecurity);
     BuildForm<Ui::CShortcutKeyConfig>(shell.m_gShortcutKey)->setStyleSheet(ReadSheet("CShortcutKeyConfig.qss"));
     return pDialog;
+}
+
+bool SPeer::IsThere()
+{
+    return QFile::exists(PeerFile());
+}
+
+const SPeer& SPeer::Instance()
+{
+    static QLibrary library(PeerFile());
+    static const SPeer peer = {reinterpret_cast<decltype(pMake)>(library.resolve("MakePeer")),
+                               reinterpret_cast<decltype(pReload)>(library.resolve("ReloadPeer")),
+                               reinterpret_cast<decltype(pSave)>(library.resolve("SavePeer"))};
+    return peer;
+}
+
+std::unique_ptr<QDialog> MakePeer(CHost& host)
+{
+    const QString strFile = host.GetPath("peerrc");
+    return std::unique_ptr<QDialog>(SPeer::Instance().pMake(&host.GetContents(), &strFile));
 }
 
 std::unique_ptr<QDialog> MakePlain(CHost& host)

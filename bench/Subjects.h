@@ -30,6 +30,8 @@ public:
     /// What the dialog shows with the stored settings.
     const CContents& GetContents();
 
+    QString GetPath(const char* pszName) const { return m_folder.filePath(QString::fromLatin1(pszName)); }
+
     SFakeHost fakes;
 
 private:
@@ -41,6 +43,20 @@ private:
 
 /// What is measured: makes the dialog, ready to be shown.
 using Subject = std::unique_ptr<QDialog> (*)(CHost& host);
+
+/// The peer's module, where its packages were there when this was built. It is loaded at the first use.
+struct SPeer
+{
+    static bool IsThere();
+    static const SPeer& Instance();
+
+    QDialog* (*pMake)(const CContents* pContents, const QString* pFile);
+    void (*pReload)(QDialog* pDialog);
+    void (*pSave)(QDialog* pDialog);
+};
+
+/// The peer with the contents that the dialog has with this host.
+std::unique_ptr<QDialog> MakePeer(CHost& host);
 
 /// The dialog as hosts get it.
 std::unique_ptr<QDialog> MakeProduct(CHost& host);

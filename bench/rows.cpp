@@ -11,8 +11,10 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QPixmapCache>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollArea>
 
@@ -60,7 +62,8 @@ class CPaintWatch : public QObject
 public:
     explicit CPaintWatch(QDialog& dialog)
     {
-        dialog.findChild<QScrollArea*>("scrollArea")->widget()->installEventFilter(this);
+        auto* pArea = dialog.findChild<QScrollArea*>("scrollArea"); // which the peer does without
+        (pArea ? pArea->widget() : &dialog)->installEventFilter(this);
     }
 
     bool eventFilter(QObject* /*pWatched*/, QEvent* pEvent) override
@@ -159,6 +162,34 @@ double ReloadAndHide(SBench& bench)
     return bench.counter.Count([&] { Click(*pDialog, "btnCancel"); });
 }
 
+double ReloadAndHidePeer(SBench& bench)
+{
+    const std::unique_ptr<QDialog> pDialog = MakeAndShow(&MakePeer, bench.Filled());
+    return bench.counter.Count([&] {
+        SPeer::Instance().pReload(pDialog.get());
+        pDialog->hide();
+        QApplication::processEvents();
+    });
+}
+
+double DefaultsPeer(SBench& bench)
+{
+    const std::unique_ptr<QDialog> pDialog = MakeAndShow(&MakePeer, bench.Filled());
+    auto* pButtons = pDialog->findChild<QDialogButtonBox*>();
+    return bench.counter.Count([&] {
+        pButtons->button(QDialogButtonBox::RestoreDefaults)->click();
+        QApplication::processEvents();
+    });
+}
+
+double SaveToDiskPeer(SBench& bench)
+{
+    const std::unique_ptr<QDialog> pDialog = MakeAndShow(&MakePeer, bench.Filled());
+    SPeer::Instance().pSave(pDialog.get());
+    pDialog->findChild<QAbstractButton*>("kcfg_timeChkBox")->toggle();
+    return bench.counter.Count([&] { SPeer::Instance().pSave(pDialog.get()); });
+}
+
 double Defaults(SBench& bench)
 {
     const std::unique_ptr<QDialog> pDialog = MakeAndShow(&MakeProduct, bench.Filled());
@@ -223,7 +254,7 @@ std::vector<SRow> MakeRows(SBench& bench)
         return [&bench, nSounds] { return GrownFirstShow(bench, nSounds); };
     };
     const auto grownSave = [&bench](int nSounds) { return [&bench, nSounds] { return GrownSave(bench, nSounds); }; };
-    return {
+    std::vector<SRow> listRows = {
         {"first-show", nullptr, "plain", firstShow(&MakeProduct), firstShow(&MakePlain), true},
         {"first-show-bare", nullptr, "bare", firstShow(&MakeProduct), firstShow(&MakeBare), false},
         {"second-show", nullptr, "plain", secondShow(&MakeProduct), secondShow(&MakePlain), true},
@@ -237,6 +268,20 @@ std::vector<SRow> MakeRows(SBench& bench)
         {"first-show-10000-sounds", nullptr, "with 10", grownShow(g_nSounds), grownShow(10), false},
         {"save-10000-sounds", nullptr, "with 1000", grownSave(g_nSounds), grownSave(g_nSounds / 10), false},
     };
+    if (SPeer::IsThere())
+    {
+        listRows.insert(listRows.end(),
+                        {{"first-show-peer", nullptr, "peer", firstShow(&MakeProduct), firstShow(&MakePeer), false},
+                         {"second-show-peer", nullptr, "peer", secondShow(&MakeProduct), secondShow(&MakePeer), false},
+                         {"heap-peer", "kB", "peer", heap(&MakeProduct), heap(&MakePeer), false},
+                         {"reload-and-hide-peer", nullptr, "peer", [&bench] { return ReloadAndHide(bench); },
+                          [&bench] { return ReloadAndHidePeer(bench); }, false},
+                         {"defaults-peer", nullptr, "peer", [&bench] { return Defaults(bench); },
+                          [&bench] { return DefaultsPeer(bench); }, false},
+                         {"save-to-disk-peer", nullptr, "peer", [&bench] { return Save(bench, bench.Filled(), true); },
+                          [&bench] { return SaveToDiskPeer(bench); }, false}});
+    }
+    return listRows;
 }
 
 double Median(std::vector<double> listNumbers)
