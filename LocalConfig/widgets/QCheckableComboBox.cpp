@@ -30,6 +30,20 @@ bool ClosesTheList(const QKeyEvent& event)
     }
 }
 
+bool OpensTheList(const QKeyEvent& event)
+{
+    switch (event.key())
+    {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return true;
+    default:
+        return false;
+    }
+}
+
 /// The text of a button that shows this text as it is.
 QString WithoutMnemonic(QString strText)
 {
@@ -119,6 +133,18 @@ bool QCheckableComboBox::eventFilter(QObject* pWatched, QEvent* pEvent)
         return true;
     }
     return QSkinCombox::eventFilter(pWatched, pEvent);
+}
+
+void QCheckableComboBox::keyPressEvent(QKeyEvent* pEvent)
+{
+    if (OpensTheList(*pEvent) && CanOpen())
+    {
+        showPopup(); // there is no other item to go to
+    }
+    else
+    {
+        QSkinCombox::keyPressEvent(pEvent);
+    }
 }
 
 KVGUI::KvListWidget* QCheckableComboBox::GetList() const

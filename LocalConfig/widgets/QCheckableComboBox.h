@@ -46,6 +46,7 @@ public slots:
 
 protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+    void keyPressEvent(QKeyEvent* pEvent) override;
 
 private:
     bool CanOpen() const;

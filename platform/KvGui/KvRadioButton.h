@@ -7,7 +7,7 @@
 namespace KVGUI
 {
 
-/// Radio button with the client's look.
+/// Radio button with the client's look. Tab enters a group at the button that is checked.
 class KVGUI_EXPORT KvRadioButton : public QRadioButton
 {
     Q_OBJECT
@@ -15,6 +15,14 @@ class KVGUI_EXPORT KvRadioButton : public QRadioButton
 public:
     explicit KvRadioButton(QWidget* pParent = nullptr);
     explicit KvRadioButton(const QString& strText, QWidget* pParent = nullptr);
+
+protected:
+    void checkStateSet() override;
+    void nextCheckState() override;
+
+private:
+    void TakeTabStop();
+    QList<QAbstractButton*> GetGroup() const;
 };
 
 } // namespace KVGUI

@@ -1,6 +1,7 @@
 #include "KvTableView.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 
 namespace KVGUI
 {
@@ -32,6 +33,15 @@ void KvTableView::setModel(QAbstractItemModel* pModel)
             connect(pModel, &QAbstractItemModel::columnsInserted, this, &KvTableView::OnColumnsInserted),
             connect(pModel, &QAbstractItemModel::modelReset, this, &KvTableView::OnModelReset)};
         OnModelReset();
+    }
+}
+
+void KvTableView::keyPressEvent(QKeyEvent* pEvent)
+{
+    QTableView::keyPressEvent(pEvent);
+    if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter)
+    {
+        pEvent->accept(); // Enter on a cell must not press the dialog's default button
     }
 }
 

@@ -21,6 +21,9 @@ public:
 
     void setModel(QAbstractItemModel* pModel) override;
 
+protected:
+    void keyPressEvent(QKeyEvent* pEvent) override;
+
 private:
     void OnHeaderDataChanged(Qt::Orientation eOrientation, int nFirst, int nLast);
     void OnColumnsInserted(const QModelIndex& parent, int nFirst, int nLast);

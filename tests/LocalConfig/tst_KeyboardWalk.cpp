@@ -73,6 +73,10 @@ private slots:
     void AStopThatIsReachedFromTheButtonsIsSeenAndMarked();
     void EveryCellOfTheKeyTableIsSeen_data();
     void EveryCellOfTheKeyTableIsSeen();
+    void EnterInTheKeyTableDoesNothing_data();
+    void EnterInTheKeyTableDoesNothing();
+    void ARadioGroupIsEnteredAtItsCheckedButton_data();
+    void ARadioGroupIsEnteredAtItsCheckedButton();
     void NothingMovesUnderTheMouse();
     void AFocusThatOnlyComesBackMovesNothing();
 
@@ -95,6 +99,9 @@ void tst_KeyboardWalk::init()
     QApplication::desktop()->setGeometry(0, 0, 1920, 1080);
     UseSkin("DustyBlue");
     m_host.shortcutKey.m_record = LocalConfigLogical::ShortcutKeyConfigInfo();
+    m_host.tvWall.m_record = LocalConfigLogical::TvWallConfigInfo();
+    m_host.alarm.m_record = LocalConfigLogical::AlarmConfigInfo();
+    m_host.journal.Take();
 }
 
 void tst_KeyboardWalk::Enter(SRealDialog& d, int nIndex)
@@ -301,6 +308,59 @@ void tst_KeyboardWalk::EveryCellOfTheKeyTableIsSeen()
         QTest::keyClick(pView, n < nRows ? Qt::Key_Down : Qt::Key_Up);
     }
     QCOMPARE(pView->currentIndex().row(), 0);
+}
+
+void tst_KeyboardWalk::EnterInTheKeyTableDoesNothing_data()
+{
+    QTest::addColumn<int>("nKey");
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Enter") << int(Qt::Key_Enter);
+}
+
+void tst_KeyboardWalk::EnterInTheKeyTableDoesNothing()
+{
+    QFETCH(int, nKey);
+    SRealDialog d(m_host);
+    d.Open();
+    d.Find<QWidget>("pckeyboardView")->setFocus();
+    QCOMPARE(Press(d, Qt::Key(nKey))->objectName(), QString("pckeyboardView"));
+    QVERIFY(d.dialog.isVisible());
+    QCOMPARE(m_host.journal.Take(), QStringList());
+}
+
+void tst_KeyboardWalk::ARadioGroupIsEnteredAtItsCheckedButton_data()
+{
+    QTest::addColumn<int>("nIndex");
+    QTest::addColumn<QStringList>("listGroup");
+    QTest::addColumn<QString>("strChecked");
+    const auto add = [](int nIndex, const QStringList& listGroup) {
+        for (const QString& strChecked : listGroup)
+        {
+            QTest::newRow(qPrintable(strChecked)) << nIndex << listGroup << strChecked;
+        }
+    };
+    add(5, {"radioPopUp", "radioPreview"});
+    add(6, {"rdBtnTour", "rdBtnTile", "rdBtnInquiry"});
+    add(8, {"pcRadioBtn", "nkbRadioBtn"});
+}
+
+void tst_KeyboardWalk::ARadioGroupIsEnteredAtItsCheckedButton()
+{
+    QFETCH(int, nIndex);
+    QFETCH(QStringList, listGroup);
+    QFETCH(QString, strChecked);
+    m_host.alarm.m_record.openVideoType = listGroup.indexOf(strChecked);
+    m_host.tvWall.m_record.nBindMode = listGroup.indexOf(strChecked) + 1;
+    m_host.shortcutKey.m_record.pcKeyboard = strChecked == "pcRadioBtn";
+    SRealDialog d(m_host);
+    QStringList listEntered;
+    Walk(d, nIndex, [&](QWidget* pStop) {
+        if (listGroup.contains(pStop->objectName()))
+        {
+            listEntered += pStop->objectName();
+        }
+    });
+    QCOMPARE(listEntered, QStringList{strChecked});
 }
 
 void tst_KeyboardWalk::NothingMovesUnderTheMouse()

@@ -66,6 +66,8 @@ class tst_AlarmBoxes : public QObject
 
 private slots:
     void TheMapBoxIsWorkedByKeyboard();
+    void TheClosedMapBoxOpens_data();
+    void TheClosedMapBoxOpens();
     void ClosingTheMapBoxsListDoesNoMore_data();
     void ClosingTheMapBoxsListDoesNoMore();
     void HidingTheDialogClosesTheMapBoxsList();
@@ -88,6 +90,30 @@ void tst_AlarmBoxes::TheMapBoxIsWorkedByKeyboard()
     QVERIFY(d.pBox->currentText() != d.strBefore);
     d.Click("btnOk");
     QCOMPARE(host.alarm.m_record.flashCategories, (std::map<std::int32_t, bool>{{2, false}, {3, true}}));
+}
+
+void tst_AlarmBoxes::TheClosedMapBoxOpens_data()
+{
+    QTest::addColumn<int>("nKey");
+    QTest::newRow("Up") << int(Qt::Key_Up);
+    QTest::newRow("Down") << int(Qt::Key_Down);
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Enter") << int(Qt::Key_Enter);
+}
+
+void tst_AlarmBoxes::TheClosedMapBoxOpens()
+{
+    QFETCH(int, nKey);
+    SRealHost host;
+    SMapBox d(host);
+    d.Open();
+    d.pBox->setFocus();
+    d.Press(nKey);
+    QVERIFY(d.List()->isVisible());
+    d.Press(Qt::Key_Escape);
+    QVERIFY(!d.List()->isVisible());
+    QVERIFY(d.dialog.isVisible());
+    QCOMPARE(d.pBox->currentText(), d.strBefore);
 }
 
 void tst_AlarmBoxes::ClosingTheMapBoxsListDoesNoMore_data()
