@@ -58,7 +58,6 @@ public:
             {
                 if (KvPushButton* pButton = pRow->GetButton(nButton))
                 {
-                    pButton->setAutoDefault(true); // Enter presses it only while it has the focus
                     pButton->setFocus();
                     break;
                 }

@@ -54,6 +54,9 @@ private slots:
     void ButtonTexts();
     void WithoutADefaultEnterDoesNotConfirm();
     void EnterPressesTheDefaultButton();
+    void EnterPressesTheButtonThatHasTheFocus();
+    void TheConfirmingButtonStandsBeforeTheCancellingOne_data();
+    void TheConfirmingButtonStandsBeforeTheCancellingOne();
 };
 
 void tst_KvMessageBox::ReturnsThePressedButton_data()
@@ -157,6 +160,53 @@ void tst_KvMessageBox::WithoutADefaultEnterDoesNotConfirm()
 void tst_KvMessageBox::EnterPressesTheDefaultButton()
 {
     QCOMPARE(Show(0x2400, 0x400, [](QDialog* pBox) { QTest::keyClick(pBox->focusWidget(), Qt::Key_Return); }), 0x400);
+}
+
+void tst_KvMessageBox::EnterPressesTheButtonThatHasTheFocus()
+{
+    const QMap<QString, int> mapButtons = {{"btnOk", 0x400}, {"btnOther", 0x2000}, {"btnCancel", 0x400000}};
+    for (auto it = mapButtons.begin(); it != mapButtons.end(); ++it)
+    {
+        const int nPressed = Show(0x402400, 0x400, [&it](QDialog* pBox) {
+            pBox->findChild<QAbstractButton*>(it.key())->setFocus();
+            QTest::keyClick(pBox->focusWidget(), Qt::Key_Return);
+        });
+        QCOMPARE(nPressed, it.value());
+    }
+}
+
+void tst_KvMessageBox::TheConfirmingButtonStandsBeforeTheCancellingOne_data()
+{
+    QTest::addColumn<int>("nButtons");
+    QTest::addColumn<QStringList>("listOrder");
+    QTest::newRow("two") << 0x2400 << QStringList{"OK", "Cancel"};
+    QTest::newRow("the other two") << 0x400400 << QStringList{"OK", "Cancel"};
+    QTest::newRow("three") << 0x402400 << QStringList{"Other", "OK", "Cancel"};
+}
+
+void tst_KvMessageBox::TheConfirmingButtonStandsBeforeTheCancellingOne()
+{
+    QFETCH(int, nButtons);
+    QFETCH(QStringList, listOrder);
+    QMap<int, QString> mapTexts; // by place
+    QStringList listTabs;
+    Show(nButtons, 0, [&](QDialog* pBox) {
+        for (const char* pszName : {"btnOther", "btnOk", "btnCancel"})
+        {
+            if (const QAbstractButton* pButton = Button(pBox, pszName))
+            {
+                mapTexts.insert(pButton->x(), pButton->text());
+            }
+        }
+        Button(pBox, "btnClose")->setFocus();
+        for (int n = 0; n < listOrder.size(); ++n)
+        {
+            QTest::keyClick(pBox->focusWidget(), Qt::Key_Tab);
+            listTabs += qobject_cast<QAbstractButton*>(pBox->focusWidget())->text();
+        }
+    });
+    QCOMPARE(QStringList(mapTexts.values()), listOrder);
+    QCOMPARE(listTabs, listOrder);
 }
 
 QTEST_MAIN(tst_KvMessageBox)

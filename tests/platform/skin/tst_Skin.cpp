@@ -5,6 +5,7 @@
 #include <KvGui/KvCheckBox.h>
 #include <KvGui/KvComboBox.h>
 #include <KvGui/KvLineEdit.h>
+#include <KvGui/KvMessageBox.h>
 #include <KvGui/KvPushButton.h>
 #include <KvGui/KvRadioButton.h>
 #include <KvGui/KvSpinBox.h>
@@ -110,6 +111,10 @@ private slots:
     void SheetsAreUnderstood();
     void ControlStatesDiffer_data();
     void ControlStatesDiffer();
+    void TheFilledButtonIsTheOneThatEnterPresses_data() { SkinRows(); }
+    void TheFilledButtonIsTheOneThatEnterPresses();
+    void AReadOnlyFieldLooksReadOnly_data() { SkinRows(); }
+    void AReadOnlyFieldLooksReadOnly();
     void TheBrowseButtonLooksDisabled_data() { SkinRows(); }
     void TheBrowseButtonLooksDisabled();
     void TheAlarmMenuShowsWhichListHasTheKeys_data() { SkinRows(); }
@@ -355,8 +360,9 @@ void tst_Skin::ControlStatesDiffer()
     }
     else
     {
-        pControl = new KVGUI::KvPushButton("Text", &window);
-        pControl->setObjectName(strClass == "primary button" ? "btnOk" : "");
+        auto* pButton = new KVGUI::KvPushButton("Text", &window);
+        pButton->setDefault(strClass == "primary button");
+        pControl = pButton;
     }
     auto* pOther = new KVGUI::KvPushButton("Other", &window);
     pLayout->addWidget(pControl);
@@ -378,6 +384,68 @@ void tst_Skin::ControlStatesDiffer()
     QVERIFY(normal != focused);
     QVERIFY(normal != disabled);
     QVERIFY(focused != disabled);
+}
+
+void tst_Skin::TheFilledButtonIsTheOneThatEnterPresses()
+{
+    QFETCH(QString, strSkin);
+    UseSkin(strSkin);
+    const QColor accent = PaletteColor(strSkin, "accent");
+    const QMap<QString, int> mapResults = {{"btnOk", 0x400}, {"btnOther", 0x2000}};
+    for (const int nDefault : {0, 0x400, 0x2000})
+    {
+        for (const int nTabs : {0, 1, 2, 3})
+        {
+            QStringList listFilled;
+            QTimer::singleShot(20, qApp, [&] {
+                QWidget* pBox = QApplication::activeModalWidget();
+                QApplication::setActiveWindow(pBox);
+                for (int n = 0; n < nTabs; ++n)
+                {
+                    QTest::keyClick(pBox->focusWidget(), Qt::Key_Tab);
+                }
+                for (const QString& strName : mapResults.keys())
+                {
+                    auto* pButton = pBox->findChild<QWidget*>(strName);
+                    const QColor ground = pButton->grab().toImage().pixelColor(6, pButton->height() / 2);
+                    listFilled += ground == accent ? QStringList{strName} : QStringList();
+                }
+                if (listFilled.size() == 1)
+                {
+                    QTest::keyClick(pBox->focusWidget(), Qt::Key_Return);
+                }
+                pBox->hide();
+            });
+            const int nResult = KVGUI::KvMessageBox::ShowInformation(nullptr, "Prompt", "Sure?", 0x2400, nDefault);
+            const bool bNone = listFilled.isEmpty(); // nothing is filled while the close button has the focus
+            QVERIFY2(bNone ? nTabs > 0 : nResult == mapResults.value(listFilled.first()),
+                     qPrintable(QString("%1, %2 tabs: %3").arg(nDefault).arg(nTabs).arg(listFilled.join(' '))));
+        }
+    }
+}
+
+void tst_Skin::AReadOnlyFieldLooksReadOnly()
+{
+    QFETCH(QString, strSkin);
+    UseSkin(strSkin);
+    QWidget window;
+    auto* pLayout = new QVBoxLayout(&window);
+    auto* pEditable = new UICommonMdl::CPathEdit(&window);
+    auto* pReadOnly = new UICommonMdl::CPathEdit(&window);
+    pReadOnly->setReadOnly(true);
+    pLayout->addWidget(pEditable);
+    pLayout->addWidget(pReadOnly);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const auto pixel = [](QWidget* pEdit, int nY) {
+        return pEdit->grab().toImage().pixelColor(pEdit->width() / 2, nY);
+    };
+    const QColor ground = pixel(pReadOnly, pReadOnly->height() / 2);
+    QVERIFY(ground != pixel(pEditable, pEditable->height() / 2));
+    QVERIFY(Contrast(PaletteColor(strSkin, "text"), ground) >= 4.5);
+    pReadOnly->setFocus();
+    QCOMPARE(pixel(pReadOnly, 0), PaletteColor(strSkin, "focus"));
 }
 
 void tst_Skin::TheBrowseButtonLooksDisabled()
