@@ -24,6 +24,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using UICommonMdl::CAlarmType;
 
 namespace LocalConfigClient
@@ -46,6 +48,16 @@ QString GetTimeZoneText()
         .arg(nMinutes < 0 ? QLatin1Char('-') : QLatin1Char('+'))
         .arg(qAbs(nMinutes) / 60, 2, 10, QLatin1Char('0'))
         .arg(qAbs(nMinutes) % 60, 2, 10, QLatin1Char('0'));
+}
+
+/// The first alarm category that the map shows; the first of all where it shows none.
+int FindFlashing(const QList<int>& listCategories, const LocalConfigLogical::AlarmConfigInfo& settings)
+{
+    const auto it = std::find_if(listCategories.begin(), listCategories.end(), [&settings](int nCategory) {
+        const auto flash = settings.flashCategories.find(nCategory);
+        return flash != settings.flashCategories.end() && flash->second;
+    });
+    return it == listCategories.end() ? listCategories.first() : *it;
 }
 
 } // namespace
@@ -178,7 +190,8 @@ QWidget* MainWindow::MakeAlarmPanel()
     m_pAlarmType->InitMenu(mapMain, mapSub);
     if (!mapMain.isEmpty())
     {
-        m_pAlarmType->ChooseItem(mapMain.firstKey(), mapSub.first().firstKey());
+        const int nCategory = FindFlashing(mapMain.keys(), m_configService.GetStored().alarm);
+        m_pAlarmType->ChooseItem(nCategory, mapSub.value(nCategory).firstKey());
     }
     auto* pRaise = new KVGUI::KvPushButton(tr("Test Alarm"), pPanel);
     pRaise->setObjectName(QStringLiteral("btnTestAlarm"));

@@ -445,7 +445,7 @@ void CAlarmConfig::OnSoundPlayBtnClicked()
         m_pSound.reset();
     }
     const QString strPath = Resolve(m_pUi->editSoundPath->text());
-    if (UICommonMdl::CWaveFile::IsPlayableFile(strPath) && UICommonMdl::CAudioOutput::IsAvailable())
+    if (UICommonMdl::CWaveFile::IsPlayableFile(strPath) && UICommonMdl::CAudioOutput::IsAvailableOrTell())
     {
         m_pSound = std::make_unique<QSound>(strPath);
         m_pSound->play();

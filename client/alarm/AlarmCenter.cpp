@@ -112,7 +112,7 @@ void AlarmCenter::Acknowledge()
 void AlarmCenter::Play(int nAlarmType, bool bLoop)
 {
     const QString strFile = GetSoundFile(*CAlarmType::Instance(), m_configService.GetStored().alarm, nAlarmType);
-    if (!UICommonMdl::CWaveFile::IsPlayableFile(strFile) || !UICommonMdl::CAudioOutput::IsAvailable())
+    if (!UICommonMdl::CWaveFile::IsPlayableFile(strFile) || !UICommonMdl::CAudioOutput::IsAvailableOrTell())
     {
         return;
     }

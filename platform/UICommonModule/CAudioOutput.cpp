@@ -1,5 +1,7 @@
 #include "CAudioOutput.h"
 
+#include <KvGui/KvMessageNotify.h>
+
 #include <QAudioDeviceInfo>
 
 #include <algorithm>
@@ -15,6 +17,19 @@ bool CAudioOutput::IsAvailable()
     return std::any_of(listDevices.begin(), listDevices.end(), [](const QAudioDeviceInfo& device) {
         return !device.deviceName().isEmpty() && device.realm() != QLatin1String("alsa");
     });
+}
+
+bool CAudioOutput::IsAvailableOrTell()
+{
+    static bool g_bTold = false;
+    const bool bAvailable = IsAvailable();
+    if (!bAvailable && !g_bTold)
+    {
+        KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(
+            tr("Sounds cannot be heard, there is no audio device."));
+    }
+    g_bTold = !bAvailable;
+    return bAvailable;
 }
 
 } // namespace UICommonMdl

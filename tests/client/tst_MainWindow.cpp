@@ -1,6 +1,10 @@
 #include "support/ClientWindow.h"
 
+#include <client/alarm/AlarmSounds.h>
+#include <client/alarm/MapView.h>
 #include <client/live/SplitView.h>
+
+#include <UICommonModule/CAlarmType.h>
 
 #include <QComboBox>
 #include <QLabel>
@@ -26,6 +30,10 @@ private slots:
     void SavingTheKeyboardTakesEffectAtOnce();
     void KeysLeadIntoAndOutOfFullScreen();
     void ALockedClientHearsNoKeys();
+
+    void TheTestAlarmStartsAtATypeThatFlashes_data();
+    void TheTestAlarmStartsAtATypeThatFlashes();
+    void ATestAlarmThatNobodyCanHearSaysSoOnce();
 };
 
 void tst_MainWindow::SavingShowsSplitAndScaleAtOnce()
@@ -166,6 +174,47 @@ void tst_MainWindow::ALockedClientHearsNoKeys()
     QVERIFY(window.findChild<SplitView*>()->isVisible());
     QTest::keyClick(&window, Qt::Key_P);
     QTRY_COMPARE(Files("Picture").size(), 1);
+}
+
+void tst_MainWindow::TheTestAlarmStartsAtATypeThatFlashes_data()
+{
+    QTest::addColumn<QList<int>>("listStill"); // categories that do not flash
+    QTest::addColumn<int>("nCategory");
+    QTest::newRow("as delivered") << QList<int>() << 2;
+    QTest::newRow("others chosen") << QList<int>{2, 3} << 4;
+}
+
+void tst_MainWindow::TheTestAlarmStartsAtATypeThatFlashes()
+{
+    QFETCH(QList<int>, listStill);
+    QFETCH(int, nCategory);
+    Settings settings;
+    for (const int nStill : listStill)
+    {
+        settings.alarm.flashCategories[nStill] = false;
+    }
+    Store(settings);
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    service.SeedAlarms(*UICommonMdl::CAlarmType::Instance());
+    UserManager users({}, nullptr);
+    MainWindow window(service, users);
+    window.show();
+    QTest::mouseClick(window.findChild<QAbstractButton*>("btnTestAlarm"), Qt::LeftButton);
+    QVERIFY(window.findChild<MapView*>()->IsFlashing());
+    QCOMPARE(window.findChild<MapView*>()->GetFlashingCategory(), nCategory);
+}
+
+void tst_MainWindow::ATestAlarmThatNobodyCanHearSaysSoOnce()
+{
+    QVERIFY(ProvideSounds());
+    SHOWN_CLIENT;
+    service.SeedAlarms(*UICommonMdl::CAlarmType::Instance());
+    const CNotificationSpy notifications;
+    for (int n = 0; n < 2; ++n)
+    {
+        QTest::mouseClick(window.findChild<QAbstractButton*>("btnTestAlarm"), Qt::LeftButton);
+        QCOMPARE(notifications.size(), 1);
+    }
 }
 
 QTEST_MAIN(tst_MainWindow)

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>CAudioOutput</name>
+    <message>
+        <source>Sounds cannot be heard, there is no audio device.</source>
+        <translation>没有音频设备，无法听到声音。</translation>
+    </message>
+</context>
+<context>
     <name>CErrorCode</name>
     <message>
         <source>success</source>
