@@ -64,7 +64,7 @@ private slots:
 #ifndef Q_OS_WIN // links need a right of their own there, and Wine makes none
     void AnOwnFileIsKnownBehindALink();
 #endif
-#ifndef Q_OS_WIN // no streams have names among the files there
+#ifndef Q_OS_WIN // pipes and devices stand in no folder there
     void AnExportToAStreamGoesThere_data();
     void AnExportToAStreamGoesThere();
     void AnExportToTheOutputAppendsWhereTheShellDoes();
@@ -76,7 +76,7 @@ private slots:
     void MessagesAreInTheLanguageOfTheIniFile();
     void MessagesAreInTheEncodingOfTheOutput();
     void NamesOfManyScriptsAreUnderstood();
-#ifndef Q_OS_WIN // no streams have names among the files there
+#ifndef Q_OS_WIN // pipes and devices stand in no folder there
     void ADumpThatCannotBePrintedFails();
 #endif
     void RightsOfTheDocument();

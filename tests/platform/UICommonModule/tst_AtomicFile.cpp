@@ -78,7 +78,7 @@ private slots:
     void AMissingFileIsReported();
     void AnUnreadableFileIsReported();
     void AFolderIsNotRead();
-#ifndef Q_OS_WIN // no streams have names among the files there
+#ifndef Q_OS_WIN // pipes and devices stand in no folder there
     void APipeIsNotOpened();
 #endif
     void AFileInAClosedFolderIsNotMissing();
