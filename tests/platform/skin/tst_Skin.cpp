@@ -76,6 +76,14 @@ double Contrast(const QColor& one, const QColor& other)
     return (dLight + 0.05) / (dDark + 0.05);
 }
 
+/// Which has the rules of its cards, too.
+QString DialogSheet()
+{
+    QString strSheet;
+    Pxa::loadStyleSheet(Pxa::GetSkinPath("LocalConfig", "CLocalConfig.qss"), strSheet);
+    return strSheet;
+}
+
 void SkinRows()
 {
     QTest::addColumn<QString>("strSkin");
@@ -516,7 +524,9 @@ void tst_Skin::TheSelectedCardHasABar()
 {
     QFETCH(QString, strSkin);
     UseSkin(strSkin);
-    LocalConfig::CGroupBox box(nullptr);
+    QWidget dialog;
+    dialog.setStyleSheet(DialogSheet());
+    LocalConfig::CGroupBox box(&dialog);
     box.setTitle("Section");
     box.setFixedWidth(662);
     box.resize(662, 200);
@@ -534,15 +544,17 @@ void tst_Skin::TheSelectedCardHasABar()
 void tst_Skin::CardsLeaveRoomForTheirPages()
 {
     UseSkin("White");
-    LocalConfig::CGroupBox box(nullptr);
+    QWidget dialog;
+    dialog.setStyleSheet(DialogSheet());
+    LocalConfig::CGroupBox box(&dialog);
     box.setTitle("Section");
     auto* pLayout = new QVBoxLayout(&box);
     pLayout->setContentsMargins(0, 0, 0, 0);
     auto* pPage = new QWidget(&box);
     pLayout->addWidget(pPage);
     box.setFixedSize(662, 462);
-    box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     QVERIFY2(pPage->height() >= 440, qPrintable(QString::number(pPage->height())));
     QVERIFY(pPage->width() >= 658);
 }
