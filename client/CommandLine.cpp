@@ -2,10 +2,12 @@
 
 #include <QCommandLineParser>
 #include <QHostAddress>
+#include <QStandardPaths>
 #include <QUrl>
 
 #include <algorithm>
 #include <initializer_list>
+#include <iterator>
 #include <limits>
 
 namespace LocalConfigClient
@@ -14,7 +16,10 @@ namespace LocalConfigClient
 namespace
 {
 
-constexpr int g_nSectionCount = 9;
+// As the navigation list of the dialog names them in English.
+constexpr const char* g_arrSections[] = {"Basic", "Video",      "Record Playback", "Snapshot",     "Recording",
+                                         "Alarm", "Video Wall", "Security",        "Shortcut Keys"};
+constexpr int g_nSectionCount = int(std::size(g_arrSections));
 constexpr int g_nWallSection = 6;
 constexpr int g_nWallRight = 26;
 constexpr char g_szWithoutRight[] = "without-right";
@@ -28,6 +33,7 @@ struct SAction
     CommandLine::Action eAction;
     const char* pszValue; // null for none
     const char* pszHelp;
+    const char* pszShort = nullptr;
 };
 
 constexpr SAction g_arrActions[] = {
@@ -41,9 +47,28 @@ constexpr SAction g_arrActions[] = {
     {g_szSet, CommandLine::Set, "NAME=VALUE", QT_TRANSLATE_NOOP("CommandLine", "Change one setting; may be repeated.")},
     {"schema", CommandLine::ShowSchema, nullptr,
      QT_TRANSLATE_NOOP("CommandLine", "Print a JSON schema of the settings.")},
-    {"help", CommandLine::ShowHelp, nullptr, QT_TRANSLATE_NOOP("CommandLine", "Show this help.")},
-    {"version", CommandLine::ShowVersion, nullptr, QT_TRANSLATE_NOOP("CommandLine", "Show the version.")},
+    {"help", CommandLine::ShowHelp, nullptr, QT_TRANSLATE_NOOP("CommandLine", "Show this help."), "h"},
+    {"version", CommandLine::ShowVersion, nullptr, QT_TRANSLATE_NOOP("CommandLine", "Show the version."), "v"},
 };
+
+QStringList GetSectionNames()
+{
+    QStringList listNames;
+    for (const char* pszName : g_arrSections)
+    {
+        listNames += QString::fromLatin1(pszName);
+    }
+    return listNames;
+}
+
+/// By name; -1 for none.
+int FindSection(const QString& strName)
+{
+    const auto it = std::find_if(std::begin(g_arrSections), std::end(g_arrSections), [&strName](const char* pszName) {
+        return strName.compare(QLatin1String(pszName), Qt::CaseInsensitive) == 0;
+    });
+    return it == std::end(g_arrSections) ? -1 : int(it - std::begin(g_arrSections));
+}
 
 QCommandLineOption Option(const char* pszName, const QString& strHelp, const char* pszValue = nullptr)
 {
@@ -56,14 +81,28 @@ void AddOptions(QCommandLineParser& parser)
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     for (const SAction& action : g_arrActions)
     {
-        parser.addOption(Option(action.pszName, CommandLine::tr(action.pszHelp), action.pszValue));
+        QStringList listNames = {QString::fromLatin1(action.pszName)};
+        if (action.pszShort)
+        {
+            listNames.prepend(QString::fromLatin1(action.pszShort));
+        }
+        parser.addOption({listNames, CommandLine::tr(action.pszHelp), QString::fromLatin1(action.pszValue)});
     }
-    parser.addOption(Option("section", CommandLine::tr("Section that the dialog shows at first, 0 to 8."), "N"));
-    parser.addOption(Option("skin", CommandLine::tr("DustyBlue or White."), "SKIN"));
-    parser.addOption(Option("language", CommandLine::tr("en or zh_CN."), "LANGUAGE"));
+    parser.addOption(
+        Option("section",
+               CommandLine::tr("Section that the dialog shows at first, 0 to 8 or its name: %1 (default: 0).")
+                   .arg(GetSectionNames().join(QStringLiteral(", "))),
+               "SECTION"));
+    parser.addOption(
+        Option("skin", CommandLine::tr("DustyBlue or White (default: as in Localcfg.ini, else DustyBlue)."), "SKIN"));
+    parser.addOption(
+        Option("language", CommandLine::tr("en or zh_CN (default: as in Localcfg.ini, else en)."), "LANGUAGE"));
     parser.addOption(Option(g_szWithoutRight, CommandLine::tr("Right that the user lacks; may be repeated."), "N"));
-    parser.addOption(Option("platform", CommandLine::tr("Platform server whose connection is watched."), "HOST:PORT"));
-    parser.addOption(Option("data-dir", CommandLine::tr("Folder of the client's files."), "DIR"));
+    parser.addOption(Option("platform", CommandLine::tr("Platform server whose connection is watched (default: none)."),
+                            "HOST:PORT"));
+    const QString strFolder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    parser.addOption(
+        Option("data-dir", CommandLine::tr("Folder of the client's files (default: %1).").arg(strFolder), "DIR"));
 }
 
 bool ParseNumber(const QString& strText, int nMin, int nMax, int& nNumber)
@@ -209,9 +248,11 @@ private:
         {
             return true;
         }
-        if (!ParseNumber(GetValue("section"), 0, g_nSectionCount - 1, m_result.nSection))
+        const QString strSection = GetValue("section");
+        m_result.nSection = FindSection(strSection);
+        if (m_result.nSection < 0 && !ParseNumber(strSection, 0, g_nSectionCount - 1, m_result.nSection))
         {
-            return FailValue("section", CommandLine::tr("a number from 0 to 8"));
+            return FailValue("section", CommandLine::tr("a number from 0 to 8 or a section's name"));
         }
         if (m_result.nSection == g_nWallSection && m_result.setMissingRights.contains(g_nWallRight))
         {
@@ -274,7 +315,11 @@ QString CommandLine::GetHelp()
     parser.setApplicationDescription(tr("Surveillance workstation client. Without an action it opens its window and "
                                         "the settings dialog."));
     AddOptions(parser);
-    return parser.helpText();
+    return parser.helpText() + QLatin1Char('\n') +
+           tr("Environment:\n"
+              "  KV_CLIENT_RESOURCES  Folder of skins, sounds, translations and alarm types.\n"
+              "  DISPLAY              Screen that the window opens on; a picture needs none.\n"
+              "  QT_SCALE_FACTOR      How large to draw, as far as the screen has room for it.\n");
 }
 
 } // namespace LocalConfigClient

@@ -163,6 +163,7 @@ QWidget* MainWindow::MakeHeader()
     connect(m_pRecord, &QAbstractButton::clicked, m_pLiveActions, &LiveActions::ToggleRecording);
     const auto showRecording = [this] {
         m_pRecord->setText(m_pLiveActions->IsRecording() ? tr("Stop Recording") : tr("Record"));
+        m_pSplitView->SetRecorded(m_pLiveActions->GetRecordedPane());
     };
     connect(m_pLiveActions, &LiveActions::SignalRecordingChanged, this, showRecording);
     showRecording();

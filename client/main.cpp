@@ -5,7 +5,9 @@
 
 #include <QApplication>
 
+#include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <memory>
 
 using namespace LocalConfigClient;
@@ -36,17 +38,29 @@ int FailWithoutDisplay(CommandLine::Action eAction)
     return g_nExitFailed;
 }
 
+// What Qt remarks about a machine that lacks something which the client does without, or tells the operator itself.
+constexpr const char* g_arrNoNews[] = {"QStandardPaths: XDG_RUNTIME_DIR not set",
+                                       "PulseAudioService: ", "This plugin does not support "};
+
 CommandLine::Action g_eAction = CommandLine::OpenWindow;
+bool g_bMakingApplication = false;
 QtMessageHandler g_defaultHandler = nullptr;
 
-/// While the application is made: where no display is to be had, Qt warns, and then it aborts the program.
+bool IsNoNews(const QString& strText)
+{
+    return std::any_of(std::begin(g_arrNoNews), std::end(g_arrNoNews),
+                       [&strText](const char* pszBegin) { return strText.startsWith(QLatin1String(pszBegin)); });
+}
+
 void OnMessage(QtMsgType eType, const QMessageLogContext& context, const QString& strText)
 {
-    if (eType == QtFatalMsg)
+    // Where no display is to be had, Qt warns, and then it aborts the program.
+    if (g_bMakingApplication && eType == QtFatalMsg)
     {
         std::_Exit(FailWithoutDisplay(g_eAction));
     }
-    if (qstrncmp(context.category, "qt.qpa.", 7) != 0)
+    const bool bAboutDisplay = g_bMakingApplication && qstrncmp(context.category, "qt.qpa.", 7) == 0;
+    if (!bAboutDisplay && !IsNoNews(strText))
     {
         g_defaultHandler(eType, context, strText);
     }
@@ -101,11 +115,12 @@ int main(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     g_eAction = commandLine.eAction;
+    g_bMakingApplication = true;
     g_defaultHandler = qInstallMessageHandler(&OnMessage);
     // A picture is as large as it is asked for, a window must fit its screen.
     const auto pApplication = commandLine.eAction == CommandLine::OpenWindow
                                   ? ScreenScale::MakeApplication(nOwnArguments, argv)
                                   : std::make_unique<QApplication>(nOwnArguments, argv);
-    qInstallMessageHandler(nullptr);
+    g_bMakingApplication = false;
     return Client(commandLine).Run(*pApplication);
 }

@@ -35,6 +35,9 @@ public:
     void ToggleRecording();
     bool IsRecording() const { return m_writer.IsRecording(); }
 
+    /// -1 while there is no recording.
+    int GetRecordedPane() const { return IsRecording() ? m_nRecordedPane : -1; }
+
 signals:
     /// A recording has begun or ended, perhaps by a failure.
     void SignalRecordingChanged();

@@ -1,8 +1,11 @@
 #include "SplitView.h"
 
 #include <QDateTime>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace LocalConfigClient
 {
@@ -13,6 +16,7 @@ namespace
 constexpr int g_nGap = 2; // pixels between panes
 constexpr int g_nOriginalScale = 0;
 constexpr int g_nFullScreen = 1;
+constexpr int g_nMarkSize = 12;
 constexpr QSize g_pictureSize(352, 288); // of the stand-in for a camera's picture
 
 struct SSplit
@@ -37,6 +41,8 @@ SplitView::SplitView(QWidget* pParent)
 {
     setObjectName(QStringLiteral("splitView"));
     setAccessibleName(tr("Live view"));
+    setFocusPolicy(Qt::StrongFocus);
+    ShowSelection();
 }
 
 void SplitView::SetSplit(int nSplit)
@@ -45,7 +51,7 @@ void SplitView::SetSplit(int nSplit)
     {
         m_nSplit = nSplit;
         m_nSelected = qMin(m_nSelected, nSplit - 1);
-        update();
+        ShowSelection();
     }
 }
 
@@ -110,8 +116,22 @@ void SplitView::Select(int nPane)
     if (nPane >= 0 && nPane < m_nSplit)
     {
         m_nSelected = nPane;
-        update();
+        ShowSelection();
     }
+}
+
+void SplitView::SetRecorded(int nPane)
+{
+    m_nRecorded = nPane;
+    ShowSelection();
+}
+
+/// To the eye and to screen readers.
+void SplitView::ShowSelection()
+{
+    const QString strChannel = GetChannelName(m_nSelected);
+    setAccessibleDescription(m_nSelected == m_nRecorded ? tr("%1, recorded").arg(strChannel) : strChannel);
+    update();
 }
 
 void SplitView::ToggleSingleWindow()
@@ -178,9 +198,72 @@ void SplitView::PaintPane(QPainter& painter, int nPane, const QRect& pane) const
     painter.drawText(pane, Qt::AlignCenter, QString::number(nPane + 1));
     if (nPane == m_nSelected)
     {
-        painter.setPen(QPen(m_selectedColor, g_nGap));
-        painter.drawRect(QRectF(pane).adjusted(g_nGap / 2., g_nGap / 2., -g_nGap / 2., -g_nGap / 2.));
+        const double dWidth = hasFocus() ? 2 * g_nGap : g_nGap;
+        painter.setPen(QPen(hasFocus() ? m_focusColor : m_selectedColor, dWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(QRectF(pane).adjusted(dWidth / 2, dWidth / 2, -dWidth / 2, -dWidth / 2));
     }
+    if (nPane == m_nRecorded)
+    {
+        PaintRecorded(painter, pane);
+    }
+}
+
+void SplitView::PaintRecorded(QPainter& painter, const QRect& pane) const
+{
+    const QRect mark(pane.topLeft() + QPoint(g_nMarkSize, g_nMarkSize), QSize(g_nMarkSize, g_nMarkSize));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_recordedColor);
+    painter.drawEllipse(mark);
+    painter.setPen(m_textColor);
+    painter.drawText(QRect(mark.right() + g_nMarkSize / 2, mark.top() - g_nMarkSize / 2, pane.width(), 2 * g_nMarkSize),
+                     Qt::AlignVCenter, tr("REC"));
+    painter.restore();
+}
+
+void SplitView::keyPressEvent(QKeyEvent* pEvent)
+{
+    const int nPane = FindNeighbour(pEvent->key());
+    if (nPane < 0)
+    {
+        QWidget::keyPressEvent(pEvent);
+        return;
+    }
+    Select(nPane);
+}
+
+/// The pane that a key leads to; the selected one at an edge, -1 for another key.
+int SplitView::FindNeighbour(int nKey) const
+{
+    const QVector<QRect> listPanes = GetPanes(m_nSplit, rect());
+    const QRect pane = listPanes.value(m_nSelected);
+    QPoint beyond;
+    switch (nKey)
+    {
+    case Qt::Key_Left:
+        beyond = QPoint(pane.left() - 1, pane.center().y());
+        break;
+    case Qt::Key_Right:
+        beyond = QPoint(pane.right() + 1, pane.center().y());
+        break;
+    case Qt::Key_Up:
+        beyond = QPoint(pane.center().x(), pane.top() - 1);
+        break;
+    case Qt::Key_Down:
+        beyond = QPoint(pane.center().x(), pane.bottom() + 1);
+        break;
+    case Qt::Key_Home:
+        return 0;
+    case Qt::Key_End:
+        return m_nSplit - 1;
+    default:
+        return -1;
+    }
+    const auto it = std::find_if(listPanes.begin(), listPanes.end(),
+                                 [&beyond](const QRect& other) { return other.contains(beyond); });
+    return it == listPanes.end() ? m_nSelected : int(it - listPanes.begin());
 }
 
 void SplitView::mousePressEvent(QMouseEvent* pEvent)

@@ -8,7 +8,8 @@
 namespace LocalConfigClient
 {
 
-/// The live-view area: one pane for each video window of the current split. The colours are properties, so that style
+/// The live-view area: one pane for each video window of the current split. The mouse selects a pane, as do the arrow
+/// keys, Home and End. The colours are properties, so that style
 /// sheets can set them.
 class SplitView : public QWidget
 {
@@ -17,6 +18,8 @@ class SplitView : public QWidget
     Q_PROPERTY(QColor paneColor MEMBER m_paneColor)
     Q_PROPERTY(QColor textColor MEMBER m_textColor)
     Q_PROPERTY(QColor selectedColor MEMBER m_selectedColor)
+    Q_PROPERTY(QColor focusColor MEMBER m_focusColor)
+    Q_PROPERTY(QColor recordedColor MEMBER m_recordedColor)
 
 public:
     explicit SplitView(QWidget* pParent);
@@ -34,6 +37,9 @@ public:
 
     /// Any number that is no pane's leaves the selection as it is.
     void Select(int nPane);
+
+    /// Marks the pane that is recorded; -1 for none.
+    void SetRecorded(int nPane);
 
     /// Shows the selected pane alone, or all panes again.
     void ToggleSingleWindow();
@@ -54,22 +60,29 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* pEvent) override;
+    void keyPressEvent(QKeyEvent* pEvent) override;
     void mousePressEvent(QMouseEvent* pEvent) override;
     void mouseDoubleClickEvent(QMouseEvent* pEvent) override;
 
 private:
     /// The panes that are seen and where; by pane.
     QMap<int, QRect> GetShownPanes() const;
+    int FindNeighbour(int nKey) const;
+    void ShowSelection();
+    void PaintRecorded(QPainter& painter, const QRect& pane) const;
     void PaintPane(QPainter& painter, int nPane, const QRect& pane) const;
 
     int m_nSplit = 4;
     int m_nDisplayScale = 1;
     int m_nSelected = 0;
+    int m_nRecorded = -1;
     bool m_bSingleWindow = false;
     QColor m_gapColor = Qt::darkGray;
     QColor m_paneColor = Qt::black;
     QColor m_textColor = Qt::lightGray;
     QColor m_selectedColor = Qt::white;
+    QColor m_focusColor = Qt::yellow;
+    QColor m_recordedColor = Qt::red;
 };
 
 } // namespace LocalConfigClient

@@ -95,24 +95,24 @@
         <translation>显示版本。</translation>
     </message>
     <message>
-        <source>DustyBlue or White.</source>
-        <translation>DustyBlue 或 White。</translation>
+        <source>DustyBlue or White (default: as in Localcfg.ini, else DustyBlue).</source>
+        <translation>DustyBlue 或 White（默认：以 Localcfg.ini 为准，否则为 DustyBlue）。</translation>
     </message>
     <message>
-        <source>en or zh_CN.</source>
-        <translation>en 或 zh_CN。</translation>
+        <source>en or zh_CN (default: as in Localcfg.ini, else en).</source>
+        <translation>en 或 zh_CN（默认：以 Localcfg.ini 为准，否则为 en）。</translation>
     </message>
     <message>
         <source>Right that the user lacks; may be repeated.</source>
         <translation>用户缺少的权限，可重复。</translation>
     </message>
     <message>
-        <source>Platform server whose connection is watched.</source>
-        <translation>要监视连接的平台服务器。</translation>
+        <source>Platform server whose connection is watched (default: none).</source>
+        <translation>要监视连接的平台服务器（默认：无）。</translation>
     </message>
     <message>
-        <source>Folder of the client&apos;s files.</source>
-        <translation>客户端文件所在的文件夹。</translation>
+        <source>Folder of the client&apos;s files (default: %1).</source>
+        <translation>客户端文件所在文件夹（默认：%1）。</translation>
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
@@ -139,8 +139,8 @@
         <translation>正整数</translation>
     </message>
     <message>
-        <source>a number from 0 to 8</source>
-        <translation>0 到 8 的数字</translation>
+        <source>a number from 0 to 8 or a section&apos;s name</source>
+        <translation>0 到 8 的数字或分类名称</translation>
     </message>
     <message>
         <source>Without right 26 there is no section 6.</source>
@@ -163,12 +163,24 @@
         <translation>监控工作站客户端。不带操作选项时打开主窗口和设置对话框。</translation>
     </message>
     <message>
-        <source>Section that the dialog shows at first, 0 to 8.</source>
-        <translation>对话框首先显示的分类，0 到 8。</translation>
+        <source>Section that the dialog shows at first, 0 to 8 or its name: %1 (default: 0).</source>
+        <translation>对话框首先显示的分类，0 到 8 或其名称：%1（默认：0）。</translation>
     </message>
     <message>
         <source>Option --section belongs to the dialog.</source>
         <translation>选项 --section 只能与对话框一起使用。</translation>
+    </message>
+    <message>
+        <source>Environment:
+  KV_CLIENT_RESOURCES  Folder of skins, sounds, translations and alarm types.
+  DISPLAY              Screen that the window opens on; a picture needs none.
+  QT_SCALE_FACTOR      How large to draw, as far as the screen has room for it.
+</source>
+        <translation>环境变量：
+  KV_CLIENT_RESOURCES  皮肤、声音、翻译和报警类型所在的文件夹。
+  DISPLAY              打开窗口的屏幕；绘制图片时不需要。
+  QT_SCALE_FACTOR      界面的放大倍数，以屏幕能容纳为限。
+</translation>
     </message>
 </context>
 <context>
@@ -314,6 +326,14 @@
     <message>
         <source>Camera %1</source>
         <translation>摄像机 %1</translation>
+    </message>
+    <message>
+        <source>%1, recorded</source>
+        <translation>%1，正在录像</translation>
+    </message>
+    <message>
+        <source>REC</source>
+        <translation>录像</translation>
     </message>
 </context>
 <context>

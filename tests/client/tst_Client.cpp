@@ -34,6 +34,9 @@ class tst_Client : public CClientProcessTest
 private slots:
     void init() { Reset(); }
 
+#ifdef Q_OS_UNIX
+    void AWindowThatOpensSaysNothing();
+#endif
     void DumpShowsDefaultsAtFirst();
     void ImportDumpExport();
     void SettingsAreChangedAndRead();
@@ -95,6 +98,25 @@ private slots:
     void ANameThatIsNoTextIsRefused();
 #endif
 };
+
+#ifdef Q_OS_UNIX
+void tst_Client::AWindowThatOpensSaysNothing()
+{
+    m_environment.remove("QT_LOGGING_RULES");
+    m_environment.remove("XDG_RUNTIME_DIR");
+    m_environment.insert("QT_QPA_PLATFORM", "offscreen");
+    QProcess process;
+    process.setProcessEnvironment(m_environment);
+    process.start(QString::fromLocal8Bit(qgetenv("KV_CLIENT")), {"--data-dir", m_pFolder->path()});
+    QVERIFY(process.waitForStarted());
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(Path("Sound/sound_en/video.wav")), 20000);
+    QTest::qWait(1000); // for the dialog over the window
+    process.terminate();
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+}
+#endif
 
 void tst_Client::DumpShowsDefaultsAtFirst()
 {

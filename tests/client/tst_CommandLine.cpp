@@ -20,6 +20,9 @@ private slots:
     void BadInputGetsOneLine_data();
     void BadInputGetsOneLine();
     void HelpNamesEveryOption();
+    void HelpTellsDefaultsSectionsAndEnvironment();
+    void SectionsHaveNames_data();
+    void SectionsHaveNames();
 };
 
 void tst_CommandLine::NothingOpensTheWindow()
@@ -46,6 +49,8 @@ void tst_CommandLine::Actions_data()
     QTest::newRow("schema") << QStringList{"--schema"} << int(CommandLine::ShowSchema) << QString();
     QTest::newRow("help") << QStringList{"--help"} << int(CommandLine::ShowHelp) << QString();
     QTest::newRow("version") << QStringList{"--version"} << int(CommandLine::ShowVersion) << QString();
+    QTest::newRow("h") << QStringList{"-h"} << int(CommandLine::ShowHelp) << QString();
+    QTest::newRow("v") << QStringList{"-v"} << int(CommandLine::ShowVersion) << QString();
 }
 
 void tst_CommandLine::Actions()
@@ -180,6 +185,39 @@ void tst_CommandLine::HelpNamesEveryOption()
     {
         QVERIFY2(strHelp.contains(pszOption), pszOption);
     }
+}
+
+void tst_CommandLine::HelpTellsDefaultsSectionsAndEnvironment()
+{
+    const QString strHelp = CommandLine::GetHelp().simplified();
+    for (const char* pszWord : {"default", "Record Playback", "Shortcut Keys", "KV_CLIENT_RESOURCES", "QT_SCALE_FACTOR",
+                                "DISPLAY", "-h, --help", "-v, --version"})
+    {
+        QVERIFY2(strHelp.contains(pszWord), pszWord);
+    }
+}
+
+void tst_CommandLine::SectionsHaveNames_data()
+{
+    QTest::addColumn<QString>("strName");
+    QTest::addColumn<int>("nSection");
+    const QStringList listNames = {"Basic", "Video",      "Record Playback", "Snapshot",     "Recording",
+                                   "Alarm", "Video Wall", "Security",        "Shortcut Keys"};
+    for (int n = 0; n < listNames.size(); ++n)
+    {
+        QTest::newRow(qPrintable(listNames[n])) << listNames[n] << n;
+        QTest::newRow(qPrintable(listNames[n].toLower())) << listNames[n].toLower() << n;
+    }
+}
+
+void tst_CommandLine::SectionsHaveNames()
+{
+    QFETCH(QString, strName);
+    QFETCH(int, nSection);
+    CommandLine result;
+    QString strError;
+    QVERIFY2(CommandLine::Parse({"--section", strName}, result, strError), qPrintable(strError));
+    QCOMPARE(result.nSection, nSection);
 }
 
 QTEST_GUILESS_MAIN(tst_CommandLine)

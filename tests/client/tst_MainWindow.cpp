@@ -25,6 +25,7 @@ private slots:
     void TheTimeZoneIsShownWhenAskedFor();
 
     void TheSelectedPaneIsTheOneClicked();
+    void TheRecordedPaneIsMarked();
     void EnterAndDoubleClickShowOneWindow();
     void TheNetworkKeyboardSwitchesTheKeysOff();
     void SavingTheKeyboardTakesEffectAtOnce();
@@ -96,6 +97,18 @@ void tst_MainWindow::TheSelectedPaneIsTheOneClicked()
     QCOMPARE(pView->GetSelected(), 0);
     pView->Select(1);
     QCOMPARE(pView->GetSelected(), 0);
+}
+
+void tst_MainWindow::TheRecordedPaneIsMarked()
+{
+    SHOWN_CLIENT;
+    auto* pView = window.findChild<SplitView*>();
+    pView->Select(2);
+    for (const char* pszDescription : {"Camera 03, recorded", "Camera 03"})
+    {
+        QTest::mouseClick(window.findChild<QAbstractButton*>("btnRecord"), Qt::LeftButton);
+        QTRY_COMPARE(pView->accessibleDescription(), QString(pszDescription));
+    }
 }
 
 void tst_MainWindow::EnterAndDoubleClickShowOneWindow()

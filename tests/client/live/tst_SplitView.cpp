@@ -13,6 +13,11 @@ private slots:
     void SplitsFillTheArea();
     void AnUnknownSplitChangesNothing();
     void TheDisplayScalePlacesThePicture();
+    void ArrowsSelectTheNeighbour_data();
+    void ArrowsSelectTheNeighbour();
+    void TheFocusIsSeen();
+    void TheRecordedPaneIsMarked();
+    void TheSelectedPaneIsTold();
 };
 
 void tst_SplitView::SplitsFillTheArea_data()
@@ -63,6 +68,88 @@ void tst_SplitView::TheDisplayScalePlacesThePicture()
     view.SetDisplayScale(0);
     view.SetDisplayScale(7);
     QCOMPARE(view.GetDisplayScale(), 0);
+}
+
+void tst_SplitView::ArrowsSelectTheNeighbour_data()
+{
+    QTest::addColumn<int>("nSplit");
+    QTest::addColumn<int>("nFrom");
+    QTest::addColumn<int>("nKey");
+    QTest::addColumn<int>("nTo");
+    const auto add = [](int nSplit, int nFrom, Qt::Key eKey, int nTo) {
+        QTest::addRow("%d of %d, %s", nFrom, nSplit, qPrintable(QKeySequence(eKey).toString()))
+            << nSplit << nFrom << int(eKey) << nTo;
+    };
+    add(4, 0, Qt::Key_Right, 1);
+    add(4, 0, Qt::Key_Down, 2);
+    add(4, 3, Qt::Key_Left, 2);
+    add(4, 3, Qt::Key_Up, 1);
+    add(4, 1, Qt::Key_Right, 1);
+    add(4, 2, Qt::Key_Down, 2);
+    add(6, 0, Qt::Key_Right, 1); // of two beside the large pane the upper one
+    add(6, 5, Qt::Key_Up, 2);
+    add(9, 8, Qt::Key_Home, 0);
+    add(9, 0, Qt::Key_End, 8);
+}
+
+void tst_SplitView::ArrowsSelectTheNeighbour()
+{
+    QFETCH(int, nSplit);
+    QFETCH(int, nFrom);
+    QFETCH(int, nKey);
+    QFETCH(int, nTo);
+    SplitView view(nullptr);
+    view.resize(600, 400);
+    view.SetSplit(nSplit);
+    view.Select(nFrom);
+    QVERIFY(view.focusPolicy() & Qt::TabFocus);
+    QTest::keyClick(&view, Qt::Key(nKey));
+    QCOMPARE(view.GetSelected(), nTo);
+}
+
+void tst_SplitView::TheFocusIsSeen()
+{
+    QWidget window;
+    SplitView view(&window);
+    view.resize(600, 400);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    view.clearFocus();
+    const QImage before = view.grab().toImage();
+    view.setFocus();
+    QVERIFY(view.grab().toImage() != before);
+}
+
+void tst_SplitView::TheRecordedPaneIsMarked()
+{
+    SplitView view(nullptr);
+    view.resize(600, 400);
+    view.Select(0);
+    const QImage before = view.grab().toImage();
+    view.SetRecorded(2);
+    const QImage recorded = view.grab().toImage();
+    const QRect pane = SplitView::GetPanes(4, view.rect())[2];
+    QVERIFY(recorded.copy(pane) != before.copy(pane));
+    for (const int nOther : {0, 1, 3})
+    {
+        const QRect other = SplitView::GetPanes(4, view.rect())[nOther];
+        QCOMPARE(recorded.copy(other), before.copy(other));
+    }
+    view.SetRecorded(-1);
+    QCOMPARE(view.grab().toImage(), before);
+}
+
+void tst_SplitView::TheSelectedPaneIsTold()
+{
+    SplitView view(nullptr);
+    QCOMPARE(view.accessibleDescription(), QString("Camera 01"));
+    view.Select(1);
+    QCOMPARE(view.accessibleDescription(), QString("Camera 02"));
+    view.SetRecorded(1);
+    QCOMPARE(view.accessibleDescription(), QString("Camera 02, recorded"));
+    view.SetSplit(1);
+    QCOMPARE(view.accessibleDescription(), QString("Camera 01"));
 }
 
 QTEST_MAIN(tst_SplitView)
