@@ -44,4 +44,4 @@ quietly() {
 
 BUILD_PACKAGES="g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5 qtmultimedia5-dev libqt5multimedia5-plugins libpugixml-dev fonts-inter"
 PACKAGE_TOOLS="dpkg-dev file gzip"
-TEST_PACKAGES="$PACKAGE_TOOLS lintian pkg-config fakeroot util-linux binutils pulseaudio pulseaudio-utils python3-jsonschema abigail-tools"
+TEST_PACKAGES="$PACKAGE_TOOLS lintian pkg-config fakeroot util-linux binutils pulseaudio pulseaudio-utils python3-jsonschema abigail-tools doxygen"

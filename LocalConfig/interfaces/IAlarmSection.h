@@ -13,20 +13,20 @@ namespace LocalConfigLogical
 /// The sound of one alarm type, or of a group of types that shares an entry.
 struct AlarmSoundInfo
 {
-    std::int32_t alarmType = 0;
-    std::string defaultSound; ///< file name of the built-in sound
-    std::string customSound;  ///< full path of a user-chosen WAV file; empty: none
-    std::uint8_t hostOwned4 = 0;
-    bool soundChanged = false; ///< set whenever the page changes the entry's sound, never cleared by it
+    std::int32_t alarmType = 0;  ///< id in the alarm catalogue
+    std::string defaultSound;    ///< file name of the built-in sound
+    std::string customSound;     ///< full path of a user-chosen WAV file; empty: none
+    std::uint8_t hostOwned4 = 0; ///< the host's own, returned as it came
+    bool soundChanged = false;   ///< set whenever the page changes the entry's sound, never cleared by it
 };
 
 /// Alarm notification settings. A default-constructed record holds the built-in defaults.
 struct AlarmConfigInfo
 {
-    bool alarmSound = true;
-    bool loopSound = false;
-    bool mapFlash = true;
-    bool linkVideo = true;
+    bool alarmSound = true;                             ///< play a sound when an alarm comes
+    bool loopSound = false;                             ///< until the alarm is acknowledged
+    bool mapFlash = true;                               ///< flash on the map what raised the alarm
+    bool linkVideo = true;                              ///< open the linked video
     std::int32_t openVideoType = 0;                     ///< 0 as pop-up, otherwise in live view
     std::map<std::int32_t, bool> flashCategories;       ///< alarm category id: flash the map for it
     std::map<std::int32_t, AlarmSoundInfo> alarmSounds; ///< by alarm type id, or by the key that a group shares

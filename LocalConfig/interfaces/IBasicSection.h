@@ -11,34 +11,34 @@ namespace LocalConfigLogical
 /// General client settings. A default-constructed record holds the built-in defaults.
 struct BasicConfigInfo
 {
-    std::uint32_t hostOwned1 = 4;
-    std::uint32_t hostOwned2 = 1000;
-    std::uint32_t hostOwned3 = 12;
-    std::int32_t skin = 1; ///< 1 dark, 2 white
-    bool hostOwned5 = false;
-    std::uint32_t hostOwned6 = 4;
-    bool hostOwned7 = true;
-    bool timeSync = false; ///< time synchronisation with the platform server
-    bool hostOwned9 = false;
-    bool hostOwned10 = false;
-    bool autoLogin = false;
-    bool hostOwned12 = false;
-    bool adaptiveTalk = true; ///< self-adaptive audio talk parameter
-    bool hostOwned14 = false;
-    std::uint32_t hostOwned15 = 0;
-    bool autoRun = false; ///< start the client with the operating system; the host writes the entry
-    bool hostOwned17 = true;
-    bool hostOwned18 = false;
-    std::uint32_t hostOwned19 = 1;
-    bool hostOwned20 = false;
+    std::uint32_t hostOwned1 = 4;    ///< the host's own, returned as it came
+    std::uint32_t hostOwned2 = 1000; ///< the host's own, returned as it came
+    std::uint32_t hostOwned3 = 12;   ///< the host's own, returned as it came
+    std::int32_t skin = 1;           ///< 1 dark, 2 white
+    bool hostOwned5 = false;         ///< the host's own, returned as it came
+    std::uint32_t hostOwned6 = 4;    ///< the host's own, returned as it came
+    bool hostOwned7 = true;          ///< the host's own, returned as it came
+    bool timeSync = false;           ///< time synchronisation with the platform server
+    bool hostOwned9 = false;         ///< the host's own, returned as it came
+    bool hostOwned10 = false;        ///< the host's own, returned as it came
+    bool autoLogin = false;          ///< log in without asking
+    bool hostOwned12 = false;        ///< the host's own, returned as it came
+    bool adaptiveTalk = true;        ///< self-adaptive audio talk parameter
+    bool hostOwned14 = false;        ///< the host's own, returned as it came
+    std::uint32_t hostOwned15 = 0;   ///< the host's own, returned as it came
+    bool autoRun = false;            ///< start the client with the operating system; the host writes the entry
+    bool hostOwned17 = true;         ///< the host's own, returned as it came
+    bool hostOwned18 = false;        ///< the host's own, returned as it came
+    std::uint32_t hostOwned19 = 1;   ///< the host's own, returned as it came
+    bool hostOwned20 = false;        ///< the host's own, returned as it came
     std::int32_t showDeviceNode = 1; ///< device node in the device tree: exactly 1 is on
-    bool hostOwned22 = true;
-    std::int32_t clientSize = 2;  ///< index into 1280*800, 1280*1024, 1440*900, 1680*1050
-    bool restoreLiveView = false; ///< display the previous live view after a restart
-    bool hostOwned25 = false;
-    bool liveThumbnail = true;
-    bool showTimeZone = false;
-    std::int32_t hostOwned28 = -1;
+    bool hostOwned22 = true;         ///< the host's own, returned as it came
+    std::int32_t clientSize = 2;     ///< index into 1280*800, 1280*1024, 1440*900, 1680*1050
+    bool restoreLiveView = false;    ///< display the previous live view after a restart
+    bool hostOwned25 = false;        ///< the host's own, returned as it came
+    bool liveThumbnail = true;       ///< thumbnails in live view
+    bool showTimeZone = false;       ///< takes effect after a restart
+    std::int32_t hostOwned28 = -1;   ///< the host's own, returned as it came
 };
 
 static_assert(offsetof(BasicConfigInfo, skin) == 12);

@@ -30,8 +30,8 @@ public:
     /// every other value. A host may append members of its own.
     struct Param
     {
-        std::int32_t nState = 0;
-        std::int32_t nSubState = 0;
+        std::int32_t nState = 0;    ///< 2 and 3 count
+        std::int32_t nSubState = 0; ///< of state 2
     };
 
     /// May be called from any thread.

@@ -11,15 +11,19 @@
 /// The positions that an interface does not name are reserved operations with empty bodies, so that a host implements
 /// only what is named. The macros below declare them; their arguments are the positions.
 
+/// One position.
 #define LOCALCONFIG_RESERVED_SLOT(n)                                                                                   \
     virtual void ReservedSlot##n()                                                                                     \
     {}
+/// Two positions.
 #define LOCALCONFIG_RESERVED_SLOTS_2(a, b)                                                                             \
     LOCALCONFIG_RESERVED_SLOT(a)                                                                                       \
     LOCALCONFIG_RESERVED_SLOT(b)
+/// Four positions.
 #define LOCALCONFIG_RESERVED_SLOTS_4(a, b, c, d)                                                                       \
     LOCALCONFIG_RESERVED_SLOTS_2(a, b)                                                                                 \
     LOCALCONFIG_RESERVED_SLOTS_2(c, d)
+/// Five positions.
 #define LOCALCONFIG_RESERVED_SLOTS_5(a, b, c, d, e)                                                                    \
     LOCALCONFIG_RESERVED_SLOTS_4(a, b, c, d)                                                                           \
     LOCALCONFIG_RESERVED_SLOT(e)

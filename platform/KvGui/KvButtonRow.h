@@ -22,7 +22,7 @@ public:
     KvPushButton* GetButton(int nButton) const;
 
 signals:
-    void SignalButtonClicked(int nButton);
+    void SignalButtonClicked(int nButton); ///< with the value of the button
 
 private:
     QMap<int, KvPushButton*> m_mapButtons;

@@ -13,8 +13,8 @@ class KVGUI_EXPORT KvCheckBox : public QCheckBox
     Q_OBJECT
 
 public:
-    explicit KvCheckBox(QWidget* pParent = nullptr);
-    explicit KvCheckBox(const QString& strText, QWidget* pParent = nullptr);
+    explicit KvCheckBox(QWidget* pParent = nullptr);                         ///< without a text
+    explicit KvCheckBox(const QString& strText, QWidget* pParent = nullptr); ///< with a text
 };
 
 } // namespace KVGUI

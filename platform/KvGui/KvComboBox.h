@@ -13,7 +13,7 @@ class KVGUI_EXPORT KvComboBox : public QComboBox
     Q_OBJECT
 
 public:
-    explicit KvComboBox(QWidget* pParent = nullptr);
+    explicit KvComboBox(QWidget* pParent = nullptr); ///< without entries
 
 protected:
     void changeEvent(QEvent* pEvent) override;

@@ -21,13 +21,13 @@ class KVGUI_EXPORT KvCustomDialog : public KvDialog
     Q_OBJECT
 
 public:
-    enum StandardButton
+    enum StandardButton ///< a button of the row
     {
-        Ok = 0x400,
-        Other = 0x2000,
-        Cancel = 0x400000
+        Ok = 0x400,       ///< "btnOk"
+        Other = 0x2000,   ///< "btnOther"
+        Cancel = 0x400000 ///< "btnCancel"
     };
-    Q_DECLARE_FLAGS(StandardButtons, StandardButton)
+    Q_DECLARE_FLAGS(StandardButtons, StandardButton) ///< any of them
 
     /// \param eButtons  the buttons that the row has
     /// \param nFlags    bit 0: the title bar has a close button
@@ -38,12 +38,12 @@ public:
 
     /// No effect for a button that the row does not have.
     void SetButtonText(StandardButton eButton, const QString& strText);
-    void SetButtonEnable(StandardButtons eButtons, bool bEnable);
+    void SetButtonEnable(StandardButtons eButtons, bool bEnable); ///< of those that the row has
 
 signals:
-    void SignalOkButtonClicked();
-    void SignalOtherButtonClicked();
-    void SignalCancelButtonClicked();
+    void SignalOkButtonClicked();     ///< "btnOk", or Enter
+    void SignalOtherButtonClicked();  ///< "btnOther"
+    void SignalCancelButtonClicked(); ///< "btnCancel"
 
 protected:
     void showEvent(QShowEvent* pEvent) override;

@@ -19,7 +19,7 @@ class KVGUI_EXPORT KvDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit KvDialog(QWidget* pParent = nullptr);
+    explicit KvDialog(QWidget* pParent = nullptr); ///< with an empty title
 
     /// The text of the title bar and of the window in the task bar.
     void SetTitle(const QString& strTitle);
@@ -27,16 +27,16 @@ public:
     /// Closes the dialog with the result Rejected. An override that does not call this keeps the dialog open.
     virtual void OnCloseBtmClicked();
 
-    void reject() override;
-    void setVisible(bool bVisible) override;
+    void reject() override;                  ///< as the close button does
+    void setVisible(bool bVisible) override; ///< at first as large as its content asks for
 
 protected:
     /// The area below the title bar, still without a layout.
     QWidget* GetContentWidget() const;
     /// Where the first control has the focus when the dialog comes up.
     virtual QWidget* GetFocusArea() const;
-    void SetCloseButtonVisible(bool bVisible);
-    void MoveToEndOfTabOrder(QWidget* pWidget);
+    void SetCloseButtonVisible(bool bVisible);  ///< it is at first
+    void MoveToEndOfTabOrder(QWidget* pWidget); ///< with the title bar still behind it
 
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
     void showEvent(QShowEvent* pEvent) override;

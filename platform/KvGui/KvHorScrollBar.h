@@ -13,7 +13,7 @@ class KVGUI_EXPORT KvHorScrollBar : public QScrollBar
     Q_OBJECT
 
 public:
-    explicit KvHorScrollBar(QWidget* pParent = nullptr);
+    explicit KvHorScrollBar(QWidget* pParent = nullptr); ///< from 0 to 99
 };
 
 } // namespace KVGUI

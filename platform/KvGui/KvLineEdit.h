@@ -17,7 +17,7 @@ class KVGUI_EXPORT KvLineEdit : public QLineEdit
     Q_OBJECT
 
 public:
-    explicit KvLineEdit(QWidget* pParent = nullptr);
+    explicit KvLineEdit(QWidget* pParent = nullptr); ///< empty, without a mark
     ~KvLineEdit() override;
 
     /// Marks the field as wrong and shows the text, when there is one, as a tip near the field.
@@ -29,7 +29,7 @@ public:
     /// The mark alone; a tip that is shown goes.
     void showErrorHintNoTip(bool bError);
 
-    bool IsErrorHintShown() const;
+    bool IsErrorHintShown() const; ///< whether the field is marked
 
     /// The text of the tip that is shown; empty without one.
     QString GetErrorHintText() const;

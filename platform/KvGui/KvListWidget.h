@@ -13,7 +13,7 @@ class KVGUI_EXPORT KvListWidget : public QListWidget
     Q_OBJECT
 
 public:
-    explicit KvListWidget(QWidget* pParent = nullptr);
+    explicit KvListWidget(QWidget* pParent = nullptr); ///< without entries
 };
 
 } // namespace KVGUI

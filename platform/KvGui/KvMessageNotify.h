@@ -25,10 +25,10 @@ public:
 
     /// How long a bar stays, in milliseconds; 5000 at first. Applies to bars that are still to come.
     void SetDuration(int nMilliseconds);
-    int GetDuration() const;
+    int GetDuration() const; ///< in milliseconds
 
 signals:
-    void SignalTextNotificationAdded(const QString& strText);
+    void SignalTextNotificationAdded(const QString& strText); ///< for every text that is not empty
 
 protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
@@ -48,6 +48,6 @@ private:
 };
 
 template <>
-KVGUI_EXPORT KvMessageNotify* KvSingleton<KvMessageNotify>::Instance();
+KVGUI_EXPORT KvMessageNotify* KvSingleton<KvMessageNotify>::Instance(); ///< the one of this process
 
 } // namespace KVGUI

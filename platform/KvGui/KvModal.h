@@ -32,7 +32,7 @@ public:
         return m_pDialog;
     }
 
-    Dialog* operator->() const { return m_pDialog; }
+    Dialog* operator->() const { return m_pDialog; } ///< null once the dialog has gone
 
 private:
     QPointer<Dialog> m_pDialog;

@@ -13,8 +13,8 @@ class KVGUI_EXPORT KvPushButton : public QPushButton
     Q_OBJECT
 
 public:
-    explicit KvPushButton(QWidget* pParent = nullptr);
-    explicit KvPushButton(const QString& strText, QWidget* pParent = nullptr);
+    explicit KvPushButton(QWidget* pParent = nullptr);                         ///< without a text
+    explicit KvPushButton(const QString& strText, QWidget* pParent = nullptr); ///< with a text
 };
 
 } // namespace KVGUI

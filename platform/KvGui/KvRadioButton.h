@@ -13,8 +13,8 @@ class KVGUI_EXPORT KvRadioButton : public QRadioButton
     Q_OBJECT
 
 public:
-    explicit KvRadioButton(QWidget* pParent = nullptr);
-    explicit KvRadioButton(const QString& strText, QWidget* pParent = nullptr);
+    explicit KvRadioButton(QWidget* pParent = nullptr);                         ///< without a text
+    explicit KvRadioButton(const QString& strText, QWidget* pParent = nullptr); ///< with a text
 
 protected:
     void checkStateSet() override;

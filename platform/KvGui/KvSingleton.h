@@ -9,7 +9,7 @@ template <class T>
 class KvSingleton
 {
 public:
-    static T* Instance();
+    static T* Instance(); ///< never null
 };
 
 } // namespace KVGUI

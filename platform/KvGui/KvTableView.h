@@ -15,11 +15,11 @@ class KVGUI_EXPORT KvTableView : public QTableView
     Q_OBJECT
 
 public:
-    static constexpr int ColumnWidthRole = Qt::UserRole + 110; // 366
+    static constexpr int ColumnWidthRole = Qt::UserRole + 110; ///< 366, of the header data
 
-    explicit KvTableView(QWidget* pParent = nullptr);
+    explicit KvTableView(QWidget* pParent = nullptr); ///< without a model
 
-    void setModel(QAbstractItemModel* pModel) override;
+    void setModel(QAbstractItemModel* pModel) override; ///< takes the widths over
 
 protected:
     void keyPressEvent(QKeyEvent* pEvent) override;

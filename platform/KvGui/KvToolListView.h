@@ -27,9 +27,9 @@ class KVGUI_EXPORT KvToolListView : public QListView
     Q_PROPERTY(QColor errorTextColor MEMBER m_errorTextColor NOTIFY SignalColorChanged)
 
 public:
-    explicit KvToolListView(QWidget* pParent = nullptr);
+    explicit KvToolListView(QWidget* pParent = nullptr); ///< without entries
 
-    void AddItem(const QIcon& icon, const QString& strText);
+    void AddItem(const QIcon& icon, const QString& strText); ///< at the end
 
     /// Takes an entry out; an unknown index does nothing.
     void RemoveItem(int nIndex);
@@ -50,9 +50,10 @@ public:
 signals:
     /// The current entry changed, or the user picked the current one again (with the mouse, Home, End, Enter or Space).
     void SignalCurrentIndexChanged(int nIndex);
-    void SignalColorChanged();
+    void SignalColorChanged(); ///< of any of the colours
 
 protected:
+    /// One entry, whatever else is held.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* pEvent = nullptr) const override;
     void mousePressEvent(QMouseEvent* pEvent) override;

@@ -13,7 +13,7 @@ class KVGUI_EXPORT KvVerScrollBar : public QScrollBar
     Q_OBJECT
 
 public:
-    explicit KvVerScrollBar(QWidget* pParent = nullptr);
+    explicit KvVerScrollBar(QWidget* pParent = nullptr); ///< from 0 to 99
 };
 
 } // namespace KVGUI

@@ -17,16 +17,16 @@ namespace UICommonMdl
 /// A category of alarms; an empty name: unknown.
 struct AlarmCategoryInfo
 {
-    std::int32_t nCategoryId = 0;
-    QString strName;
+    std::int32_t nCategoryId = 0; ///< of the platform
+    QString strName;              ///< in the client's language
 };
 
 /// A group of alarm types within a category; id 0: unknown.
 struct AlarmGroupInfo
 {
-    std::int32_t nGroupId = 0;
-    QString strName;
-    std::int32_t nCategoryId = 0;
+    std::int32_t nGroupId = 0;    ///< of the platform
+    QString strName;              ///< in the client's language
+    std::int32_t nCategoryId = 0; ///< that it lies in
 };
 
 /// The catalogue of the client's alarm types: categories, in them groups, in them types, read from "AlarmTypes.xml" in
@@ -58,8 +58,8 @@ public:
     void GetAlarmCategory(QMap<int, QString>& mapMain, QMap<int, QMap<int, QString>>& mapSub,
                           const QSet<int>* pSetAlarmId = nullptr, bool bExclude = true) const;
 
-    AlarmCategoryInfo GetCategoryInfoByCategoryId(int nCategoryId) const;
-    AlarmGroupInfo GetGroupInfoByAlarmId(int nAlarmId) const;
+    AlarmCategoryInfo GetCategoryInfoByCategoryId(int nCategoryId) const; ///< id 0: unknown
+    AlarmGroupInfo GetGroupInfoByAlarmId(int nAlarmId) const;             ///< of a type; id 0: unknown
 
     /// The name of a type; empty: unknown.
     QString CovertAlarmNameByType(int nAlarmId) const;
@@ -73,14 +73,14 @@ public:
     /// The file name of a type's built-in sound; empty: unknown, or none.
     QString GetDefaultSoundByAlarmId(int nAlarmId) const;
 
-    int GetAlarmTypeCount() const { return m_listTypes.size(); }
+    int GetAlarmTypeCount() const { return m_listTypes.size(); } ///< of all categories
 
     /// In ascending order.
     QList<int> GetCategoryIds() const { return m_mapCategories.keys(); }
 
 signals:
-    void SignalUpdateCustomAlarmType();
-    void SignalUpdateAlarmType();
+    void SignalUpdateCustomAlarmType(); ///< the catalogue was read anew
+    void SignalUpdateAlarmType();       ///< the catalogue was read anew
 
 private:
     struct SType

@@ -24,7 +24,7 @@ class UICOMMONMODULE_EXPORT CAlarmTypeCombox : public KVGUI::KvComboBox
     Q_OBJECT
 
 public:
-    explicit CAlarmTypeCombox(QWidget* pParent = nullptr);
+    explicit CAlarmTypeCombox(QWidget* pParent = nullptr); ///< with an empty menu
     ~CAlarmTypeCombox() override;
 
     /// Sets the menu; the box's items and its current index stay. A type that was chosen stays chosen when the new menu
@@ -46,18 +46,18 @@ public:
     /// What the closed box shows.
     QString GetShownText() const;
 
-    bool IsOpen() const;
+    bool IsOpen() const; ///< whether its menu is
 
     /// Pictures for skins that paint the box from them.
     void SetTextPixmap(const QPixmap& pixText) { m_pixText = pixText; }
-    void SetStatePixmap(const QPixmap& pixStrip) { m_pixState = pixStrip; }
+    void SetStatePixmap(const QPixmap& pixStrip) { m_pixState = pixStrip; } ///< of normal, hover, pressed, disabled
 
     /// For the text that is shown, whatever the other types are called: there may be thousands.
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
+    QSize minimumSizeHint() const override; ///< the same
 
-    void showPopup() override;
-    void hidePopup() override;
+    void showPopup() override; ///< opens the menu
+    void hidePopup() override; ///< closes the menu
 
 signals:
     /// A user's pick, or ChooseItem.

@@ -34,8 +34,9 @@ public:
                      const QString& strModel = {});
 
     /// Write with FollowLink, whereby the file that is replaced stays under a second name. That name loses what it
-    /// stood for only when the new file is complete. \param before  the content that is replaced, see Keep \return as
-    /// Write
+    /// stood for only when the new file is complete.
+    /// \param before  the content that is replaced, see Keep
+    /// \return as Write
     static int WriteAndKeep(const QString& strFile, const QByteArray& content, const QString& strName,
                             const QByteArray& before);
 
@@ -51,8 +52,7 @@ public:
 
     /// Reads a regular file; anything else (a folder, a device, a pipe) is not opened.
     /// \return CErrorCode::Success, or NoPermission, InUse, Unreadable, IoError, TooLarge; FileMissing only where
-    /// nothing
-    ///         of that name exists. \a content is then empty
+    ///         nothing of that name exists. \a content is then empty
     static int Read(const QString& strFile, QByteArray& content);
 
     /// Removes a file; a folder stays.

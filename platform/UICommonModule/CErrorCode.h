@@ -14,10 +14,11 @@ class UICOMMONMODULE_EXPORT CErrorCode
     Q_DECLARE_TR_FUNCTIONS(CErrorCode)
 
 public:
+    /// The results of everything that touches a disk.
     enum Code : int
     {
-        Unknown = 0,
-        Success = 1,
+        Unknown = 0,          ///< any number that no code has
+        Success = 1,          ///< done
         DiskFull = 2,         ///< no space left on the device, or a quota or size limit is used up
         NoPermission = 3,     ///< this user may not read or write the file or folder, or the disk is read-only
         Locked = 4,           ///< another client uses the same data folder

@@ -14,7 +14,7 @@ public:
     /// The client's language: "en" or "zh_CN". Until it is set, what Localcfg.ini in the working folder names under
     /// [Language] type (0 "en", 1 "zh_CN"), read once; anything else counts as "en".
     static QString GetClientStrLanguage();
-    static void SetClientStrLanguage(const QString& strLanguage);
+    static void SetClientStrLanguage(const QString& strLanguage); ///< for what is translated from now on
 
     /// The folder of the client's skins, translations and data files, without a separator at the end:
     /// $KV_CLIENT_RESOURCES when set, else ../share/local-config-client beside the application's folder when there is

@@ -18,17 +18,17 @@ class UICOMMONMODULE_EXPORT CPathEdit : public KVGUI::KvLineEdit
     Q_PROPERTY(BrowseMode browseMode READ GetBrowseMode WRITE SetBrowseMode)
 
 public:
-    enum BrowseMode
+    enum BrowseMode ///< what the browse button does
     {
         BrowseFolder, ///< the browse button opens the folder dialog, and folder names are completed while typing
         BrowseByOwner ///< the browse button only emits
     };
     Q_ENUM(BrowseMode)
 
-    explicit CPathEdit(QWidget* pParent = nullptr);
+    explicit CPathEdit(QWidget* pParent = nullptr); ///< with BrowseFolder
 
-    BrowseMode GetBrowseMode() const;
-    void SetBrowseMode(BrowseMode eMode);
+    BrowseMode GetBrowseMode() const;     ///< BrowseFolder at first
+    void SetBrowseMode(BrowseMode eMode); ///< at any time
 
     /// The widget that the messages of this field stay within.
     void SetTipParentWidget(QWidget* pTipParent);

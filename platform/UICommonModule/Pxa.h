@@ -25,6 +25,7 @@ UICOMMONMODULE_EXPORT QString GetSkin();
 /// For the client's start; an unknown name counts as "DustyBlue".
 UICOMMONMODULE_EXPORT void SetSkin(const QString& strSkin);
 
+/// What any control may need.
 class UICOMMONMODULE_EXPORT QCommon
 {
 public:
