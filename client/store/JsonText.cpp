@@ -12,7 +12,7 @@ namespace LocalConfigClient
 namespace
 {
 
-constexpr int g_nIndent = 4;
+constexpr std::size_t g_nIndent = 4;
 
 /// A text, a number or a literal in Qt's form.
 QByteArray ToScalar(const QVariant& value)
@@ -100,7 +100,7 @@ private:
     {
         m_text += m_bFirst ? "" : ",\n";
         m_bFirst = false;
-        m_text.append(std::size_t(g_nIndent * m_nDepth), ' ');
+        m_text.append(g_nIndent * m_nDepth, ' ');
     }
 
     void Close(char chBracket)
@@ -108,12 +108,12 @@ private:
         m_text += m_bFirst ? "" : "\n";
         m_bFirst = false;
         --m_nDepth;
-        m_text.append(std::size_t(g_nIndent * m_nDepth), ' ');
+        m_text.append(g_nIndent * m_nDepth, ' ');
         m_text += chBracket;
     }
 
     std::string m_text; // to which characters are added more quickly than to a QByteArray
-    int m_nDepth = 0;
+    std::size_t m_nDepth = 0;
     bool m_bFirst = true;
 };
 
