@@ -13,7 +13,7 @@ namespace LocalConfig
 namespace
 {
 
-constexpr int g_nEdge = 8; // pixels of either edge of a selected card that are in the state "on", see the sheet
+constexpr int g_nEdge = 8; // pixels of either edge of a selected card that are in the state "on", see its sheet
 
 } // namespace
 

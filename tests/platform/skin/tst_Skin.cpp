@@ -76,14 +76,6 @@ double Contrast(const QColor& one, const QColor& other)
     return (dLight + 0.05) / (dDark + 0.05);
 }
 
-/// Which has the rules of its cards, too.
-QString DialogSheet()
-{
-    QString strSheet;
-    Pxa::loadStyleSheet(Pxa::GetSkinPath("LocalConfig", "CLocalConfig.qss"), strSheet);
-    return strSheet;
-}
-
 void SkinRows()
 {
     QTest::addColumn<QString>("strSkin");
@@ -524,9 +516,7 @@ void tst_Skin::TheSelectedCardHasABar()
 {
     QFETCH(QString, strSkin);
     UseSkin(strSkin);
-    QWidget dialog;
-    dialog.setStyleSheet(DialogSheet());
-    LocalConfig::CGroupBox box(&dialog);
+    LocalConfig::CGroupBox box(nullptr);
     box.setTitle("Section");
     box.setFixedWidth(662);
     box.resize(662, 200);
@@ -544,17 +534,15 @@ void tst_Skin::TheSelectedCardHasABar()
 void tst_Skin::CardsLeaveRoomForTheirPages()
 {
     UseSkin("White");
-    QWidget dialog;
-    dialog.setStyleSheet(DialogSheet());
-    LocalConfig::CGroupBox box(&dialog);
+    LocalConfig::CGroupBox box(nullptr);
     box.setTitle("Section");
     auto* pLayout = new QVBoxLayout(&box);
     pLayout->setContentsMargins(0, 0, 0, 0);
     auto* pPage = new QWidget(&box);
     pLayout->addWidget(pPage);
     box.setFixedSize(662, 462);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
     QVERIFY2(pPage->height() >= 440, qPrintable(QString::number(pPage->height())));
     QVERIFY(pPage->width() >= 658);
 }
