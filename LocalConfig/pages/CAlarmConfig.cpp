@@ -135,6 +135,21 @@ void CAlarmConfig::ConnectSlots()
     connect(CAlarmType::Instance(), &CAlarmType::SignalUpdateAlarmType, this, &CAlarmConfig::OnReInitAlarmType);
 }
 
+int CAlarmConfig::SetConfigSection(LocalConfigLogical::IAlarmSection* pSection)
+{
+    const int nResult = CSectionPage::SetConfigSection(pSection);
+    if (nResult == 0)
+    {
+        UpdateControlState(true);
+    }
+    return nResult;
+}
+
+int CAlarmConfig::SetSection(LocalConfigLogical::IConfigSection* pSection)
+{
+    return SetConfigSection(static_cast<LocalConfigLogical::IAlarmSection*>(pSection));
+}
+
 int CAlarmConfig::ApplyConfigXml()
 {
     const std::optional<bool> forced = ReadForcedAlarmSound(QDir::currentPath() + QStringLiteral("/Config.xml"));
@@ -192,7 +207,7 @@ void CAlarmConfig::LoadConfig(bool bDefault)
     m_pUi->ckbLinkVideo->setChecked(record.linkVideo);
     (record.openVideoType == 0 ? m_pUi->radioPopUp : m_pUi->radioPreview)->setChecked(true);
     FillTypeLists(record);
-    EnableControls(true, record);
+    UpdateControlState(true);
 }
 
 void CAlarmConfig::FillTypeLists(const AlarmConfigInfo& record)
@@ -319,11 +334,7 @@ void CAlarmConfig::PutBack(const AlarmConfigInfo& record)
 
 void CAlarmConfig::UpdateControlState(bool bEnable)
 {
-    EnableControls(bEnable, GetCurrentRecord());
-}
-
-void CAlarmConfig::EnableControls(bool bEnable, const AlarmConfigInfo& record)
-{
+    const AlarmConfigInfo record = GetCurrentRecord();
     EnableSoundControls(bEnable && record.alarmSound);
     EnableFlashControls(bEnable && record.mapFlash);
     EnableVideoChoice(bEnable && record.linkVideo);

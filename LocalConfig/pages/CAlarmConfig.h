@@ -32,6 +32,8 @@ public:
     ~CAlarmConfig() override;
 
     QWidget* GetWidget() override { return this; }
+    int SetConfigSection(LocalConfigLogical::IAlarmSection* pSection);
+    int SetSection(LocalConfigLogical::IConfigSection* pSection) override;
     int ApplyConfigXml() override;
     void ReloadConfig(bool bDefault) override;
     void LoadConfig(bool bDefault) override;
@@ -64,7 +66,6 @@ private:
     void ShowSound(const LocalConfigLogical::AlarmSoundInfo& sound);
     LocalConfigLogical::AlarmConfigInfo GetCurrentRecord() const;
     void PutBack(const LocalConfigLogical::AlarmConfigInfo& record);
-    void EnableControls(bool bEnable, const LocalConfigLogical::AlarmConfigInfo& record);
     void EnableSoundControls(bool bEnable);
     void EnableFlashControls(bool bEnable);
     void EnableVideoChoice(bool bEnable);

@@ -165,13 +165,9 @@ void CAlarmType::GetAlarmCategory(QMap<int, QString>& mapMain, QMap<int, QMap<in
         const bool bInSet = pSetAlarmId && pSetAlarmId->contains(type.nId);
         if (bInSet != bExclude)
         {
-            QMap<int, QString>& mapTypes = mapSub[type.group.nCategoryId];
-            mapTypes.insert(mapTypes.cend(), nIndex, type.strName); // indices ascend
+            mapMain.insert(type.group.nCategoryId, m_mapCategories.value(type.group.nCategoryId));
+            mapSub[type.group.nCategoryId].insert(nIndex, type.strName);
         }
-    }
-    for (auto it = mapSub.cbegin(); it != mapSub.cend(); ++it)
-    {
-        mapMain.insert(it.key(), m_mapCategories.value(it.key()));
     }
 }
 
