@@ -194,6 +194,8 @@ QWidget* MainWindow::MakeAlarmPanel()
         const int nCategory = FindFlashing(mapMain.keys(), m_configService.GetStored().alarm);
         m_pAlarmType->ChooseItem(nCategory, mapSub.value(nCategory).firstKey());
     }
+    connect(m_pMapView, &MapView::SignalCategoryPicked, this,
+            [this, mapSub](int nCategory) { m_pAlarmType->ChooseItem(nCategory, mapSub.value(nCategory).firstKey()); });
     auto* pRaise = new KVGUI::KvPushButton(tr("Test Alarm"), pPanel);
     pRaise->setObjectName(QStringLiteral("btnTestAlarm"));
     pRaise->setEnabled(!mapMain.isEmpty());

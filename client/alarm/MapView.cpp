@@ -1,5 +1,7 @@
 #include "MapView.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 namespace LocalConfigClient
@@ -12,6 +14,7 @@ constexpr int g_nFlashInterval = 400; // milliseconds
 constexpr int g_nRoomHeight = 30;
 constexpr int g_nMargin = 8;
 constexpr int g_nMarkerRadius = 5;
+constexpr int g_nFocusWidth = 2;
 
 } // namespace
 
@@ -20,6 +23,7 @@ MapView::MapView(QWidget* pParent)
 {
     setObjectName(QStringLiteral("mapView"));
     setAccessibleName(tr("Map"));
+    setFocusPolicy(Qt::StrongFocus);
     m_timer.setInterval(g_nFlashInterval);
     connect(&m_timer, &QTimer::timeout, this, [this] {
         m_bLit = !m_bLit;
@@ -31,7 +35,59 @@ void MapView::SetCategories(const QMap<int, QString>& mapCategories)
 {
     m_mapCategories = mapCategories;
     updateGeometry();
+    GoTo(0);
+}
+
+QRect MapView::GetRoom(int nPlace) const
+{
+    return {g_nMargin, g_nMargin + nPlace * g_nRoomHeight, width() - 2 * g_nMargin, g_nRoomHeight};
+}
+
+/// Stays at the ends.
+void MapView::GoTo(int nPlace)
+{
+    m_nPlace = qBound(0, nPlace, qMax(0, m_mapCategories.size() - 1));
+    setAccessibleDescription(m_mapCategories.values().value(m_nPlace));
     update();
+}
+
+void MapView::keyPressEvent(QKeyEvent* pEvent)
+{
+    switch (pEvent->key())
+    {
+    case Qt::Key_Up:
+        GoTo(m_nPlace - 1);
+        break;
+    case Qt::Key_Down:
+        GoTo(m_nPlace + 1);
+        break;
+    case Qt::Key_Home:
+        GoTo(0);
+        break;
+    case Qt::Key_End:
+        GoTo(m_mapCategories.size() - 1);
+        break;
+    case Qt::Key_Space:
+        if (!m_mapCategories.isEmpty())
+        {
+            emit SignalCategoryPicked(m_mapCategories.keys()[m_nPlace]);
+        }
+        break;
+    default:
+        QWidget::keyPressEvent(pEvent);
+    }
+}
+
+void MapView::mousePressEvent(QMouseEvent* pEvent)
+{
+    for (int nPlace = 0; nPlace < m_mapCategories.size(); ++nPlace)
+    {
+        if (GetRoom(nPlace).contains(pEvent->pos()))
+        {
+            GoTo(nPlace);
+            emit SignalCategoryPicked(m_mapCategories.keys()[nPlace]);
+        }
+    }
 }
 
 void MapView::Flash(int nCategory)
@@ -62,9 +118,10 @@ void MapView::paintEvent(QPaintEvent* /*pEvent*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    QRect room(g_nMargin, g_nMargin, width() - 2 * g_nMargin, g_nRoomHeight);
-    for (auto it = m_mapCategories.cbegin(); it != m_mapCategories.cend(); ++it, room.translate(0, g_nRoomHeight))
+    int nPlace = 0;
+    for (auto it = m_mapCategories.cbegin(); it != m_mapCategories.cend(); ++it, ++nPlace)
     {
+        const QRect room = GetRoom(nPlace);
         const bool bLit = m_bLit && it.key() == m_nCategory;
         painter.setPen(m_wallColor);
         painter.setBrush(m_groundColor);
@@ -77,6 +134,12 @@ void MapView::paintEvent(QPaintEvent* /*pEvent*/)
         painter.setPen(m_textColor);
         const QRect text = room.adjusted(8 * g_nMarkerRadius, 0, -4, 0);
         painter.drawText(text, Qt::AlignVCenter, fontMetrics().elidedText(it.value(), Qt::ElideRight, text.width()));
+        if (hasFocus() && nPlace == m_nPlace)
+        {
+            painter.setPen(QPen(m_focusColor, g_nFocusWidth));
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRect(room.adjusted(g_nFocusWidth, g_nFocusWidth, -g_nFocusWidth, -g_nFocusWidth));
+        }
     }
 }
 

@@ -7,8 +7,8 @@
 namespace LocalConfigClient
 {
 
-/// A plan of the site with a marker for each alarm category; markers flash. The colours are properties, so that style
-/// sheets can set them.
+/// A plan of the site with a marker for each alarm category; markers flash. The mouse picks a marker; the arrow keys,
+/// Home and End lead to one, and Space picks it. The colours are properties, so that style sheets can set them.
 class MapView : public QWidget
 {
     Q_OBJECT
@@ -17,6 +17,7 @@ class MapView : public QWidget
     Q_PROPERTY(QColor markerColor MEMBER m_markerColor)
     Q_PROPERTY(QColor flashColor MEMBER m_flashColor)
     Q_PROPERTY(QColor textColor MEMBER m_textColor)
+    Q_PROPERTY(QColor focusColor MEMBER m_focusColor)
 
 public:
     explicit MapView(QWidget* pParent);
@@ -33,11 +34,20 @@ public:
 
     QSize sizeHint() const override;
 
+signals:
+    void SignalCategoryPicked(int nCategory);
+
 protected:
     void paintEvent(QPaintEvent* pEvent) override;
+    void keyPressEvent(QKeyEvent* pEvent) override;
+    void mousePressEvent(QMouseEvent* pEvent) override;
 
 private:
+    QRect GetRoom(int nPlace) const;
+    void GoTo(int nPlace);
+
     QMap<int, QString> m_mapCategories;
+    int m_nPlace = 0; // in the map, of the marker that the keyboard is at
     int m_nCategory = 0;
     bool m_bLit = false;
     QTimer m_timer;
@@ -46,6 +56,7 @@ private:
     QColor m_markerColor = Qt::blue;
     QColor m_flashColor = Qt::red;
     QColor m_textColor = Qt::black;
+    QColor m_focusColor = Qt::blue;
 };
 
 } // namespace LocalConfigClient

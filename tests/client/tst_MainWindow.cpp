@@ -34,6 +34,7 @@ private slots:
 
     void TheTestAlarmStartsAtATypeThatFlashes_data();
     void TheTestAlarmStartsAtATypeThatFlashes();
+    void AMarkerOfTheMapChoosesAnAlarmType();
     void ATestAlarmThatNobodyCanHearSaysSoOnce();
 };
 
@@ -215,6 +216,22 @@ void tst_MainWindow::TheTestAlarmStartsAtATypeThatFlashes()
     QTest::mouseClick(window.findChild<QAbstractButton*>("btnTestAlarm"), Qt::LeftButton);
     QVERIFY(window.findChild<MapView*>()->IsFlashing());
     QCOMPARE(window.findChild<MapView*>()->GetFlashingCategory(), nCategory);
+}
+
+void tst_MainWindow::AMarkerOfTheMapChoosesAnAlarmType()
+{
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    service.SeedAlarms(*UICommonMdl::CAlarmType::Instance());
+    UserManager users({}, nullptr);
+    MainWindow window(service, users);
+    window.show();
+    auto* pMap = window.findChild<MapView*>();
+    for (const int nKey : {Qt::Key_Home, Qt::Key_Down, Qt::Key_Down, Qt::Key_Space})
+    {
+        QTest::keyClick(pMap, Qt::Key(nKey));
+    }
+    QTest::mouseClick(window.findChild<QAbstractButton*>("btnTestAlarm"), Qt::LeftButton);
+    QCOMPARE(pMap->GetFlashingCategory(), 3);
 }
 
 void tst_MainWindow::ATestAlarmThatNobodyCanHearSaysSoOnce()
