@@ -78,7 +78,7 @@ endwhile()
 file(GLOB_RECURSE changedFiles RELATIVE "${edited}" "${edited}/*")
 
 # The copy. Files that are the same already stay as they are, so that only what differs is built again.
-set(folders cmake client LocalConfig platform tools)
+set(folders cmake client LocalConfig packaging platform tools)
 list(TRANSFORM folders REPLACE "(.+)" "${SOURCE_DIR}/\\1/*" OUTPUT_VARIABLE patterns)
 file(GLOB_RECURSE plainFiles RELATIVE "${SOURCE_DIR}" ${patterns})
 list(APPEND plainFiles CMakeLists.txt)
