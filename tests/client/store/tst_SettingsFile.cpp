@@ -370,7 +370,7 @@ void tst_SettingsFile::OwnFilesAreKnownHoweverTheyAreWritten()
     {
         wchar_t szShort[MAX_PATH];
         const std::wstring path = QDir::toNativeSeparators(Path("settings.json")).toStdWString();
-        QVERIFY(::GetShortPathNameW(path.c_str(), szShort, MAX_PATH) > 0);
+        QTRY_VERIFY(::GetShortPathNameW(path.c_str(), szShort, MAX_PATH) > 0); // Wine looks into every folder above
         strName = QFileInfo(QString::fromWCharArray(szShort)).fileName();
         QVERIFY(strName.compare("settings.json", Qt::CaseInsensitive) != 0);
     }

@@ -638,7 +638,7 @@ void tst_AtomicFile::OtherNamesOfAFileAreUnderstood()
     {
         wchar_t szShort[MAX_PATH];
         const std::wstring path = QDir::toNativeSeparators(Path("a long name.text")).toStdWString();
-        QVERIFY(::GetShortPathNameW(path.c_str(), szShort, MAX_PATH) > 0);
+        QTRY_VERIFY(::GetShortPathNameW(path.c_str(), szShort, MAX_PATH) > 0); // Wine looks into every folder above
         strPath = QString::fromWCharArray(szShort);
         QVERIFY(!strPath.endsWith("a long name.text"));
     }
