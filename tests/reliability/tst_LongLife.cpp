@@ -12,7 +12,7 @@
 #include <QTemporaryDir>
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes(); // GCC comes without the header that declares it
 #else
 #include <malloc.h>
 #endif
