@@ -128,7 +128,10 @@ CLocalConfig::CLocalConfig(QWidget* pParent)
     ConnectSlots();
 }
 
-CLocalConfig::~CLocalConfig() = default;
+CLocalConfig::~CLocalConfig()
+{
+    delete m_pTravel; // the focus moves once more while the controls go
+}
 
 int CLocalConfig::Init(ILocalConfig* pLocalConfig, UserLogical::IUserManager* pUserManager)
 {

@@ -81,7 +81,10 @@ CVideoConfig::CVideoConfig(QWidget* pParent)
     ConnectSlots();
 }
 
-CVideoConfig::~CVideoConfig() = default;
+CVideoConfig::~CVideoConfig()
+{
+    disconnect(qApp, nullptr, this, nullptr); // the focus moves once more while the controls go
+}
 
 void CVideoConfig::InitControls()
 {
