@@ -39,7 +39,7 @@ private:
         }
         else
         {
-            LocalConfigClient::VisitFields(value, [this](const char* /*pszName*/, auto& field) { Fill(field); });
+            LocalConfigClient::VisitFields(value, [this](const char* /*pszName*/, auto& field) { this->Fill(field); });
         }
     }
 
