@@ -357,9 +357,11 @@ std::map<std::string, SLimit> ReadLimits(const char* pszFile)
 bool Print(const SRow& row, const SResult& result, const SLimit& limit, const CCounter& counter)
 {
     const double dFigure = row.pszBase ? result.dRatio : result.dProduct;
-    // Times say too little to refuse a change.
-    const bool bWorse =
-        (row.pszUnit || counter.GetKind() != CCounter::Time) && dFigure > limit.dRecorded * g_dTolerance;
+    // Times say too little to refuse a change, and what stands alone was recorded with callgrind, which counts some
+    // instructions differently from a processor.
+    const bool bComparable =
+        row.pszUnit || counter.GetKind() == CCounter::Callgrind || (row.pszBase && counter.GetKind() != CCounter::Time);
+    const bool bWorse = bComparable && dFigure > limit.dRecorded * g_dTolerance;
     const bool bGoal = limit.strGoal == "-" || dFigure <= std::strtod(limit.strGoal.c_str(), nullptr);
     const std::string strRatio = row.pszBase ? QString::number(result.dRatio, 'f', 2).toStdString() : "-";
     std::printf("%-25s %10.2f  %-10s %6s  %6s  %-5s %9.3f  %s\n", row.pszName, result.dProduct,

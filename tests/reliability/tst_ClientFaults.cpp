@@ -20,6 +20,7 @@ class tst_ClientFaults : public CClientProcessTest
 private slots:
     void init() { Reset(); }
 
+    void AReadOnlyFolderLosesNothing_data();
     void AReadOnlyFolderLosesNothing();
     void AFullDiskLosesNothing();
     void ASecondClientLosesNothing();
@@ -28,13 +29,22 @@ private slots:
 #endif
 };
 
+void tst_ClientFaults::AReadOnlyFolderLosesNothing_data()
+{
+    QTest::addColumn<QStringList>("listArguments");
+    QTest::newRow("import") << QStringList{"--import", "in.json"};
+    QTest::newRow("one setting") << QStringList{"--set", "video.nDefaultSplit=9"};
+}
+
 void tst_ClientFaults::AReadOnlyFolderLosesNothing()
 {
+    QFETCH(QStringList, listArguments);
+    listArguments.replaceInStrings("in.json", m_pOther->filePath("in.json"));
     Put(Path("settings.json"), Document(ChangedSettings()));
     Put(m_pOther->filePath("in.json"), Document(Settings()));
     const QMap<QString, QByteArray> mapBefore = Snapshot(m_pFolder->path());
     SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::ExeOwner);
-    const SRun run = Client({"--import", m_pOther->filePath("in.json")});
+    const SRun run = Client(listArguments);
     const SRun dump = Client({"--dump"});
     SetPermissions(m_pFolder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QCOMPARE(run.nExitCode, 1);
