@@ -1,6 +1,7 @@
 #include "Client.h"
 
 #include "Caller.h"
+#include "ClientTexts.h"
 #include "MainWindow.h"
 #include "SystemSignals.h"
 #include <client/alarm/AlarmSounds.h>
@@ -27,11 +28,9 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
-#include <QLibraryInfo>
 #include <QPalette>
 #include <QStandardPaths>
 #include <QTimer>
-#include <QTranslator>
 
 #include <algorithm>
 #include <memory>
@@ -242,7 +241,7 @@ int Client::RunWithoutDisplay()
         return g_nExitFailed;
     }
     SettleSkinAndLanguage();
-    InstallTranslators();
+    ClientTexts::Translate(CGlobalInfo::GetClientStrLanguage());
     switch (m_commandLine.eAction)
     {
     case CommandLine::Import:
@@ -389,36 +388,9 @@ void Client::SettleSkinAndLanguage() const
     }
 }
 
-void Client::InstallTranslators()
-{
-    const QString strLanguage = CGlobalInfo::GetClientStrLanguage();
-    const QString strFolder = CGlobalInfo::GetResourcePath() + QStringLiteral("/translations");
-    const auto install = [&strLanguage](const char* pszStem, const QString& strDirectory) {
-        auto* pTranslator = new QTranslator(QCoreApplication::instance());
-        if (pTranslator->load(QStringLiteral("%1_%2").arg(QString::fromLatin1(pszStem), strLanguage), strDirectory))
-        {
-            QCoreApplication::installTranslator(pTranslator);
-        }
-        else
-        {
-            delete pTranslator; // English stands in the sources
-        }
-    };
-    install("qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    for (const char* pszStem : {"KvGui", "UICommonModule", "LocalConfig", "local-config-client"})
-    {
-        install(pszStem, strFolder);
-    }
-}
-
 void Client::ApplyLook(QApplication& application)
 {
-    QFont font = application.font();
-    font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Segoe UI"), QStringLiteral("Noto Sans"),
-                      QStringLiteral("DejaVu Sans")});
-    font.setPixelSize(13);
-    application.setFont(font);
-
+    application.setFont(ClientTexts::MakeFont(application.font()));
     const QString strPath = Pxa::GetSkinPath(QStringLiteral("public"), QStringLiteral("KvGui.qss"));
     QString strSheet;
     if (Pxa::loadStyleSheet(strPath, strSheet))
@@ -438,7 +410,7 @@ int Client::Run(QApplication& application)
         return g_nExitFailed;
     }
     SettleSkinAndLanguage();
-    InstallTranslators();
+    ClientTexts::Translate(CGlobalInfo::GetClientStrLanguage());
     ApplyLook(application);
     return m_commandLine.eAction == CommandLine::Screenshot ? TakeScreenshot() : OpenWindow();
 }

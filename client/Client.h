@@ -45,7 +45,6 @@ private:
     int ChangeSettings() const;
     int WriteFile(const QByteArray& content) const;
     void SettleSkinAndLanguage() const;
-    static void InstallTranslators();
     static void ApplyLook(QApplication& application);
     int OpenWindow();
     int TakeScreenshot();

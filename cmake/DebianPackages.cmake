@@ -34,7 +34,7 @@ set(sameLibraries "${libraries} (= ${PROJECT_VERSION})")
 
 package(libraries ${libraries} libs
     "The dialog, the libraries that it is built on, their skins and their texts.")
-set(CPACK_DEBIAN_LIBRARIES_PACKAGE_RECOMMENDS fonts-inter)
+set(CPACK_DEBIAN_LIBRARIES_PACKAGE_RECOMMENDS "fonts-inter, fonts-dejavu-core, fonts-wqy-microhei | fonts-noto-cjk")
 set(CPACK_DEBIAN_LIBRARIES_PACKAGE_CONTROL_EXTRA "${packaging}/triggers")
 install(FILES "${packaging}/${libraries}.lintian-overrides"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/lintian/overrides" COMPONENT libraries RENAME ${libraries})
@@ -42,6 +42,7 @@ install(FILES "${packaging}/${libraries}.lintian-overrides"
 package(client local-config-client video
     "A client that shows what the settings do in live view, recordings and alarms.")
 set(CPACK_DEBIAN_CLIENT_PACKAGE_DEPENDS "${sameLibraries}")
+set(CPACK_DEBIAN_CLIENT_PACKAGE_RECOMMENDS qttranslations5-l10n)
 install(FILES "${papers}/local-config-client.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT client)
 
 package(development liblocalconfig-dev libdevel

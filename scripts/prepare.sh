@@ -42,6 +42,8 @@ quietly() {
     return 1
 }
 
-BUILD_PACKAGES="g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5 qtmultimedia5-dev libqt5multimedia5-plugins libpugixml-dev fonts-inter"
+# What the client writes its languages with, and Qt's own texts in them.
+LETTERS="fonts-inter fonts-dejavu-core fonts-wqy-microhei qttranslations5-l10n"
+BUILD_PACKAGES="g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5 qtmultimedia5-dev libqt5multimedia5-plugins libpugixml-dev $LETTERS"
 PACKAGE_TOOLS="dpkg-dev file gzip"
 TEST_PACKAGES="$PACKAGE_TOOLS lintian pkg-config fakeroot util-linux binutils pulseaudio pulseaudio-utils python3-jsonschema abigail-tools doxygen"

@@ -6,6 +6,7 @@ source=$(realpath "$1")
 rm -rf "$2"
 mkdir -p "$2"
 work=$(realpath "$2")
+. "$source/scripts/prepare.sh"
 fail() {
     echo "$*" >&2
     exit 1
@@ -18,6 +19,12 @@ fi
 packages=("$source"/build/package/*.deb)
 [ ${#packages[@]} -eq 3 ] || fail "not three packages: ${packages[*]}"
 lintian --allow-root --fail-on error,warning "${packages[@]}"
+
+recommended=$(for package in "${packages[@]}"; do dpkg-deb --field "$package" Recommends; done)
+# shellcheck disable=SC2153 # from prepare.sh
+for package in $LETTERS; do
+    [[ $recommended == *"$package"* ]] || fail "no package recommends $package"
+done
 
 root=$work/root
 mkdir -p "$root"/var/lib/dpkg/{info,updates,triggers}

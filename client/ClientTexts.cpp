@@ -1,0 +1,71 @@
+#include "ClientTexts.h"
+
+#include <UICommonModule/CGlobalInfo.h>
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QStringList>
+#include <QTranslator>
+
+#include <iterator>
+
+using UICommonMdl::CGlobalInfo;
+
+namespace LocalConfigClient
+{
+
+namespace
+{
+
+constexpr int g_nTextSize = 13; // pixels
+
+// The first that is there has a letter; those that only Windows has stand before what stands in for them elsewhere.
+constexpr const char* g_arrFamilies[] = {
+    "Inter",       "Segoe UI",        "Noto Sans",        "Noto Sans Arabic",
+    "DejaVu Sans", "Microsoft YaHei", "Noto Sans CJK SC", "WenQuanYi Micro Hei",
+};
+
+bool Install(const QString& strName, const QString& strFolder)
+{
+    auto* pTranslator = new QTranslator(QCoreApplication::instance());
+    const bool bInstalled = pTranslator->load(strName, strFolder) && QCoreApplication::installTranslator(pTranslator);
+    if (!bInstalled)
+    {
+        delete pTranslator;
+    }
+    return bInstalled;
+}
+
+} // namespace
+
+void ClientTexts::Translate(const QString& strLanguage)
+{
+    const QString strFolder = CGlobalInfo::GetResourcePath() + QStringLiteral("/translations");
+    const auto name = [&strLanguage](const char* pszStem) {
+        return QStringLiteral("%1_%2").arg(QString::fromLatin1(pszStem), strLanguage);
+    };
+    // Where Qt comes along with the client, so do its texts.
+    if (!Install(name("qtbase"), QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+    {
+        Install(name("qtbase"), strFolder);
+    }
+    for (const char* pszStem : {"KvGui", "UICommonModule", "LocalConfig", "local-config-client"})
+    {
+        Install(name(pszStem), strFolder);
+    }
+}
+
+QFont ClientTexts::MakeFont(const QFont& system)
+{
+    QStringList listFamilies;
+    for (const char* pszFamily : g_arrFamilies)
+    {
+        listFamilies += QString::fromLatin1(pszFamily);
+    }
+    QFont font = system;
+    font.setFamilies(listFamilies);
+    font.setPixelSize(g_nTextSize);
+    return font;
+}
+
+} // namespace LocalConfigClient

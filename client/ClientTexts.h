@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QFont>
+#include <QString>
+
+namespace LocalConfigClient
+{
+
+/// How the client's texts come to be read: their language and their letters.
+class ClientTexts
+{
+public:
+    /// Translates the client, the libraries that it is built on, and Qt's own menus and dialogs from now on. What has
+    /// no translation stays English.
+    static void Translate(const QString& strLanguage);
+
+    /// A font with the letters of all languages of the client.
+    /// \param system  what the operator's system would take
+    static QFont MakeFont(const QFont& system);
+};
+
+} // namespace LocalConfigClient

@@ -1,0 +1,180 @@
+#include "support/SourceTexts.h"
+
+#include <client/ClientTexts.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QFontDatabase>
+#include <QGlyphRun>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRawFont>
+#include <QTextLayout>
+#include <QTranslator>
+#include <QtTest>
+
+#include <algorithm>
+#include <memory>
+
+using LocalConfigClient::ClientTexts;
+
+namespace
+{
+
+/// Whether a font draws every letter of a text.
+bool IsDrawn(const QString& strText, const QFont& font)
+{
+    QTextLayout layout(strText, font);
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    const QList<QGlyphRun> listRuns = layout.glyphRuns();
+    return !listRuns.isEmpty() && std::none_of(listRuns.begin(), listRuns.end(),
+                                               [](const QGlyphRun& run) { return run.glyphIndexes().contains(0); });
+}
+
+/// The installed fonts among those that the client names; one that it does not name might be there by accident.
+QList<QRawFont> NamedFonts(const QFont& font)
+{
+    QList<QRawFont> listFonts;
+    const QStringList listInstalled = QFontDatabase().families();
+    for (const QString& strFamily : font.families())
+    {
+        if (listInstalled.contains(strFamily))
+        {
+            listFonts += QRawFont::fromFont(QFont(strFamily));
+        }
+    }
+    return listFonts;
+}
+
+/// The letters of a text that no font has.
+QString Missing(const QString& strText, const QList<QRawFont>& listFonts)
+{
+    QString strMissing;
+    for (const QChar ch : strText)
+    {
+        const bool bThere =
+            !ch.isPrint() || std::any_of(listFonts.begin(), listFonts.end(),
+                                         [ch](const QRawFont& font) { return font.supportsCharacter(ch); });
+        strMissing += bThere ? QString() : QString(ch);
+    }
+    return strMissing;
+}
+
+/// Texts of Qt's own that an operator meets in the client.
+QStringList QtTexts()
+{
+    QStringList listTexts;
+    QLineEdit edit;
+    const std::unique_ptr<QMenu> pMenu(edit.createStandardContextMenu());
+    for (const QAction* pAction : pMenu->actions())
+    {
+        listTexts += pAction->text().section('\t', 0, 0);
+    }
+    QDialogButtonBox buttons(QDialogButtonBox::Save | QDialogButtonBox::Cancel | QDialogButtonBox::Close);
+    for (const QAbstractButton* pButton : buttons.buttons())
+    {
+        listTexts += pButton->text();
+    }
+    QFileDialog dialog;
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    for (const char* pszName : {"lookInLabel", "fileTypeLabel"})
+    {
+        listTexts += dialog.findChild<QLabel*>(pszName)->text();
+    }
+    listTexts.removeAll(QString()); // separators
+    return listTexts;
+}
+
+} // namespace
+
+class tst_ClientTexts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+
+    void TheNamedFontsHaveTheLettersOfEveryText_data();
+    void TheNamedFontsHaveTheLettersOfEveryText();
+    void TheNamedFontsHaveTheLettersOfEveryAlarm();
+    void QtsOwnTextsAreTranslated_data();
+    void QtsOwnTextsAreTranslated();
+};
+
+void tst_ClientTexts::cleanup()
+{
+    qDeleteAll(qApp->findChildren<QTranslator*>());
+}
+
+void tst_ClientTexts::TheNamedFontsHaveTheLettersOfEveryText_data()
+{
+    QTest::addColumn<QString>("strFile");
+    for (const QString& strFile : SourceTexts::Files())
+    {
+        QTest::newRow(qPrintable(QFileInfo(strFile).fileName())) << strFile;
+    }
+}
+
+void tst_ClientTexts::TheNamedFontsHaveTheLettersOfEveryText()
+{
+    QFETCH(QString, strFile);
+    const QFont font = ClientTexts::MakeFont(QApplication::font());
+    const QList<QRawFont> listNamed = NamedFonts(font);
+    for (const SourceTexts::SMessage& message : SourceTexts::Read(strFile))
+    {
+        for (const QString& strText : message.listTranslations)
+        {
+            QCOMPARE(Missing(strText, listNamed), QString());
+            QVERIFY2(IsDrawn(QString(strText).remove('\n'), font), qPrintable(strText));
+        }
+    }
+}
+
+void tst_ClientTexts::TheNamedFontsHaveTheLettersOfEveryAlarm()
+{
+    const QFont font = ClientTexts::MakeFont(QApplication::font());
+    const QList<QRawFont> listNamed = NamedFonts(font);
+    const QList<SourceTexts::Names> listNames = SourceTexts::ReadAlarmNames();
+    QVERIFY(listNames.size() > 150);
+    for (const SourceTexts::Names& names : listNames)
+    {
+        for (const QString& strName : names)
+        {
+            QCOMPARE(Missing(strName, listNamed), QString());
+            QVERIFY2(IsDrawn(strName, font), qPrintable(strName));
+        }
+    }
+}
+
+void tst_ClientTexts::QtsOwnTextsAreTranslated_data()
+{
+    QTest::addColumn<QString>("strLanguage");
+    for (const QString& strLanguage : SourceTexts::Languages())
+    {
+        QTest::newRow(qPrintable(strLanguage)) << strLanguage;
+    }
+}
+
+void tst_ClientTexts::QtsOwnTextsAreTranslated()
+{
+    QFETCH(QString, strLanguage);
+    const QStringList listEnglish = QtTexts();
+    QVERIFY(listEnglish.contains("&Copy"));
+    ClientTexts::Translate(strLanguage);
+    const QStringList listTranslated = QtTexts();
+    QCOMPARE(listTranslated.size(), listEnglish.size());
+    for (int n = 0; n < listEnglish.size(); ++n)
+    {
+        QVERIFY2(listTranslated[n] != listEnglish[n], qPrintable(listEnglish[n]));
+    }
+}
+
+QTEST_MAIN(tst_ClientTexts)
+
+#include "tst_ClientTexts.moc"
