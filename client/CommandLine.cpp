@@ -96,7 +96,7 @@ void AddOptions(QCommandLineParser& parser)
     parser.addOption(
         Option("skin", CommandLine::tr("DustyBlue or White (default: as in Localcfg.ini, else DustyBlue)."), "SKIN"));
     parser.addOption(
-        Option("language", CommandLine::tr("en or zh_CN (default: as in Localcfg.ini, else en)."), "LANGUAGE"));
+        Option("language", CommandLine::tr("en, zh_CN, es or ar (default: as in Localcfg.ini, else en)."), "LANGUAGE"));
     parser.addOption(Option(g_szWithoutRight, CommandLine::tr("Right that the user lacks; may be repeated."), "N"));
     parser.addOption(Option("platform", CommandLine::tr("Platform server whose connection is watched (default: none)."),
                             "HOST:PORT"));
@@ -146,7 +146,8 @@ public:
     {
         return CheckForm() && TakeAction() && TakeSettings() && TakeMissingRights() && TakeSection() &&
                TakeChoice("skin", {"DustyBlue", "White"}, CommandLine::tr("DustyBlue or White"), m_result.strSkin) &&
-               TakeChoice("language", {"en", "zh_CN"}, CommandLine::tr("en or zh_CN"), m_result.strLanguage) &&
+               TakeChoice("language", {"en", "zh_CN", "es", "ar"}, CommandLine::tr("en, zh_CN, es or ar"),
+                          m_result.strLanguage) &&
                TakeServer() && TakeDataFolder();
     }
 

@@ -16,7 +16,7 @@ if(LOCALCONFIG_SANITIZE)
     add_link_options(-fsanitize=${LOCALCONFIG_SANITIZE})
 endif()
 
-set(LOCALCONFIG_LANGUAGES zh_CN) # beside English, which the sources are written in
+set(LOCALCONFIG_LANGUAGES zh_CN es ar) # beside English, which the sources are written in
 
 # localconfig_translations(<target> <stem>): builds <stem>_<language>.ts of the folder "translations"
 # into the client's resource folder.

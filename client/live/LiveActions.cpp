@@ -126,9 +126,9 @@ void LiveActions::ToggleRecording()
 
 void LiveActions::OnPicturesSaved(const QString& strFolder, int nCount)
 {
-    Notify(nCount == 1
-               ? tr("Picture saved in %1").arg(QDir::toNativeSeparators(strFolder))
-               : tr("%1 pictures saved in %2").arg(QString::number(nCount), QDir::toNativeSeparators(strFolder)));
+    // English has no file of translations, so no plural either.
+    const QString strText = nCount == 1 ? tr("Picture saved in %1") : tr("%n pictures saved in %1", nullptr, nCount);
+    Notify(strText.arg(QDir::toNativeSeparators(strFolder)));
 }
 
 void LiveActions::OnRecordingSaved(const QStringList& listFiles)

@@ -99,8 +99,8 @@
         <translation>DustyBlue 或 White（默认：以 Localcfg.ini 为准，否则为 DustyBlue）。</translation>
     </message>
     <message>
-        <source>en or zh_CN (default: as in Localcfg.ini, else en).</source>
-        <translation>en 或 zh_CN（默认：以 Localcfg.ini 为准，否则为 en）。</translation>
+        <source>en, zh_CN, es or ar (default: as in Localcfg.ini, else en).</source>
+        <translation>en、zh_CN、es 或 ar（默认：以 Localcfg.ini 为准，否则为 en）。</translation>
     </message>
     <message>
         <source>Right that the user lacks; may be repeated.</source>
@@ -151,8 +151,8 @@
         <translation>DustyBlue 或 White</translation>
     </message>
     <message>
-        <source>en or zh_CN</source>
-        <translation>en 或 zh_CN</translation>
+        <source>en, zh_CN, es or ar</source>
+        <translation>en、zh_CN、es 或 ar</translation>
     </message>
     <message>
         <source>HOST:PORT</source>
@@ -218,9 +218,11 @@
         <source>Picture saved in %1</source>
         <translation>图片已保存到 %1</translation>
     </message>
-    <message>
-        <source>%1 pictures saved in %2</source>
-        <translation>%1 张图片已保存到 %2</translation>
+    <message numerus="yes">
+        <source>%n pictures saved in %1</source>
+        <translation>
+            <numerusform>%n 张图片已保存到 %1</numerusform>
+        </translation>
     </message>
     <message>
         <source>Recording saved in %1</source>

@@ -11,7 +11,7 @@ namespace UICommonMdl
 namespace
 {
 
-constexpr const char* g_arrLanguages[] = {"en", "zh_CN"}; // by the code in Localcfg.ini
+constexpr const char* g_arrLanguages[] = {"en", "zh_CN", "es", "ar"}; // by the code in Localcfg.ini
 
 QString g_strLanguage;
 

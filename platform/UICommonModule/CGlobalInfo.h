@@ -11,8 +11,8 @@ namespace UICommonMdl
 class UICOMMONMODULE_EXPORT CGlobalInfo
 {
 public:
-    /// The client's language: "en" or "zh_CN". Until it is set, what Localcfg.ini in the working folder names under
-    /// [Language] type (0 "en", 1 "zh_CN"), read once; anything else counts as "en".
+    /// The client's language: "en", "zh_CN", "es" or "ar". Until it is set, what Localcfg.ini in the working folder
+    /// names under [Language] type (0 "en", 1 "zh_CN", 2 "es", 3 "ar"), read once; anything else counts as "en".
     static QString GetClientStrLanguage();
     static void SetClientStrLanguage(const QString& strLanguage); ///< for what is translated from now on
 

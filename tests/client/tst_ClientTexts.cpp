@@ -105,6 +105,8 @@ private slots:
     void TheNamedFontsHaveTheLettersOfEveryAlarm();
     void QtsOwnTextsAreTranslated_data();
     void QtsOwnTextsAreTranslated();
+    void PluralsAreThoseOfTheLanguage_data();
+    void PluralsAreThoseOfTheLanguage();
 };
 
 void tst_ClientTexts::cleanup()
@@ -173,6 +175,37 @@ void tst_ClientTexts::QtsOwnTextsAreTranslated()
     {
         QVERIFY2(listTranslated[n] != listEnglish[n], qPrintable(listEnglish[n]));
     }
+}
+
+void tst_ClientTexts::PluralsAreThoseOfTheLanguage_data()
+{
+    QTest::addColumn<QString>("strLanguage");
+    QTest::addColumn<int>("nCount");
+    QTest::addColumn<QString>("strWords");
+    const auto add = [](const char* pszLanguage, int nCount, const char* pszWords) {
+        QTest::addRow("%s, %d", pszLanguage, nCount) << pszLanguage << nCount << QString::fromUtf8(pszWords);
+    };
+    add("en", 2, "2 pictures");
+    add("zh_CN", 2, "2 张图片");
+    add("es", 1, "1 imagen ");
+    add("es", 2, "2 imágenes");
+    add("ar", 1, "صورة واحدة");
+    add("ar", 2, "صورتين");
+    add("ar", 3, "3 صور ");
+    add("ar", 10, "10 صور ");
+    add("ar", 11, "11 صورةً");
+    add("ar", 100, "100 صورة");
+}
+
+void tst_ClientTexts::PluralsAreThoseOfTheLanguage()
+{
+    QFETCH(QString, strLanguage);
+    QFETCH(int, nCount);
+    QFETCH(QString, strWords);
+    ClientTexts::Translate(strLanguage);
+    const QString strText =
+        QCoreApplication::translate("LocalConfigClient::LiveActions", "%n pictures saved in %1", nullptr, nCount);
+    QVERIFY2(strText.contains(strWords), qPrintable(strText));
 }
 
 QTEST_MAIN(tst_ClientTexts)

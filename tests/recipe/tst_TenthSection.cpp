@@ -121,6 +121,7 @@ private slots:
     void ALostConnectionLocksIt();
     void ItsPicturesAreInBothSkins_data();
     void ItsPicturesAreInBothSkins();
+    void ItsTextsAreTranslated_data();
     void ItsTextsAreTranslated();
     void TheClientKeepsIt();
 };
@@ -232,14 +233,26 @@ void tst_TenthSection::ItsPicturesAreInBothSkins()
     QVERIFY(!content.contains("currentColor"));
 }
 
+void tst_TenthSection::ItsTextsAreTranslated_data()
+{
+    QTest::addColumn<QString>("strTitle");
+    QTest::addColumn<QString>("strOption");
+    QTest::newRow("zh_CN") << QString::fromUtf8("网络") << QString::fromUtf8("通过代理服务器连接");
+    QTest::newRow("es") << QString::fromUtf8("Red") << QString::fromUtf8("Conectar a través del servidor proxy");
+    QTest::newRow("ar") << QString::fromUtf8("الشبكة") << QString::fromUtf8("الاتصال عبر الخادم الوكيل");
+}
+
 void tst_TenthSection::ItsTextsAreTranslated()
 {
+    QFETCH(QString, strTitle);
+    QFETCH(QString, strOption);
     QTranslator translator;
-    QVERIFY(translator.load("LocalConfig_zh_CN", RESOURCE_DIR "/translations"));
+    QVERIFY(
+        translator.load(QStringLiteral("LocalConfig_%1").arg(QTest::currentDataTag()), RESOURCE_DIR "/translations"));
     QCoreApplication::installTranslator(&translator);
     SDialog d;
-    QCOMPARE(d.pBox->title(), QString::fromUtf8("网络"));
-    QCOMPARE(d.pProxy->text(), QString::fromUtf8("通过代理服务器连接"));
+    QCOMPARE(d.pBox->title(), strTitle);
+    QCOMPARE(d.pProxy->text(), strOption);
 }
 
 void tst_TenthSection::TheClientKeepsIt()

@@ -1,26 +1,54 @@
 // Every text of every library has its translation, and the dialog shows them.
 
-#include <QDirIterator>
-#include <QFile>
+#include "support/SourceTexts.h"
+
+#include <QProcess>
+#include <QRegularExpression>
 #include <QTranslator>
-#include <QXmlStreamReader>
 #include <QtTest>
+
+using SourceTexts::SMessage;
 
 namespace
 {
 
-QStringList SourceFiles()
+struct SLanguage
 {
-    QStringList listFiles;
-    for (const char* pszFolder : {"LocalConfig", "platform/KvGui", "platform/UICommonModule", "client"})
+    const char* pszName;
+    int nPluralForms;
+};
+
+constexpr SLanguage g_arrLanguages[] = {{"zh_CN", 1}, {"es", 2}, {"ar", 6}};
+
+/// Sorted; those of numbers only where \a bCount.
+QStringList Placeholders(const QString& strText, bool bCount)
+{
+    static const QRegularExpression place(QStringLiteral("%L?(\\d\\d?|n)"));
+    QStringList listPlaces;
+    QRegularExpressionMatchIterator it = place.globalMatch(strText);
+    while (it.hasNext())
     {
-        QDirIterator it(QStringLiteral(SOURCE_DIR "/%1/translations").arg(pszFolder), {"*.ts"}, QDir::Files);
-        while (it.hasNext())
+        const QString strPlace = it.next().captured();
+        if (bCount || !strPlace.endsWith(QLatin1Char('n')))
         {
-            listFiles += it.next();
+            listPlaces += strPlace;
         }
     }
-    return listFiles;
+    listPlaces.sort();
+    return listPlaces;
+}
+
+/// The letters after "&".
+QString Mnemonics(const QString& strText)
+{
+    static const QRegularExpression mark(QStringLiteral("(?:&&)*&([^&\\s])"));
+    QString strLetters;
+    QRegularExpressionMatchIterator it = mark.globalMatch(strText);
+    while (it.hasNext())
+    {
+        strLetters += it.next().captured(1).toLower();
+    }
+    return strLetters;
 }
 
 } // namespace
@@ -30,12 +58,16 @@ class tst_Translations : public QObject
     Q_OBJECT
 
 private slots:
+    void EveryLibraryIsInEveryLanguage();
     void FilesAreComplete_data() { Files(); }
     void FilesAreComplete();
     void PlaceholdersSurvive_data() { Files(); }
     void PlaceholdersSurvive();
-    void FilesNameEveryTextOfTheSources_data();
+    void MnemonicsSurviveAndDiffer_data() { Files(); }
+    void MnemonicsSurviveAndDiffer();
+    void FilesNameEveryTextOfTheSources_data() { Files(); }
     void FilesNameEveryTextOfTheSources();
+    void AlarmsHaveANameInEveryLanguage();
     void CompiledFilesAreInstalled_data() { Files(); }
     void CompiledFilesAreInstalled();
 
@@ -43,118 +75,123 @@ private:
     static void Files()
     {
         QTest::addColumn<QString>("strFile");
-        for (const QString& strFile : SourceFiles())
+        for (const QString& strFile : SourceTexts::Files())
         {
             QTest::newRow(qPrintable(QFileInfo(strFile).fileName())) << strFile;
         }
     }
-
-    struct SMessage
-    {
-        QString strContext;
-        QString strSource;
-        QString strTranslation;
-        bool bFinished = false;
-    };
-
-    static QList<SMessage> Messages(const QString& strFile)
-    {
-        QList<SMessage> listMessages;
-        QFile file(strFile);
-        if (!file.open(QIODevice::ReadOnly))
-        {
-            return listMessages;
-        }
-        QXmlStreamReader xml(&file);
-        SMessage message;
-        while (!xml.atEnd())
-        {
-            xml.readNext();
-            if (!xml.isStartElement())
-            {
-                continue;
-            }
-            if (xml.name() == QLatin1String("name"))
-            {
-                message.strContext = xml.readElementText();
-            }
-            else if (xml.name() == QLatin1String("source"))
-            {
-                message.strSource = xml.readElementText();
-            }
-            else if (xml.name() == QLatin1String("translation"))
-            {
-                message.bFinished = !xml.attributes().hasAttribute("type");
-                message.strTranslation = xml.readElementText();
-                listMessages += message;
-            }
-        }
-        return listMessages;
-    }
 };
+
+void tst_Translations::EveryLibraryIsInEveryLanguage()
+{
+    QStringList listLanguages;
+    for (const SLanguage& language : g_arrLanguages)
+    {
+        listLanguages += language.pszName;
+    }
+    listLanguages.sort();
+    for (const QString& strFolder : SourceTexts::Folders())
+    {
+        QStringList listFound;
+        for (const QString& strFile : SourceTexts::Files())
+        {
+            if (QFileInfo(strFile).path() == QStringLiteral(SOURCE_DIR "/%1/translations").arg(strFolder))
+            {
+                listFound += SourceTexts::Language(strFile);
+            }
+        }
+        listFound.sort();
+        QCOMPARE(listFound, listLanguages);
+    }
+}
 
 void tst_Translations::FilesAreComplete()
 {
     QFETCH(QString, strFile);
-    const QList<SMessage> listMessages = Messages(strFile);
+    const QString strLanguage = SourceTexts::Language(strFile);
+    const auto pLanguage =
+        std::find_if(std::begin(g_arrLanguages), std::end(g_arrLanguages),
+                     [&strLanguage](const SLanguage& language) { return strLanguage == language.pszName; });
+    QVERIFY(pLanguage != std::end(g_arrLanguages));
+    const QList<SMessage> listMessages = SourceTexts::Read(strFile);
     QVERIFY(!listMessages.isEmpty());
     for (const SMessage& message : listMessages)
     {
-        QVERIFY2(message.bFinished && !message.strTranslation.isEmpty(), qPrintable(message.strSource));
+        QVERIFY2(message.bFinished && !message.listTranslations.contains(QString()), qPrintable(message.strSource));
+        QCOMPARE(message.listTranslations.size(), message.bNumerus ? pLanguage->nPluralForms : 1);
     }
 }
 
 void tst_Translations::PlaceholdersSurvive()
 {
     QFETCH(QString, strFile);
-    for (const SMessage& message : Messages(strFile))
+    for (const SMessage& message : SourceTexts::Read(strFile))
     {
-        for (const char* pszPlace : {"%1", "%2", "%3"})
+        for (const QString& strText : message.listTranslations)
         {
-            QVERIFY2(message.strSource.contains(pszPlace) == message.strTranslation.contains(pszPlace),
-                     qPrintable(message.strSource));
+            QCOMPARE(Placeholders(strText, false), Placeholders(message.strSource, false)); // "one" may be a word
         }
+        QCOMPARE(Placeholders(message.listTranslations.last(), true), Placeholders(message.strSource, true));
     }
 }
 
-void tst_Translations::FilesNameEveryTextOfTheSources_data()
+void tst_Translations::MnemonicsSurviveAndDiffer()
 {
-    QTest::addColumn<QString>("strFolder");
-    QTest::addColumn<QString>("strFile");
-    QTest::newRow("LocalConfig") << "LocalConfig"
-                                 << "LocalConfig/translations/LocalConfig_zh_CN.ts";
-    QTest::newRow("KvGui") << "platform/KvGui"
-                           << "platform/KvGui/translations/KvGui_zh_CN.ts";
-    QTest::newRow("UICommonModule") << "platform/UICommonModule"
-                                    << "platform/UICommonModule/translations/UICommonModule_zh_CN.ts";
-    QTest::newRow("client") << "client"
-                            << "client/translations/local-config-client_zh_CN.ts";
+    QFETCH(QString, strFile);
+    QHash<QString, QString> hashTaken; // letters by context
+    for (const SMessage& message : SourceTexts::Read(strFile))
+    {
+        for (const QString& strText : message.listTranslations)
+        {
+            QCOMPARE(Mnemonics(strText).size(), Mnemonics(message.strSource).size());
+            for (const QChar ch : Mnemonics(strText))
+            {
+                QVERIFY2(!hashTaken[message.strContext].contains(ch), qPrintable(strText));
+            }
+        }
+        hashTaken[message.strContext] += Mnemonics(message.listTranslations.last());
+    }
 }
 
 void tst_Translations::FilesNameEveryTextOfTheSources()
 {
-    QFETCH(QString, strFolder);
     QFETCH(QString, strFile);
     // A fresh extraction into an empty file finds nothing that the file in the tree lacks, and the other way round. A
     // text in another context would not be found when the program runs.
     const QString strFresh = QDir::current().filePath("fresh.ts");
     QFile::remove(strFresh);
     QProcess process;
-    process.start(QStringLiteral(LUPDATE),
-                  {"-silent", "-no-obsolete", "-locations", "none", "-recursive",
-                   QStringLiteral(SOURCE_DIR "/%1").arg(strFolder), "-target-language", "zh_CN", "-ts", strFresh});
+    process.start(QStringLiteral(LUPDATE), {"-silent", "-no-obsolete", "-locations", "none", "-recursive",
+                                            QDir::cleanPath(QFileInfo(strFile).path() + "/.."), "-target-language",
+                                            SourceTexts::Language(strFile), "-ts", strFresh});
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitCode(), 0);
     const auto texts = [](const QString& strPath) {
         QStringList listTexts;
-        for (const SMessage& message : Messages(strPath))
+        for (const SMessage& message : SourceTexts::Read(strPath))
         {
-            listTexts += message.strContext + QLatin1String(": ") + message.strSource;
+            listTexts += QStringLiteral("%1: %2%3")
+                             .arg(message.strContext, message.strSource, message.bNumerus ? " (counted)" : "");
         }
         listTexts.sort();
         return listTexts;
     };
-    QCOMPARE(texts(QStringLiteral(SOURCE_DIR "/%1").arg(strFile)), texts(strFresh));
+    QCOMPARE(texts(strFile), texts(strFresh));
+}
+
+void tst_Translations::AlarmsHaveANameInEveryLanguage()
+{
+    const QList<SourceTexts::Names> listNames = SourceTexts::ReadAlarmNames();
+    QVERIFY(listNames.size() > 150);
+    for (const SourceTexts::Names& names : listNames)
+    {
+        for (const SLanguage& language : g_arrLanguages)
+        {
+            const QString strAttribute = QStringLiteral("name-%1").arg(language.pszName);
+            QVERIFY2(!names.value(strAttribute).isEmpty(), qPrintable(names.value("name") + ": " + strAttribute));
+        }
+        QCOMPARE(names.size(), 1 + int(std::size(g_arrLanguages)));
+    }
 }
 
 void tst_Translations::CompiledFilesAreInstalled()

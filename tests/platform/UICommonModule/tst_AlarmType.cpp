@@ -168,7 +168,7 @@ void tst_AlarmType::EveryTypeHasASound()
     {
         const QString strSound = Catalogue().GetDefaultSoundByAlarmId(Catalogue().GetAlarmTypeIdByIndex(nIndex));
         QVERIFY(strSound.endsWith(".wav"));
-        for (const char* pszLanguage : {"en", "zh_CN"})
+        for (const char* pszLanguage : {"en", "zh_CN", "es", "ar"})
         {
             const QString strPath =
                 QString("%1/Sound/sound_%2/%3").arg(CGlobalInfo::GetResourcePath(), pszLanguage, strSound);

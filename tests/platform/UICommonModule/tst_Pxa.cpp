@@ -109,7 +109,9 @@ void tst_Pxa::LanguageComesFromTheIniFileOnce_data()
     QTest::newRow("none") << QByteArray() << "en";
     QTest::newRow("0") << QByteArray("[Language]\ntype=0\n") << "en";
     QTest::newRow("1") << QByteArray("[Language]\ntype=1\n") << "zh_CN";
-    QTest::newRow("2") << QByteArray("[Language]\ntype=2\n") << "en";
+    QTest::newRow("2") << QByteArray("[Language]\ntype=2\n") << "es";
+    QTest::newRow("3") << QByteArray("[Language]\ntype=3\n") << "ar";
+    QTest::newRow("4") << QByteArray("[Language]\ntype=4\n") << "en";
     QTest::newRow("-1") << QByteArray("[Language]\ntype=-1\n") << "en";
     QTest::newRow("word") << QByteArray("[Language]\ntype=zh\n") << "en";
 }
