@@ -104,6 +104,16 @@ QIcon SectionIcon(const SSection& section)
     return QIcon(pEngine);
 }
 
+/// A card is as high as its form says, unless the letters of a language or of the operator's choice need more.
+void GrowToPage(CGroupBox* pBox)
+{
+    const int nNeeded = pBox->minimumSizeHint().height();
+    if (nNeeded > pBox->minimumHeight())
+    {
+        pBox->setMinimumHeight(nNeeded);
+    }
+}
+
 void Notify(const QString& strText)
 {
     KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(strText);
@@ -385,7 +395,9 @@ IConfigPage* CLocalConfig::NewPage(int nIndex)
 
 void CLocalConfig::HandSectionTo(int nIndex)
 {
-    m_vecPages[nIndex]->SetSection(m_pLocalConfig->GetSection(g_arrSections[nIndex].eType));
+    const SSection& section = g_arrSections[nIndex];
+    m_vecPages[nIndex]->SetSection(m_pLocalConfig->GetSection(section.eType));
+    GrowToPage((*m_pUi).*section.pBox);
 }
 
 template <class Action>

@@ -390,7 +390,9 @@ void Client::SettleSkinAndLanguage() const
 
 void Client::ApplyLook(QApplication& application)
 {
-    application.setFont(ClientTexts::MakeFont(application.font()));
+    // A picture that needs no display needs no system that would have a font, either.
+    const bool bHasSystem = QGuiApplication::platformName() != QLatin1String("offscreen");
+    application.setFont(ClientTexts::MakeFont(bHasSystem ? application.font() : QFont(QString(), 1)));
     const QString strPath = Pxa::GetSkinPath(QStringLiteral("public"), QStringLiteral("KvGui.qss"));
     QString strSheet;
     if (Pxa::loadStyleSheet(strPath, strSheet))

@@ -3,6 +3,7 @@
 #include <UICommonModule/CGlobalInfo.h>
 
 #include <QCoreApplication>
+#include <QFontInfo>
 #include <QLibraryInfo>
 #include <QStringList>
 #include <QTranslator>
@@ -17,7 +18,8 @@ namespace LocalConfigClient
 namespace
 {
 
-constexpr int g_nTextSize = 13; // pixels
+constexpr int g_nTextSize = 13;    // pixels; what the skins are made for
+constexpr int g_nMaxTextSize = 19; // half as large again
 
 // The first that is there has a letter; those that only Windows has stand before what stands in for them elsewhere.
 constexpr const char* g_arrFamilies[] = {
@@ -63,8 +65,8 @@ QFont ClientTexts::MakeFont(const QFont& system)
         listFamilies += QString::fromLatin1(pszFamily);
     }
     QFont font = system;
+    font.setPixelSize(qBound(g_nTextSize, QFontInfo(system).pixelSize(), g_nMaxTextSize));
     font.setFamilies(listFamilies);
-    font.setPixelSize(g_nTextSize);
     return font;
 }
 

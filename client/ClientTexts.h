@@ -14,7 +14,8 @@ public:
     /// no translation stays English.
     static void Translate(const QString& strLanguage);
 
-    /// A font with the letters of all languages of the client.
+    /// A font with the letters of all languages of the client, as large as the operator wants it: from the size that the
+    /// skins are made for to half as much again.
     /// \param system  what the operator's system would take
     static QFont MakeFont(const QFont& system);
 };

@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRawFont>
+#include <QScreen>
 #include <QTextLayout>
 #include <QTranslator>
 #include <QtTest>
@@ -107,6 +108,8 @@ private slots:
     void QtsOwnTextsAreTranslated();
     void PluralsAreThoseOfTheLanguage_data();
     void PluralsAreThoseOfTheLanguage();
+    void TheTextIsAsLargeAsTheSystems_data();
+    void TheTextIsAsLargeAsTheSystems();
 };
 
 void tst_ClientTexts::cleanup()
@@ -206,6 +209,28 @@ void tst_ClientTexts::PluralsAreThoseOfTheLanguage()
     const QString strText =
         QCoreApplication::translate("LocalConfigClient::LiveActions", "%n pictures saved in %1", nullptr, nCount);
     QVERIFY2(strText.contains(strWords), qPrintable(strText));
+}
+
+void tst_ClientTexts::TheTextIsAsLargeAsTheSystems_data()
+{
+    QTest::addColumn<int>("nSystem");
+    QTest::addColumn<int>("nChosen");
+    QTest::newRow("smaller") << 9 << 13;
+    QTest::newRow("the skin's") << 13 << 13;
+    QTest::newRow("larger") << 16 << 16;
+    QTest::newRow("half as large again") << 19 << 19;
+    QTest::newRow("too large for the dialog") << 26 << 19;
+}
+
+void tst_ClientTexts::TheTextIsAsLargeAsTheSystems()
+{
+    QFETCH(int, nSystem);
+    QFETCH(int, nChosen);
+    QFont system;
+    system.setPixelSize(nSystem);
+    QCOMPARE(ClientTexts::MakeFont(system).pixelSize(), nChosen);
+    system.setPointSizeF((nSystem + 0.75) * 72 / QGuiApplication::primaryScreen()->logicalDotsPerInch());
+    QCOMPARE(ClientTexts::MakeFont(system).pixelSize(), nChosen);
 }
 
 QTEST_MAIN(tst_ClientTexts)
