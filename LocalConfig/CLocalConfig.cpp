@@ -4,6 +4,7 @@
 #include "CKeyboardTravel.h"
 #include "CScopedDisconnect.h"
 #include "CSkinIconEngine.h"
+#include "Direction.h"
 #include "SectionIndex.h"
 #include "SkinStyle.h"
 #include "pages/ConfigPages.h"
@@ -129,6 +130,7 @@ CLocalConfig::CLocalConfig(QWidget* pParent)
     setObjectName(QStringLiteral("CLocalConfig"));
     ApplySkinStyle(this); // before there are children that would be styled anew
     m_pUi->setupUi(GetCentralWidget());
+    MirrorMargins(GetCentralWidget());
     // The content's height counts the hidden box, too; what the shown ones leave of it stays empty below them. Qt keeps
     // to this only because no box stretches.
     m_pUi->verticalLayout->setAlignment(Qt::AlignTop);
@@ -383,6 +385,7 @@ IConfigPage* CLocalConfig::NewPage(int nIndex)
     m_vecPages[nIndex] = pPage;
 
     QWidget* pWidget = pPage->GetWidget();
+    MirrorMargins(pWidget);
     pWidget->setObjectName(QString::fromLatin1(section.pszPage));
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(pWidget->sizePolicy().hasHeightForWidth());

@@ -2,9 +2,10 @@
 
 #include <UICommonModule/CGlobalInfo.h>
 
-#include <QCoreApplication>
 #include <QFontInfo>
+#include <QGuiApplication>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QStringList>
 #include <QTranslator>
 
@@ -54,6 +55,10 @@ void ClientTexts::Translate(const QString& strLanguage)
     for (const char* pszStem : {"KvGui", "UICommonModule", "LocalConfig", "local-config-client"})
     {
         Install(name(pszStem), strFolder);
+    }
+    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+    {
+        QGuiApplication::setLayoutDirection(QLocale(strLanguage).textDirection());
     }
 }
 

@@ -4,6 +4,7 @@
 #include "AutoStartEntry.h"
 #include "PageHelpers.h"
 
+#include <LocalConfig/Direction.h>
 #include <UICommonModule/CLocalIniFile.h>
 #include <UICommonModule/Pxa.h>
 
@@ -76,7 +77,7 @@ void CBasicConfig::InitControls()
 
     for (const char* pszClientSize : g_arrClientSizes)
     {
-        m_pUi->screenRatioCmbBox->addItem(QString::fromLatin1(pszClientSize));
+        m_pUi->screenRatioCmbBox->addItem(KeepOrder(QString::fromLatin1(pszClientSize)));
     }
     m_pUi->AutohidetaskbarChkBox->hide();
     Pxa::QCommon::AddToolTipByControlWidth(m_pUi->timeChkBox);

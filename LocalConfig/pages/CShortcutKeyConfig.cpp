@@ -4,6 +4,7 @@
 #include "PageHelpers.h"
 
 #include <KvGui/KvTableView.h>
+#include <LocalConfig/Direction.h>
 #include <LocalConfig/SkinStyle.h>
 
 #include <QHeaderView>
@@ -64,7 +65,9 @@ void CShortcutKeyConfig::InitTable(KVGUI::KvTableView* pView, const QStringList&
     }
     for (int n = 0; n < listTexts.size(); ++n)
     {
-        pModel->setItem(n / g_nColumns, n % g_nColumns, new QStandardItem(listTexts[n]));
+        const bool bKey = n % 2 != 0;
+        pModel->setItem(n / g_nColumns, n % g_nColumns,
+                        new QStandardItem(bKey ? KeepOrder(listTexts[n]) : listTexts[n]));
     }
     pView->setModel(pModel);
     pView->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -311,8 +311,10 @@ void CVideoConfig::OnCurrentIndexChangedPlayModeType(int nIndex)
 void CVideoConfig::OnShowSplitWndCfg()
 {
     m_pSplitPicker->setVisible(!m_pSplitPicker->isVisible());
-    const QRect button(m_pUi->btnShowSplitWnd->mapTo(this, QPoint(0, 0)), m_pUi->btnShowSplitWnd->size());
-    m_pSplitPicker->move(button.x() - button.width(), button.y() + button.height() + g_nPickerDistance);
+    const auto mirror = [this](const QRect& place) { return QStyle::visualRect(layoutDirection(), rect(), place); };
+    const QRect button = mirror({m_pUi->btnShowSplitWnd->mapTo(this, QPoint(0, 0)), m_pUi->btnShowSplitWnd->size()});
+    const QPoint place(button.x() - button.width(), button.y() + button.height() + g_nPickerDistance);
+    m_pSplitPicker->move(mirror({place, m_pSplitPicker->size()}).topLeft());
     m_pSplitPicker->raise();
     if (m_pSplitPicker->isVisible())
     {

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 
 namespace LocalConfigClient
 {
@@ -118,6 +119,7 @@ void MapView::paintEvent(QPaintEvent* /*pEvent*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    const int nAlignment = int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter);
     int nPlace = 0;
     for (auto it = m_mapCategories.cbegin(); it != m_mapCategories.cend(); ++it, ++nPlace)
     {
@@ -129,11 +131,12 @@ void MapView::paintEvent(QPaintEvent* /*pEvent*/)
         painter.setPen(Qt::NoPen);
         painter.setBrush(bLit ? m_flashColor : m_markerColor);
         const int nRadius = bLit ? 2 * g_nMarkerRadius : g_nMarkerRadius;
-        const QPoint marker(room.left() + 4 * g_nMarkerRadius, room.center().y());
-        painter.drawEllipse(marker, nRadius, nRadius);
+        QRect marker(0, 0, 2 * nRadius, 2 * nRadius);
+        marker.moveCenter({room.left() + 4 * g_nMarkerRadius, room.center().y()});
+        painter.drawEllipse(QStyle::visualRect(layoutDirection(), room, marker));
         painter.setPen(m_textColor);
-        const QRect text = room.adjusted(8 * g_nMarkerRadius, 0, -4, 0);
-        painter.drawText(text, Qt::AlignVCenter, fontMetrics().elidedText(it.value(), Qt::ElideRight, text.width()));
+        const QRect text = QStyle::visualRect(layoutDirection(), room, room.adjusted(8 * g_nMarkerRadius, 0, -4, 0));
+        painter.drawText(text, nAlignment, fontMetrics().elidedText(it.value(), Qt::ElideRight, text.width()));
         if (hasFocus() && nPlace == m_nPlace)
         {
             painter.setPen(QPen(m_focusColor, g_nFocusWidth));

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -216,10 +217,12 @@ void SplitView::PaintRecorded(QPainter& painter, const QRect& pane) const
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_recordedColor);
-    painter.drawEllipse(mark);
+    const auto place = [&](const QRect& rect) { return QStyle::visualRect(layoutDirection(), pane, rect); };
+    painter.drawEllipse(place(mark));
     painter.setPen(m_textColor);
-    painter.drawText(QRect(mark.right() + g_nMarkSize / 2, mark.top() - g_nMarkSize / 2, pane.width(), 2 * g_nMarkSize),
-                     Qt::AlignVCenter, tr("REC"));
+    const QRect text(mark.right() + g_nMarkSize / 2, mark.top() - g_nMarkSize / 2, pane.width(), 2 * g_nMarkSize);
+    painter.drawText(place(text), int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignVCenter),
+                     tr("REC"));
     painter.restore();
 }
 

@@ -17,6 +17,16 @@ namespace
 
 constexpr int g_nTitleBarHeight = 36;
 constexpr int g_nBorder = 1;
+constexpr int g_nTitleMargin = 16;
+constexpr int g_nCloseMargin = 4;
+
+/// Qt mirrors the parts of a layout, but not its margins.
+void SettleMargins(QWidget* pTitleBar)
+{
+    const bool bMirrored = pTitleBar->layoutDirection() == Qt::RightToLeft;
+    pTitleBar->layout()->setContentsMargins(bMirrored ? g_nCloseMargin : g_nTitleMargin, 0,
+                                            bMirrored ? g_nTitleMargin : g_nCloseMargin, 0);
+}
 
 } // namespace
 
@@ -45,10 +55,10 @@ KvDialog::KvDialog(QWidget* pParent)
     m_pCloseButton->setFixedSize(28, 28);
 
     auto* pBarLayout = new QHBoxLayout(m_pTitleBar);
-    pBarLayout->setContentsMargins(16, 0, 4, 0);
     pBarLayout->setSpacing(8);
     pBarLayout->addWidget(m_pTitleLabel, 1);
     pBarLayout->addWidget(m_pCloseButton);
+    SettleMargins(m_pTitleBar);
 
     auto* pLayout = new QVBoxLayout(this);
     pLayout->setContentsMargins(g_nBorder, g_nBorder, g_nBorder, g_nBorder);
@@ -169,6 +179,9 @@ bool KvDialog::eventFilter(QObject* pWatched, QEvent* pEvent)
         case QEvent::MouseButtonRelease:
             m_bDragging = false;
             return true;
+        case QEvent::LayoutDirectionChange:
+            SettleMargins(m_pTitleBar);
+            break;
         default:
             break;
         }

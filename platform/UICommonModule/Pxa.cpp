@@ -11,9 +11,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QStyleOption>
 #include <QVariant>
@@ -35,6 +37,7 @@ constexpr char g_szGivenToolTip[] = "toolTipByWidth";
 
 struct SSheet
 {
+    Qt::LayoutDirection eDirection = Qt::LeftToRight;
     qint64 nSize = -1;
     QDateTime changed;
     QString strText;
@@ -45,6 +48,30 @@ QString g_strSkin;
 QString SkinRoot()
 {
     return QStringLiteral("%1/skin/%2").arg(CGlobalInfo::GetResourcePath(), GetSkin());
+}
+
+/// Exchanges left and right in a sheet, but for the places of subcontrols and texts, which Qt mirrors itself.
+QString Mirrored(QString strSheet)
+{
+    static const QRegularExpression side(QStringLiteral("\\b(border|margin|padding)-(left|right)\\b"));
+    static const QRegularExpression sides(
+        QStringLiteral("\\b((?:margin|padding|border-width) *: *[^ ;]+ +)([^ ;]+)( +[^ ;]+ +)([^ ;]+)(?= *;)"));
+    static const QRegularExpression gradient(
+        QStringLiteral("(qlineargradient\\(\\s*x1\\s*:\\s*)([\\d.]+)(.*?x2\\s*:\\s*)([\\d.]+)"),
+        QRegularExpression::DotMatchesEverythingOption);
+    strSheet.replace(sides, QStringLiteral("\\1\\4\\3\\2")).replace(gradient, QStringLiteral("\\1\\4\\3\\2"));
+    QRegularExpressionMatchIterator it = side.globalMatch(strSheet);
+    QString strMirrored;
+    int nCopied = 0;
+    while (it.hasNext())
+    {
+        const QRegularExpressionMatch match = it.next();
+        const bool bLeft = match.capturedRef(2) == QLatin1String("left");
+        strMirrored += strSheet.midRef(nCopied, match.capturedStart(2) - nCopied);
+        strMirrored += bLeft ? QLatin1String("right") : QLatin1String("left");
+        nCopied = match.capturedEnd(2);
+    }
+    return strMirrored + strSheet.midRef(nCopied);
 }
 
 QString WithoutMnemonics(QString strText)
@@ -149,7 +176,9 @@ bool loadStyleSheet(const QString& strPath, QString& strOut)
     static QHash<QString, SSheet> hashSheets;
     const QFileInfo info(strPath);
     SSheet& sheet = hashSheets[info.absoluteFilePath()];
-    if (!info.isFile() || info.size() != sheet.nSize || info.lastModified() != sheet.changed)
+    const Qt::LayoutDirection eDirection = QGuiApplication::layoutDirection();
+    if (!info.isFile() || info.size() != sheet.nSize || info.lastModified() != sheet.changed ||
+        eDirection != sheet.eDirection)
     {
         QByteArray content;
         if (CAtomicFile::Read(strPath, content) != CErrorCode::Success)
@@ -159,7 +188,12 @@ bool loadStyleSheet(const QString& strPath, QString& strOut)
         }
         sheet.nSize = info.size();
         sheet.changed = info.lastModified();
+        sheet.eDirection = eDirection;
         sheet.strText = QString::fromUtf8(content);
+        if (eDirection == Qt::RightToLeft)
+        {
+            sheet.strText = Mirrored(sheet.strText);
+        }
     }
     strOut = sheet.strText;
     return true;

@@ -1,6 +1,7 @@
 #include <client/alarm/MapView.h>
 
 #include <QSignalSpy>
+#include <QStyle>
 #include <QtTest>
 
 using LocalConfigClient::MapView;
@@ -18,6 +19,8 @@ private slots:
     void SpacePicksTheMarker();
     void AClickPicksTheMarker();
     void TheFocusIsSeenAtItsMarker();
+    void MarkersStandBeforeTheirTexts_data();
+    void MarkersStandBeforeTheirTexts();
 
 private:
     QScopedPointer<MapView> m_pMap;
@@ -88,6 +91,41 @@ void tst_MapView::TheFocusIsSeenAtItsMarker()
     m_pMap->clearFocus();
     const QImage none = m_pMap->grab().toImage();
     QVERIFY(first != second && second != none && first != none);
+}
+
+void tst_MapView::MarkersStandBeforeTheirTexts_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("eDirection");
+    QTest::newRow("from the left") << Qt::LeftToRight;
+    QTest::newRow("from the right") << Qt::RightToLeft;
+}
+
+void tst_MapView::MarkersStandBeforeTheirTexts()
+{
+    QFETCH(Qt::LayoutDirection, eDirection);
+    m_pMap->clearFocus();
+    m_pMap->setLayoutDirection(eDirection);
+    m_pMap->setProperty("markerColor", QColor(Qt::red));
+    m_pMap->setProperty("textColor", QColor(Qt::blue));
+    m_pMap->setProperty("groundColor", QColor(Qt::black));
+    m_pMap->setProperty("wallColor", QColor(Qt::black));
+    const QImage picture = m_pMap->grab().toImage();
+    QRect marker;
+    QRect text;
+    for (int nPixel = 0; nPixel < picture.width() * picture.height(); ++nPixel)
+    {
+        const QPoint place(nPixel % picture.width(), nPixel / picture.width());
+        const QColor color = picture.pixelColor(place);
+        marker |= color.red() > 128 && color.green() < 50 ? QRect(place, QSize(1, 1)) : QRect();
+        text |= color.blue() > 128 && color.green() < 50 ? QRect(place, QSize(1, 1)) : QRect();
+    }
+    if (eDirection == Qt::RightToLeft)
+    {
+        marker = QStyle::visualRect(eDirection, picture.rect(), marker);
+        text = QStyle::visualRect(eDirection, picture.rect(), text);
+    }
+    QVERIFY(marker.left() > 15 && marker.right() < 35);
+    QVERIFY(text.left() > marker.right() && text.left() < 60);
 }
 
 QTEST_MAIN(tst_MapView)

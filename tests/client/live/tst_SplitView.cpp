@@ -1,5 +1,6 @@
 #include <client/live/SplitView.h>
 
+#include <QStyle>
 #include <QtTest>
 
 using namespace LocalConfigClient;
@@ -17,6 +18,8 @@ private slots:
     void ArrowsSelectTheNeighbour();
     void TheFocusIsSeen();
     void TheRecordedPaneIsMarked();
+    void TheMarkStandsAtTheLeadingEdge_data();
+    void TheMarkStandsAtTheLeadingEdge();
     void TheSelectedPaneIsTold();
 };
 
@@ -138,6 +141,44 @@ void tst_SplitView::TheRecordedPaneIsMarked()
     }
     view.SetRecorded(-1);
     QCOMPARE(view.grab().toImage(), before);
+}
+
+void tst_SplitView::TheMarkStandsAtTheLeadingEdge_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("eDirection");
+    QTest::newRow("from the left") << Qt::LeftToRight;
+    QTest::newRow("from the right") << Qt::RightToLeft;
+}
+
+void tst_SplitView::TheMarkStandsAtTheLeadingEdge()
+{
+    QFETCH(Qt::LayoutDirection, eDirection);
+    SplitView view(nullptr);
+    view.resize(400, 300);
+    view.SetSplit(1);
+    view.setLayoutDirection(eDirection);
+    view.setProperty("paneColor", QColor(Qt::black));
+    view.setProperty("recordedColor", QColor(255, 0, 0));
+    view.setProperty("textColor", QColor(0, 255, 0));
+    view.SetRecorded(0);
+    // The mark, its text and nothing else above the pane's number.
+    const QImage picture = view.grab(QRect(0, 0, 400, 60)).toImage();
+    QRect mark;
+    QRect text;
+    for (int nPixel = 0; nPixel < picture.width() * picture.height(); ++nPixel)
+    {
+        const QPoint place(nPixel % picture.width(), nPixel / picture.width());
+        const QColor color = picture.pixelColor(place);
+        mark |= color.red() > 200 && color.green() < 50 ? QRect(place, QSize(1, 1)) : QRect();
+        text |= color.green() > 200 && color.red() < 50 ? QRect(place, QSize(1, 1)) : QRect();
+    }
+    if (eDirection == Qt::RightToLeft)
+    {
+        mark = QStyle::visualRect(eDirection, picture.rect(), mark);
+        text = QStyle::visualRect(eDirection, picture.rect(), text);
+    }
+    QVERIFY(mark.left() > 5 && mark.right() < 30);
+    QVERIFY(text.left() > mark.right() && text.right() < 80);
 }
 
 void tst_SplitView::TheSelectedPaneIsTold()

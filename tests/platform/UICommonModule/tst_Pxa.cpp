@@ -35,6 +35,8 @@ private slots:
     void ResourceFolderWithoutTheEnvironment();
 
     void StyleSheetIsRead();
+    void StyleSheetIsMirrored_data();
+    void StyleSheetIsMirrored();
     void AMissingStyleSheetLeavesTheText();
     void AFolderIsNoStyleSheet();
     void AnUnchangedStyleSheetIsReadOnce();
@@ -199,6 +201,44 @@ void tst_Pxa::StyleSheetIsRead()
     QString strText;
     QVERIFY(Pxa::loadStyleSheet("a.qss", strText));
     QCOMPARE(strText, QString::fromUtf8("QLabel { color: red } /* 客 */"));
+}
+
+void tst_Pxa::StyleSheetIsMirrored_data()
+{
+    QTest::addColumn<QString>("strSheet");
+    QTest::addColumn<QString>("strMirrored");
+    const auto add = [](const char* pszSheet, const char* pszMirrored) {
+        QTest::newRow(pszSheet) << QStringLiteral("A {\n    %1;\n}\n").arg(pszSheet)
+                                << QStringLiteral("A {\n    %1;\n}\n").arg(pszMirrored);
+    };
+    const auto addUnchanged = [add](const char* pszSheet) { add(pszSheet, pszSheet); };
+    add("padding: 1px 2px 3px 4px", "padding: 1px 4px 3px 2px");
+    add("margin: 1px 2px 3px 4px", "margin: 1px 4px 3px 2px");
+    add("padding-left: 1px; padding-right: 2px", "padding-right: 1px; padding-left: 2px");
+    add("border-right: 1px solid red", "border-left: 1px solid red");
+    add("qlineargradient(x1: 0, y1: 0, x2: 1, y2: 0, stop: 0 red)",
+        "qlineargradient(x1: 1, y1: 0, x2: 0, y2: 0, stop: 0 red)");
+    addUnchanged("padding: 1px 2px");
+    addUnchanged("padding: 1px;\n    margin: 2px;\n    border: none");
+    addUnchanged("subcontrol-position: top left");
+    addUnchanged("left: 24px");
+    addUnchanged("image: url(skin:public/arrow-left.svg)");
+}
+
+void tst_Pxa::StyleSheetIsMirrored()
+{
+    QFETCH(QString, strSheet);
+    QFETCH(QString, strMirrored);
+    Put("mirrored.qss", strSheet.toUtf8());
+    QString strText;
+    QVERIFY(Pxa::loadStyleSheet("mirrored.qss", strText));
+    QCOMPARE(strText, strSheet);
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    QVERIFY(Pxa::loadStyleSheet("mirrored.qss", strText));
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(strText, strMirrored);
+    QVERIFY(Pxa::loadStyleSheet("mirrored.qss", strText));
+    QCOMPARE(strText, strSheet);
 }
 
 void tst_Pxa::AMissingStyleSheetLeavesTheText()
