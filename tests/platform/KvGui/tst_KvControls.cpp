@@ -96,6 +96,7 @@ private slots:
     void ComboBoxesBuildNoListBeforeTheyAreShown();
     void ComboBoxesFollowAStyleThatChangesLater();
     void SpinBoxesFollowTheWheelWithTheFocusOnly();
+    void SpinBoxesHaveTheDigitsOfTheirRecords();
     void LeavingASpinBoxWithoutAValue_data();
     void LeavingASpinBoxWithoutAValue();
     void ASpinBoxThatKeepsWhatIsTypedTakesDigitsOnly_data();
@@ -189,6 +190,17 @@ void tst_KvControls::SpinBoxesFollowTheWheelWithTheFocusOnly()
     QVERIFY(pSpinBox->hasFocus());
     TurnWheel(pSpinBox, QRectF(pSpinBox->rect()).center());
     QCOMPARE(pSpinBox->value(), 6);
+}
+
+void tst_KvControls::SpinBoxesHaveTheDigitsOfTheirRecords()
+{
+    QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
+    SSpinBox box(true);
+    QLocale::setDefault(QLocale::c());
+    QCOMPARE(box.pSpinBox->text(), QString("7"));
+    box.Type("1200");
+    QCOMPARE(box.pSpinBox->text(), QString("1200"));
+    QCOMPARE(box.pSpinBox->value(), 1200);
 }
 
 void tst_KvControls::LeavingASpinBoxWithoutAValue_data()
