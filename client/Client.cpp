@@ -1,6 +1,7 @@
 #include "Client.h"
 
 #include "Caller.h"
+#include "ClientStyle.h"
 #include "ClientTexts.h"
 #include "MainWindow.h"
 #include "SystemSignals.h"
@@ -390,6 +391,7 @@ void Client::SettleSkinAndLanguage() const
 
 void Client::ApplyLook(QApplication& application)
 {
+    QApplication::setStyle(new ClientStyle);
     // A picture that needs no display needs no system that would have a font, either.
     const bool bHasSystem = QGuiApplication::platformName() != QLatin1String("offscreen");
     application.setFont(ClientTexts::MakeFont(bHasSystem ? application.font() : QFont(QString(), 1)));

@@ -198,7 +198,7 @@
     </message>
     <message>
         <source>Shortcut Keys</source>
-        <translation>Teclas de acceso rápido</translation>
+        <translation>Atajos de teclado</translation>
     </message>
     <message>
         <source>Local Config</source>
@@ -601,7 +601,7 @@
     </message>
     <message>
         <source>Shortcut Keys</source>
-        <translation>Teclas de acceso rápido</translation>
+        <translation>Atajos de teclado</translation>
     </message>
     <message>
         <source>Move Up</source>

@@ -1,9 +1,11 @@
 #include "MapView.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QToolTip>
 
 namespace LocalConfigClient
 {
@@ -110,6 +112,32 @@ void MapView::StopFlash()
     update();
 }
 
+/// Where a category's name lies.
+QRect MapView::GetTextRect(int nPlace) const
+{
+    const QRect room = GetRoom(nPlace);
+    return QStyle::visualRect(layoutDirection(), room, room.adjusted(8 * g_nMarkerRadius, 0, -4, 0));
+}
+
+/// A tool tip tells a name that does not fit.
+bool MapView::event(QEvent* pEvent)
+{
+    if (pEvent->type() != QEvent::ToolTip)
+    {
+        return QWidget::event(pEvent);
+    }
+    const auto* pHelp = static_cast<QHelpEvent*>(pEvent);
+    QString strTip;
+    for (int nPlace = 0; nPlace < m_mapCategories.size(); ++nPlace)
+    {
+        const QString strName = m_mapCategories.values()[nPlace];
+        const bool bCut = fontMetrics().horizontalAdvance(strName) > GetTextRect(nPlace).width();
+        strTip = bCut && GetRoom(nPlace).contains(pHelp->pos()) ? strName : strTip;
+    }
+    QToolTip::showText(pHelp->globalPos(), strTip, this); // an empty one hides what is shown
+    return true;
+}
+
 QSize MapView::sizeHint() const
 {
     return {280, m_mapCategories.size() * g_nRoomHeight + 2 * g_nMargin};
@@ -135,7 +163,7 @@ void MapView::paintEvent(QPaintEvent* /*pEvent*/)
         marker.moveCenter({room.left() + 4 * g_nMarkerRadius, room.center().y()});
         painter.drawEllipse(QStyle::visualRect(layoutDirection(), room, marker));
         painter.setPen(m_textColor);
-        const QRect text = QStyle::visualRect(layoutDirection(), room, room.adjusted(8 * g_nMarkerRadius, 0, -4, 0));
+        const QRect text = GetTextRect(nPlace);
         painter.drawText(text, nAlignment, fontMetrics().elidedText(it.value(), Qt::ElideRight, text.width()));
         if (hasFocus() && nPlace == m_nPlace)
         {

@@ -38,12 +38,14 @@ signals:
     void SignalCategoryPicked(int nCategory);
 
 protected:
+    bool event(QEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
     void mousePressEvent(QMouseEvent* pEvent) override;
 
 private:
     QRect GetRoom(int nPlace) const;
+    QRect GetTextRect(int nPlace) const;
     void GoTo(int nPlace);
 
     QMap<int, QString> m_mapCategories;

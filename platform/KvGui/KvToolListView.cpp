@@ -1,10 +1,12 @@
 #include "KvToolListView.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 namespace KVGUI
 {
@@ -32,9 +34,23 @@ public:
         , m_pView(pView)
     {}
 
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const override
+    QSize sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& /*index*/) const override
     {
-        return {option.rect.width(), g_nRowHeight};
+        return {0, g_nRowHeight}; // as wide as the list
+    }
+
+    /// An entry that does not show all of its text tells it.
+    bool helpEvent(QHelpEvent* pEvent, QAbstractItemView* pView, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override
+    {
+        const QString strText = index.data(Qt::DisplayRole).toString();
+        const bool bTip = pEvent->type() == QEvent::ToolTip && index.data(Qt::ToolTipRole).isNull();
+        if (!bTip || option.fontMetrics.horizontalAdvance(strText) <= GetTextRect(pView->visualRect(index)).width())
+        {
+            return QStyledItemDelegate::helpEvent(pEvent, pView, option, index);
+        }
+        QToolTip::showText(pEvent->globalPos(), strText, pView);
+        return true;
     }
 
     void paint(QPainter* pPainter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
@@ -76,9 +92,7 @@ public:
         const QIcon::Mode eMode = bCurrent ? QIcon::Selected : bHover ? QIcon::Active : QIcon::Normal;
         index.data(Qt::DecorationRole).value<QIcon>().paint(pPainter, place(icon), Qt::AlignCenter, eMode);
 
-        QRect text = option.rect;
-        text.setLeft(icon.right() + 1 + g_nIconGap);
-        text.setRight(option.rect.right() - g_nMargin / 2);
+        QRect text = GetTextRect(option.rect);
         if (!index.data(Qt::ToolTipRole).isNull())
         {
             const QRect mark(option.rect.right() - g_nMargin - g_nErrorSize,
@@ -96,6 +110,12 @@ public:
     }
 
 private:
+    /// As it lies where texts are read from the left.
+    static QRect GetTextRect(const QRect& entry)
+    {
+        return entry.adjusted(g_nMargin + g_nIconSize + g_nIconGap, 0, -g_nMargin / 2, 0);
+    }
+
     void PaintError(QPainter& painter, const QRect& mark, const QPalette& palette) const
     {
         const auto color = [](const QColor& own, const QColor& other) { return own.isValid() ? own : other; };

@@ -1,5 +1,6 @@
 #include "Pxa.h"
 
+#include "CAlarmTypeCombox.h"
 #include "CAtomicFile.h"
 #include "CErrorCode.h"
 #include "CGlobalInfo.h"
@@ -20,6 +21,7 @@
 #include <QStyleOption>
 #include <QVariant>
 
+using UICommonMdl::CAlarmTypeCombox;
 using UICommonMdl::CAtomicFile;
 using UICommonMdl::CErrorCode;
 using UICommonMdl::CGlobalInfo;
@@ -96,11 +98,14 @@ int GetTextRoom(const QLineEdit& edit)
 /// The width that a combo box leaves to its text.
 int GetTextRoom(const QComboBox& combo)
 {
+    constexpr int nPadding = 1; // pixels that a style keeps on either side of the text
     QStyleOptionComboBox option;
     option.initFrom(&combo);
     option.editable = combo.isEditable();
     option.frame = combo.hasFrame();
-    return combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo).width();
+    const QRect field =
+        combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo);
+    return field.width() - 2 * nPadding;
 }
 
 struct SControlText
@@ -128,6 +133,10 @@ SControlText GetText(const QWidget& control)
     {
         // A tip would tell a password.
         return text(pEdit->echoMode() == QLineEdit::Normal ? pEdit->text() : QString(), GetTextRoom(*pEdit));
+    }
+    if (const auto* pCombo = qobject_cast<const CAlarmTypeCombox*>(&control))
+    {
+        return text(pCombo->GetShownText(), GetTextRoom(*pCombo));
     }
     if (const auto* pCombo = qobject_cast<const QComboBox*>(&control))
     {

@@ -3,6 +3,7 @@
 #include "Skin.h"
 #include "WorkFolder.h"
 
+#include <client/ClientStyle.h>
 #include <client/ClientTexts.h>
 #include <client/session/UserManager.h>
 #include <client/store/ConfigService.h>
@@ -26,6 +27,7 @@ inline void Speak(const QString& strLanguage, const QString& strSkin = QStringLi
     UICommonMdl::CGlobalInfo::SetClientStrLanguage(strLanguage);
     LocalConfigClient::ClientTexts::Translate(strLanguage);
     UICommonMdl::CAlarmType::Instance()->Load();
+    QApplication::setStyle(new LocalConfigClient::ClientStyle);
     UseSkin(strSkin);
     QFont font = QApplication::font();
     font.setPixelSize(nTextSize);

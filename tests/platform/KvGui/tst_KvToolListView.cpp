@@ -1,6 +1,8 @@
 #include <KvGui/KvToolListView.h>
 
+#include <QHelpEvent>
 #include <QSignalSpy>
+#include <QToolTip>
 #include <QtTest>
 
 #include <functional>
@@ -41,6 +43,8 @@ private slots:
     void FocusIsVisible();
     void AnErrorIsSeenAndTold();
     void AnErrorOfAnUnknownIndexChangesNothing();
+    void AnEntryThatIsCutTellsItsText_data();
+    void AnEntryThatIsCutTellsItsText();
     void HasAFrame();
 
 private:
@@ -322,6 +326,37 @@ void tst_KvToolListView::AnErrorOfAnUnknownIndexChangesNothing()
     m_pList->SetItemError(9, "Wrong");
     QCOMPARE(m_pList->GetItemError(9), QString());
     QCOMPARE(m_pList->grab().toImage(), before);
+}
+
+void tst_KvToolListView::AnEntryThatIsCutTellsItsText_data()
+{
+    QTest::addColumn<int>("nRoom");
+    QTest::addColumn<QString>("strError");
+    QTest::addColumn<QString>("strTip");
+    QTest::newRow("wide enough") << 1 << QString() << QString();
+    QTest::newRow("too narrow") << -1 << QString() << "An entry";
+    QTest::newRow("too narrow and wrong") << -1 << "It is wrong"
+                                          << "It is wrong";
+}
+
+void tst_KvToolListView::AnEntryThatIsCutTellsItsText()
+{
+    QFETCH(int, nRoom);
+    QFETCH(QString, strError);
+    QFETCH(QString, strTip);
+    KvToolListView list;
+    list.AddItem(QIcon(), "An entry");
+    list.SetItemError(0, strError);
+    constexpr int nBesideTheText = 56; // margins and icon
+    const int nEdges = 2 * list.frameWidth();
+    list.setFixedWidth(list.fontMetrics().horizontalAdvance("An entry") + nBesideTheText + nEdges + nRoom);
+    list.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&list));
+    QToolTip::hideText();
+    const QPoint place = list.visualRect(list.model()->index(0, 0)).center();
+    QHelpEvent help(QEvent::ToolTip, place, list.viewport()->mapToGlobal(place));
+    QApplication::sendEvent(list.viewport(), &help);
+    QCOMPARE(QToolTip::text(), strTip);
 }
 
 void tst_KvToolListView::HasAFrame()
