@@ -206,7 +206,7 @@
     </message>
     <message>
         <source>Default</source>
-        <translation>افتراضي</translation>
+        <translation>القيم الافتراضية</translation>
     </message>
     <message>
         <source>Save</source>

@@ -206,7 +206,7 @@
     </message>
     <message>
         <source>Default</source>
-        <translation>Predeterminado</translation>
+        <translation>Predeterminados</translation>
     </message>
     <message>
         <source>Save</source>
