@@ -1,13 +1,17 @@
+#include "support/ClientDialog.h"
+#include "support/DrawnTexts.h"
 #include "support/SourceTexts.h"
 
 #include <client/ClientTexts.h>
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QGlyphRun>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -104,17 +108,22 @@ private slots:
     void TheNamedFontsHaveTheLettersOfEveryText_data();
     void TheNamedFontsHaveTheLettersOfEveryText();
     void TheNamedFontsHaveTheLettersOfEveryAlarm();
-    void QtsOwnTextsAreTranslated_data();
+    void QtsOwnTextsAreTranslated_data() { Languages(); }
     void QtsOwnTextsAreTranslated();
+    void TheDialogShowsNoEnglish_data() { Languages(); }
+    void TheDialogShowsNoEnglish();
     void PluralsAreThoseOfTheLanguage_data();
     void PluralsAreThoseOfTheLanguage();
     void TheTextIsAsLargeAsTheSystems_data();
     void TheTextIsAsLargeAsTheSystems();
+
+private:
+    static void Languages();
 };
 
 void tst_ClientTexts::cleanup()
 {
-    qDeleteAll(qApp->findChildren<QTranslator*>());
+    Speak("en");
 }
 
 void tst_ClientTexts::TheNamedFontsHaveTheLettersOfEveryText_data()
@@ -157,7 +166,7 @@ void tst_ClientTexts::TheNamedFontsHaveTheLettersOfEveryAlarm()
     }
 }
 
-void tst_ClientTexts::QtsOwnTextsAreTranslated_data()
+void tst_ClientTexts::Languages()
 {
     QTest::addColumn<QString>("strLanguage");
     for (const QString& strLanguage : SourceTexts::Languages())
@@ -178,6 +187,52 @@ void tst_ClientTexts::QtsOwnTextsAreTranslated()
     {
         QVERIFY2(listTranslated[n] != listEnglish[n], qPrintable(listEnglish[n]));
     }
+}
+
+void tst_ClientTexts::TheDialogShowsNoEnglish()
+{
+    QFETCH(QString, strLanguage);
+    QSet<QString> setEnglish;
+    for (const QString& strFile : SourceTexts::Files())
+    {
+        for (const SourceTexts::SMessage& message : SourceTexts::Read(strFile))
+        {
+            const bool bSame = message.listTranslations.contains(message.strSource); // as keys are called
+            if (SourceTexts::Language(strFile) == strLanguage && !bSame)
+            {
+                setEnglish += {message.strSource, message.strSource + ':'};
+            }
+        }
+    }
+    Speak(strLanguage);
+    SClientDialog d;
+    d.Open();
+    d.dialog.findChild<QAbstractButton*>("nkbRadioBtn")->click();
+    QSet<QString> setShown;
+    for (const auto* pModel : d.dialog.findChildren<QAbstractItemModel*>())
+    {
+        for (int nItem = 0; nItem < pModel->rowCount() * pModel->columnCount(); ++nItem)
+        {
+            setShown += pModel->index(nItem / pModel->columnCount(), nItem % pModel->columnCount()).data().toString();
+        }
+    }
+    for (QWidget* pWidget : d.dialog.findChildren<QWidget*>())
+    {
+        const auto* pView = qobject_cast<const QAbstractItemView*>(pWidget->parentWidget());
+        const bool bItems = pView && !qobject_cast<const QHeaderView*>(pView); // drawn in pieces, letters by letters
+        for (const SDrawnText& text : bItems ? QList<SDrawnText>() : DrawnTexts(*pWidget))
+        {
+            setShown += text.strText;
+        }
+        const auto* pCombo = qobject_cast<const QComboBox*>(pWidget);
+        for (int nItem = 0; pCombo && nItem < pCombo->count(); ++nItem)
+        {
+            setShown += pCombo->itemText(nItem);
+        }
+        setShown += {pWidget->toolTip(), pWidget->accessibleName()};
+    }
+    QVERIFY(setShown.size() > 100);
+    QCOMPARE(QStringList(setShown.intersect(setEnglish).values()).join(", "), QString());
 }
 
 void tst_ClientTexts::PluralsAreThoseOfTheLanguage_data()
