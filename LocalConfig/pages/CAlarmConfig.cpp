@@ -96,6 +96,7 @@ CAlarmConfig::~CAlarmConfig() = default;
 
 void CAlarmConfig::InitControls()
 {
+    Describe(m_pUi->label, {m_pUi->radioPreview});
     AppendColon(tr(":"), {m_pUi->labAlarmTypeForSound, m_pUi->labSoundPath, m_pUi->labAlarmTypeForFlash, m_pUi->label});
     InitMenu();
     const QString strFolder = QStringLiteral("LocalConfig/public");

@@ -46,6 +46,8 @@ void CCaptureConfig::InitControls()
 {
     AppendColon(tr(":"), {m_pUi->picFormatLabel, m_pUi->picPathLabel, m_pUi->picNameFormatLab, m_pUi->picTmLabel,
                           m_pUi->picNumLabel});
+    Describe(m_pUi->picTmRgLabel, {m_pUi->picTmSpinBox});
+    Describe(m_pUi->picNumRgLabel, {m_pUi->picNumEdit});
     SetPattern(this, m_pUi->picNumEdit, QString::fromLatin1(g_szCountPattern));
     m_pUi->picPathEdit->SetTipParentWidget(this);
     m_pUi->picPathEdit->SetMaxInputParam(g_nMaxPathBytes, tr("The Path length of Picture should not longer than 180"));

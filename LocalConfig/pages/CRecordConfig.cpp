@@ -47,6 +47,7 @@ void CRecordConfig::InitControls()
     m_pUi->recPathEdit->SetTipParentWidget(this);
     m_pUi->recPathEdit->SetMaxInputParam(g_nMaxPathBytes, tr("The Path length of Record should not longer than 168"));
     m_pUi->maxRecSizeRgLabel->setText(g_fileSize.Fill(tr("(%1-%2M)")));
+    Describe(m_pUi->maxRecSizeRgLabel, {m_pUi->maxRecSizeEdit});
     SetPattern(this, m_pUi->maxRecSizeEdit, QString::fromLatin1(g_szFileSizePattern));
     for (const char* pszNameFormat : g_arrNameFormats)
     {

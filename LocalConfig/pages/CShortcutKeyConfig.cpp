@@ -7,6 +7,7 @@
 #include <LocalConfig/Direction.h>
 #include <LocalConfig/SkinStyle.h>
 
+#include <QAccessibleWidget>
 #include <QHeaderView>
 #include <QStandardItemModel>
 
@@ -21,12 +22,59 @@ namespace
 constexpr int g_nColumns = 4; // two pairs of function and key
 constexpr int g_nColumnWidth = 160;
 
+/// What screen readers see of the page: a table tells nobody that it is hidden, so the hidden one is left out.
+class CAccessiblePage : public QAccessibleWidget
+{
+public:
+    explicit CAccessiblePage(QWidget* pPage)
+        : QAccessibleWidget(pPage)
+    {}
+
+    int childCount() const override { return GetShown().size(); }
+    QAccessibleInterface* child(int nIndex) const override { return GetShown().value(nIndex); }
+    int indexOfChild(const QAccessibleInterface* pChild) const override
+    {
+        return GetShown().indexOf(const_cast<QAccessibleInterface*>(pChild));
+    }
+
+private:
+    QList<QAccessibleInterface*> GetShown() const
+    {
+        QList<QAccessibleInterface*> listShown;
+        for (int n = 0; n < QAccessibleWidget::childCount(); ++n)
+        {
+            QAccessibleInterface* pChild = QAccessibleWidget::child(n);
+            const auto* pView = pChild ? qobject_cast<const QAbstractItemView*>(pChild->object()) : nullptr;
+            if (pChild && !(pView && pView->isHidden()))
+            {
+                listShown += pChild;
+            }
+        }
+        return listShown;
+    }
+};
+
+QAccessibleInterface* MakeAccessible(const QString& /*strClass*/, QObject* pObject)
+{
+    auto* pPage = qobject_cast<CShortcutKeyConfig*>(pObject);
+    return pPage ? new CAccessiblePage(pPage) : nullptr;
+}
+
+/// The host may unload the module.
+struct SAccessibleFactory
+{
+    SAccessibleFactory() { QAccessible::installFactory(&MakeAccessible); }
+    ~SAccessibleFactory() { QAccessible::removeFactory(&MakeAccessible); }
+    Q_DISABLE_COPY(SAccessibleFactory)
+};
+
 } // namespace
 
 CShortcutKeyConfig::CShortcutKeyConfig(QWidget* pParent)
     : QWidget(pParent)
     , m_pUi(std::make_unique<Ui::CShortcutKeyConfig>())
 {
+    static const SAccessibleFactory factory;
     PassToolWindow(this);
     m_pUi->setupUi(this);
     setObjectName(QStringLiteral("CShortcutKeyConfig"));
@@ -40,6 +88,7 @@ CShortcutKeyConfig::~CShortcutKeyConfig() = default;
 
 void CShortcutKeyConfig::InitControls()
 {
+    Describe(m_pUi->label, {m_pUi->nkbRadioBtn});
     AppendColon(tr(":"), {m_pUi->label});
     m_pUi->pcRadioBtn->setChecked(true);
     ShowTable(true);

@@ -3,6 +3,7 @@
 
 #include "PageHelpers.h"
 
+#include <KvGui/KvAlert.h>
 #include <UICommonModule/Pxa.h>
 
 #include <QEvent>
@@ -55,6 +56,9 @@ CTvWallConfig::~CTvWallConfig() = default;
 void CTvWallConfig::InitControls()
 {
     m_pUi->chkboxChangeStreamType->setToolTip(m_pUi->chkboxChangeStreamType->text());
+    Describe(m_pUi->maxRecSizeRgLabel_2, {m_pUi->lineeditStayTime});
+    Describe(m_pUi->label_5, {m_pUi->cmbTvWallWndSplitNum});
+    Describe(m_pUi->label, {m_pUi->rdBtnTile, m_pUi->rdBtnInquiry});
     AppendColon(tr(":"), {m_pUi->label_2, m_pUi->label_3, m_pUi->streamLabel, m_pUi->label});
     for (const char* pszSplit : g_arrSplits)
     {
@@ -159,6 +163,8 @@ bool CTvWallConfig::eventFilter(QObject* pWatched, QEvent* pEvent)
     {
         m_pUi->labelError->setText(GetStayTimeMessage());
         pEdit->showErrorHint(this, true, QString());
+        pEdit->setAccessibleDescription(GetStayTimeMessage());
+        KVGUI::KvAlert::Show(m_pUi->labelError);
     }
     return QWidget::eventFilter(pWatched, pEvent);
 }

@@ -125,6 +125,10 @@ void CVideoConfig::InitControls()
     }
 
     m_pUi->videoLabel->setText(g_bufferTime.Fill(tr("%1-%2 ms")));
+    Describe(m_pUi->videoLabel, {m_pUi->videoCushionEdit});
+    Describe(m_pUi->label_5, {m_pUi->wndSplitCmbBox});
+    Describe(m_pUi->label, {m_pUi->instantTimeEdit});
+    Describe(m_pUi->silenceTimeRgLabel, {m_pUi->silenceTimeSpinBox});
     SetPattern(this, m_pUi->videoCushionEdit, QString::fromLatin1(g_szBufferPattern));
     m_pUi->videoCushionEdit->installEventFilter(this);
     for (std::size_t n = 0; n < m_arrTimeValidators.size(); ++n)

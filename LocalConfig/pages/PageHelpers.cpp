@@ -1,5 +1,6 @@
 #include "PageHelpers.h"
 
+#include <KvGui/KvAlert.h>
 #include <KvGui/KvDir.h>
 #include <KvGui/KvLineEdit.h>
 
@@ -89,6 +90,7 @@ void ShowTip(QWidget* pControl, const QString& strText)
         if (pWindow->inherits("QTipLabel") && pWindow->isVisible())
         {
             new CTipKeeper(pWindow); // dies with the tip
+            KVGUI::KvAlert::Show(pWindow);
         }
     }
 }
@@ -143,6 +145,14 @@ void AppendColon(const QString& strColon, std::initializer_list<QLabel*> listCap
     for (QLabel* pCaption : listCaptions)
     {
         pCaption->setText(pCaption->text() + strColon);
+    }
+}
+
+void Describe(const QLabel* pText, std::initializer_list<QWidget*> listControls)
+{
+    for (QWidget* pControl : listControls)
+    {
+        pControl->setAccessibleDescription(pText->text());
     }
 }
 

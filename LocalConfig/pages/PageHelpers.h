@@ -35,6 +35,10 @@ struct SItem
     int nData;
 };
 
+/// Has screen readers tell with controls what stands beside them: a range, or what a group of radio buttons is about.
+/// A label leads to one control only.
+void Describe(const QLabel* pText, std::initializer_list<QWidget*> listControls);
+
 /// Selects the item with this text, or none.
 void SelectText(QComboBox* pCombo, const QString& strText);
 

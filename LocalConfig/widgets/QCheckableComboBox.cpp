@@ -176,6 +176,7 @@ void QCheckableComboBox::BuildList()
         auto* pItem = new QListWidgetItem(GetList());
         pItem->setFlags(Qt::ItemIsEnabled); // not selectable, so that clicks are the check box's
         pItem->setData(Qt::UserRole, it.key());
+        pItem->setData(Qt::AccessibleTextRole, it.value());
         GetList()->setItemWidget(pItem, pCheckBox);
         pCheckBox->installEventFilter(this);
         connect(pCheckBox, &QCheckBox::clicked, this, &QCheckableComboBox::OnChecked);

@@ -1,7 +1,11 @@
 #include "KvLineEdit.h"
 
+#include "KvAlert.h"
+#include "KvErrorMark.h"
+
 #include <QEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QStyle>
 
 namespace KVGUI
@@ -11,6 +15,7 @@ namespace
 {
 
 constexpr int g_nTipDistance = 4; // pixels between field and tip
+constexpr int g_nSignMargin = 8;  // pixels between the sign and the field's edge
 
 } // namespace
 
@@ -30,7 +35,7 @@ KvLineEdit::~KvLineEdit()
 void KvLineEdit::showErrorHint(QWidget* pTipParent, bool bError, const QString& strText)
 {
     const bool bShow = pTipParent && bError;
-    SetError(bShow);
+    SetError(bShow, strText);
     if (bShow && !strText.isEmpty())
     {
         ShowTip(pTipParent, strText);
@@ -43,7 +48,7 @@ void KvLineEdit::showErrorHint(QWidget* pTipParent, bool bError, const QString& 
 
 void KvLineEdit::showErrorHintNoTip(bool bError)
 {
-    SetError(bError);
+    SetError(bError, QString());
     DropTip();
 }
 
@@ -57,17 +62,68 @@ QString KvLineEdit::GetErrorHintText() const
     return m_pTip ? m_pTip->text() : QString();
 }
 
-void KvLineEdit::SetError(bool bError)
+void KvLineEdit::SetError(bool bError, const QString& strText)
 {
-    if (bError == m_bError)
+    if (bError != m_bError)
+    {
+        m_bError = bError;
+        if (bError)
+        {
+            m_strOwnDescription = accessibleDescription();
+            setAccessibleDescription(m_strOwnDescription.isEmpty() ? tr("Illegal value")
+                                                                   : tr("Illegal value, %1").arg(m_strOwnDescription));
+        }
+        else
+        {
+            setAccessibleDescription(m_strOwnDescription);
+        }
+        setProperty("error", bError);
+        style()->unpolish(this);
+        style()->polish(this);
+        ApplyMargins();
+        update();
+    }
+    if (bError && !strText.isEmpty())
+    {
+        setAccessibleDescription(strText);
+    }
+}
+
+void KvLineEdit::SetTrailingMargin(int nPixels)
+{
+    m_nTrailingMargin = nPixels;
+    ApplyMargins();
+}
+
+void KvLineEdit::ApplyMargins()
+{
+    const int nTrailing = m_nTrailingMargin + (m_bError ? g_nErrorMarkSize + g_nSignMargin : 0);
+    const bool bMirrored = layoutDirection() == Qt::RightToLeft;
+    setTextMargins(bMirrored ? nTrailing : 0, 0, bMirrored ? 0 : nTrailing, 0);
+}
+
+void KvLineEdit::paintEvent(QPaintEvent* pEvent)
+{
+    QLineEdit::paintEvent(pEvent);
+    if (!m_bError)
     {
         return;
     }
-    m_bError = bError;
-    setProperty("error", bError);
-    style()->unpolish(this);
-    style()->polish(this);
-    update();
+    const QRect sign(width() - g_nSignMargin - m_nTrailingMargin - g_nErrorMarkSize, (height() - g_nErrorMarkSize) / 2,
+                     g_nErrorMarkSize, g_nErrorMarkSize);
+    QPainter painter(this);
+    PaintErrorMark(painter, QStyle::visualRect(layoutDirection(), rect(), sign),
+                   m_errorColor.isValid() ? m_errorColor : palette().color(QPalette::Text),
+                   m_errorTextColor.isValid() ? m_errorTextColor : palette().color(QPalette::Base));
+}
+
+void KvLineEdit::changeEvent(QEvent* pEvent)
+{
+    QLineEdit::changeEvent(pEvent);
+    if (pEvent->type() == QEvent::LayoutDirectionChange)
+    {
+        ApplyMargins();
+    }
 }
 
 void KvLineEdit::ShowTip(QWidget* pTipParent, const QString& strText)
@@ -83,7 +139,6 @@ void KvLineEdit::ShowTip(QWidget* pTipParent, const QString& strText)
         m_pTip->setAttribute(Qt::WA_TransparentForMouseEvents);
         m_pTip->setWordWrap(true);
         connect(m_pTip, &QLabel::destroyed, this, &KvLineEdit::OnTipGone);
-        m_strOwnDescription = accessibleDescription();
         // The field's place on the tip's parent depends on every widget between the two.
         for (QWidget* pWidget = this; pWidget; pWidget = pWidget->parentWidget())
         {
@@ -95,10 +150,17 @@ void KvLineEdit::ShowTip(QWidget* pTipParent, const QString& strText)
             }
         }
     }
+    const bool bNew = m_pTip->text() != strText;
     m_pTip->setText(strText);
-    setAccessibleDescription(strText);
-    m_pTip->setVisible(isVisible());
     PlaceTip();
+    if (bNew && isVisible())
+    {
+        KvAlert::Show(m_pTip);
+    }
+    else if (!isVisible())
+    {
+        m_pTip->hide(); // until the field is seen
+    }
 }
 
 void KvLineEdit::DropTip()
@@ -117,7 +179,6 @@ void KvLineEdit::OnTipGone()
         }
     }
     m_listWatched.clear();
-    setAccessibleDescription(m_strOwnDescription);
 }
 
 void KvLineEdit::PlaceTip()
@@ -161,7 +222,7 @@ void KvLineEdit::showEvent(QShowEvent* pEvent)
     QLineEdit::showEvent(pEvent);
     if (m_pTip)
     {
-        m_pTip->show();
+        KvAlert::Show(m_pTip);
         PlaceTip();
     }
 }

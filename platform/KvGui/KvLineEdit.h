@@ -2,6 +2,7 @@
 
 #include <KvGui/KvGuiExport.h>
 
+#include <QColor>
 #include <QLineEdit>
 #include <QList>
 #include <QPointer>
@@ -11,10 +12,14 @@ class QLabel;
 namespace KVGUI
 {
 
-/// Line edit with the client's look, which can be marked as wrong. Style sheets see the mark as the property "error".
+/// Line edit with the client's look, which can be marked as wrong. Style sheets see the mark as the property "error";
+/// the colours of its sign are properties, so that they can set them. Screen readers are told the tip, and find it in
+/// the field's description as long as the mark stays.
 class KVGUI_EXPORT KvLineEdit : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(QColor errorColor MEMBER m_errorColor)
+    Q_PROPERTY(QColor errorTextColor MEMBER m_errorTextColor)
 
 public:
     explicit KvLineEdit(QWidget* pParent = nullptr); ///< empty, without a mark
@@ -35,12 +40,18 @@ public:
     QString GetErrorHintText() const;
 
 protected:
+    /// Keeps the text clear of so many pixels at the trailing edge; the sign of the mark, too.
+    void SetTrailingMargin(int nPixels);
+
+    void paintEvent(QPaintEvent* pEvent) override;
+    void changeEvent(QEvent* pEvent) override;
     void hideEvent(QHideEvent* pEvent) override;
     void showEvent(QShowEvent* pEvent) override;
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
-    void SetError(bool bError);
+    void SetError(bool bError, const QString& strText);
+    void ApplyMargins();
     void ShowTip(QWidget* pTipParent, const QString& strText);
     void DropTip();
     void OnTipGone();
@@ -48,8 +59,11 @@ private:
 
     QPointer<QLabel> m_pTip;                // a child of the tip's parent, which may die before this field
     QList<QPointer<QWidget>> m_listWatched; // while there is a tip
-    QString m_strOwnDescription;            // what the tip stands in for
+    QString m_strOwnDescription;            // what the mark's stands in for
     bool m_bError = false;
+    int m_nTrailingMargin = 0;
+    QColor m_errorColor;
+    QColor m_errorTextColor;
 };
 
 } // namespace KVGUI

@@ -1,6 +1,7 @@
 #include "KvMessageNotify.h"
 
-#include <QAccessibleWidget>
+#include "KvAlert.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QFrame>
@@ -89,12 +90,6 @@ private:
     std::function<void()> m_endHandler;
 };
 
-QAccessibleInterface* MakeAccessible(const QString& /*strClass*/, QObject* pObject)
-{
-    auto* pBar = dynamic_cast<CNotifyBar*>(pObject);
-    return pBar ? new QAccessibleWidget(pBar, QAccessible::AlertMessage) : nullptr;
-}
-
 QWidget* FindWindow(const QWidget* pExcept, bool bMinimized)
 {
     if (!qobject_cast<QApplication*>(QCoreApplication::instance()))
@@ -172,17 +167,14 @@ void KvMessageNotify::AddTextNotification(const QString& strText)
     }
     if (QWidget* pWindow = FindWindow(nullptr))
     {
-        QAccessible::installFactory(&MakeAccessible); // installs it once
         auto* pBar = new CNotifyBar(strText, pWindow, m_nDuration);
         pBar->SetEndHandler([this, pBar] { Remove(pBar); });
         m_listBars.removeAll(nullptr); // bars that have died with their window
         m_listBars += pBar;
         Watch(pWindow);
         Arrange(pWindow);
-        pBar->show();
+        KvAlert::Show(pBar);
         pBar->SetSeen(!pWindow->isMinimized());
-        QAccessibleEvent event(pBar, QAccessible::Alert);
-        QAccessible::updateAccessibility(&event);
     }
     emit SignalTextNotificationAdded(strText);
 }

@@ -1,5 +1,7 @@
 #include "KvToolListView.h"
 
+#include "KvErrorMark.h"
+
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -21,7 +23,6 @@ constexpr int g_nMargin = 16;
 constexpr int g_nIconGap = 12;
 constexpr int g_nBarWidth = 3;
 constexpr int g_nRadius = 4;
-constexpr int g_nErrorSize = 16;
 
 } // namespace
 
@@ -95,10 +96,11 @@ public:
         QRect text = GetTextRect(option.rect);
         if (!index.data(Qt::ToolTipRole).isNull())
         {
-            const QRect mark(option.rect.right() - g_nMargin - g_nErrorSize,
-                             option.rect.center().y() - g_nErrorSize / 2 + 1, g_nErrorSize, g_nErrorSize);
+            const QRect mark(option.rect.right() - g_nMargin - g_nErrorMarkSize,
+                             option.rect.center().y() - g_nErrorMarkSize / 2 + 1, g_nErrorMarkSize, g_nErrorMarkSize);
             text.setRight(mark.left() - g_nMargin / 2);
-            PaintError(*pPainter, place(mark), palette);
+            PaintErrorMark(*pPainter, place(mark), color(m_pView->m_errorColor, palette.color(QPalette::Text)),
+                           color(m_pView->m_errorTextColor, palette.color(QPalette::Base)));
         }
         pPainter->setPen(bCurrent ? color(m_pView->m_selectedTextColor, palette.color(QPalette::Text))
                                   : palette.color(QPalette::Text));
@@ -114,22 +116,6 @@ private:
     static QRect GetTextRect(const QRect& entry)
     {
         return entry.adjusted(g_nMargin + g_nIconSize + g_nIconGap, 0, -g_nMargin / 2, 0);
-    }
-
-    void PaintError(QPainter& painter, const QRect& mark, const QPalette& palette) const
-    {
-        const auto color = [](const QColor& own, const QColor& other) { return own.isValid() ? own : other; };
-        painter.save();
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(color(m_pView->m_errorColor, palette.color(QPalette::Text)));
-        painter.drawEllipse(mark);
-        QFont font = painter.font();
-        font.setPixelSize(g_nErrorSize * 3 / 4);
-        font.setBold(true);
-        painter.setFont(font);
-        painter.setPen(color(m_pView->m_errorTextColor, palette.color(QPalette::Base)));
-        painter.drawText(mark, Qt::AlignCenter, QStringLiteral("!"));
-        painter.restore();
     }
 
     KvToolListView* m_pView;
@@ -202,7 +188,15 @@ QModelIndex KvToolListView::Find(int nIndex) const
 
 void KvToolListView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
-    QListView::currentChanged(current, previous);
+    if (hasFocus())
+    {
+        QListView::currentChanged(current, previous);
+    }
+    else
+    {
+        // The list's own tells screen readers that the entry has got the focus, whoever has it.
+        QAbstractItemView::currentChanged(current, previous); // NOLINT(bugprone-parent-virtual-call)
+    }
     if (current.isValid())
     {
         emit SignalCurrentIndexChanged(current.data(g_nIndexRole).toInt());

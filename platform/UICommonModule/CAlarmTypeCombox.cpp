@@ -14,6 +14,12 @@ namespace UICommonMdl
 namespace
 {
 
+#ifdef Q_OS_UNIX
+constexpr bool g_bNameIsValue = true; // of any combo box there: its label leads to it, and no value has a text
+#else
+constexpr bool g_bNameIsValue = false;
+#endif
+
 /// What screen readers see: the base's would tell the current item and open the list that the box does not have.
 class CAccessibleCombox : public QAccessibleWidget
 {
@@ -25,7 +31,9 @@ public:
 
     QString text(QAccessible::Text eText) const override
     {
-        return eText == QAccessible::Value ? m_pCombox->GetShownText() : QAccessibleWidget::text(eText);
+        const QString strShown = m_pCombox->GetShownText();
+        const bool bNamed = g_bNameIsValue && eText == QAccessible::Name && !strShown.isEmpty();
+        return bNamed || eText == QAccessible::Value ? strShown : QAccessibleWidget::text(eText);
     }
 
     QAccessible::State state() const override
@@ -123,6 +131,11 @@ void CAlarmTypeCombox::SetChoice(const std::optional<SChoice>& choice)
         updateGeometry();
         QAccessibleValueChangeEvent event(this, GetShownText());
         QAccessible::updateAccessibility(&event);
+        if (g_bNameIsValue)
+        {
+            QAccessibleEvent nameEvent(this, QAccessible::NameChanged);
+            QAccessible::updateAccessibility(&nameEvent);
+        }
     }
 }
 

@@ -30,7 +30,7 @@ CPathEdit::CPathEdit(QWidget* pParent)
     m_pBrowseButton->setToolTip(tr("Browse"));
     m_pBrowseButton->setCursor(Qt::ArrowCursor);
     m_pBrowseButton->setFocusPolicy(Qt::TabFocus);
-    KeepTextClearOfButton();
+    SetTrailingMargin(g_nButtonSize + g_nButtonMargin);
     connect(m_pBrowseButton, &QToolButton::clicked, this, &CPathEdit::OnBrowse);
     connect(this, &CPathEdit::textChanged, this, &CPathEdit::CheckLength);
 }
@@ -124,7 +124,6 @@ void CPathEdit::changeEvent(QEvent* pEvent)
     KvLineEdit::changeEvent(pEvent);
     if (pEvent->type() == QEvent::LayoutDirectionChange)
     {
-        KeepTextClearOfButton();
         PlaceButton();
     }
 }
@@ -138,14 +137,10 @@ void CPathEdit::resizeEvent(QResizeEvent* pEvent)
 void CPathEdit::showEvent(QShowEvent* pEvent)
 {
     KvLineEdit::showEvent(pEvent);
-    setTabOrder(this, m_pBrowseButton); // a form orders its fields after they are made, and leaves the button behind
-}
-
-void CPathEdit::KeepTextClearOfButton()
-{
-    const int nRoom = g_nButtonSize + g_nButtonMargin;
-    const bool bMirrored = layoutDirection() == Qt::RightToLeft;
-    setTextMargins(bMirrored ? nRoom : 0, 0, bMirrored ? 0 : nRoom, 0);
+    // A form orders and names its fields after they are made, and leaves the button behind.
+    setTabOrder(this, m_pBrowseButton);
+    m_pBrowseButton->setAccessibleName(accessibleName().isEmpty() ? tr("Browse")
+                                                                  : tr("Browse: %1").arg(accessibleName()));
 }
 
 void CPathEdit::PlaceButton()

@@ -52,7 +52,6 @@ private:
     void CheckLength();
     void AddCompleter();
     void PlaceButton();
-    void KeepTextClearOfButton();
 
     QToolButton* m_pBrowseButton;
     BrowseMode m_eBrowseMode = BrowseFolder;

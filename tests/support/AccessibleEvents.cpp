@@ -1,5 +1,6 @@
 // The off-screen platform knows no screen readers, so that Qt drops the events before any handler that can be installed
-// sees them. The one function that all of them go through is therefore replaced by that of the test's program.
+// sees them. The one function that all of them go through is therefore replaced by that of the test's program, and the
+// one that tells whether anybody listens.
 
 #include "AccessibleEvents.h"
 
@@ -18,6 +19,11 @@ CAccessibleEvents::CAccessibleEvents(Handler handler)
 CAccessibleEvents::~CAccessibleEvents()
 {
     g_handler = nullptr;
+}
+
+bool QAccessible::isActive()
+{
+    return bool(g_handler);
 }
 
 void QAccessible::updateAccessibility(QAccessibleEvent* pEvent)

@@ -119,6 +119,10 @@
         <translation>浏览</translation>
     </message>
     <message>
+        <source>Browse: %1</source>
+        <translation>浏览：%1</translation>
+    </message>
+    <message>
         <source>Select a folder</source>
         <translation>选择文件夹</translation>
     </message>

@@ -17,6 +17,7 @@ class tst_ComboScreenReader : public QObject
 
 private slots:
     void TheCheckableBoxTellsItsRowsAndItsSummary();
+    void TheRowsOfTheCheckableBoxHaveTheirNames();
 };
 
 void tst_ComboScreenReader::TheCheckableBoxTellsItsRowsAndItsSummary()
@@ -48,6 +49,22 @@ void tst_ComboScreenReader::TheCheckableBoxTellsItsRowsAndItsSummary()
     QCOMPARE(listFocused, (QStringList{"One", "Two"}));
     QCOMPARE(strValue, QString("Two"));
     QCOMPARE(QAccessible::queryAccessibleInterface(&combo)->text(QAccessible::Value), QString("Two"));
+}
+
+void tst_ComboScreenReader::TheRowsOfTheCheckableBoxHaveTheirNames()
+{
+    QCheckableComboBox combo(nullptr);
+    combo.SetItems({{1, "One"}, {2, "R&D"}});
+    combo.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&combo));
+    combo.showPopup();
+    QAccessibleInterface* pList = QAccessible::queryAccessibleInterface(combo.view());
+    QStringList listNames;
+    for (int n = 0; n < pList->childCount(); ++n)
+    {
+        listNames += pList->child(n)->text(QAccessible::Name);
+    }
+    QCOMPARE(listNames, (QStringList{"One", "R&D"}));
 }
 
 QTEST_MAIN(tst_ComboScreenReader)

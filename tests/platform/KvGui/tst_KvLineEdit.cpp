@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyle>
 #include <QtTest>
 
 #include <functional>
@@ -78,9 +79,15 @@ private slots:
     void TheTipTakesNoFocusAndNoClicks();
     void TheTipGoesWithTheField();
     void TheTipParentMayGoFirst();
-    void ATipThatGoesTakesItsDescriptionAlong_data();
-    void ATipThatGoesTakesItsDescriptionAlong();
-    void ATipThatGoesWatchesNothingAnyMore_data() { ATipThatGoesTakesItsDescriptionAlong_data(); }
+    void ADescriptionStaysAsLongAsTheMark_data();
+    void ADescriptionStaysAsLongAsTheMark();
+    void AMarkWithoutTextIsDescribed_data();
+    void AMarkWithoutTextIsDescribed();
+    void TheMarkHasASign_data();
+    void TheMarkHasASign();
+    void TheTextKeepsClearOfTheSign_data() { TheMarkHasASign_data(); }
+    void TheTextKeepsClearOfTheSign();
+    void ATipThatGoesWatchesNothingAnyMore_data() { ADescriptionStaysAsLongAsTheMark_data(); }
     void ATipThatGoesWatchesNothingAnyMore();
 
 private:
@@ -256,31 +263,93 @@ void tst_KvLineEdit::TheTipParentMayGoFirst()
     QVERIFY(!m_pEdit->IsErrorHintShown());
 }
 
-void tst_KvLineEdit::ATipThatGoesTakesItsDescriptionAlong_data()
+void tst_KvLineEdit::ADescriptionStaysAsLongAsTheMark_data()
 {
     QTest::addColumn<Step>("step");
-    const auto row = [](const char* pszName, const Step& step) { QTest::newRow(pszName) << step; };
-    row("its parent dies", [](const SForm& form) { delete form.pTipParent; });
-    row("cleared", [](const SForm& form) { form.pEdit->showErrorHint(nullptr, true, QString()); });
-    row("the mark alone", [](const SForm& form) { form.pEdit->showErrorHintNoTip(true); });
-    row("cleared elsewhere", [](SForm& form) {
+    QTest::addColumn<QString>("strDescription");
+    const auto row = [](const char* pszName, const char* pszDescription, const Step& step) {
+        QTest::newRow(pszName) << step << pszDescription;
+    };
+    row("the tip's parent dies", "Too long", [](const SForm& form) { delete form.pTipParent; });
+    row("cleared", "The folder for pictures",
+        [](const SForm& form) { form.pEdit->showErrorHint(nullptr, true, QString()); });
+    row("the mark alone", "Too long", [](const SForm& form) { form.pEdit->showErrorHintNoTip(true); });
+    row("the mark alone, cleared", "The folder for pictures", [](const SForm& form) {
+        form.pEdit->showErrorHintNoTip(true);
+        form.pEdit->showErrorHintNoTip(false);
+    });
+    row("cleared elsewhere", "The folder for pictures", [](SForm& form) {
         form.pEdit->setParent(&form.other);
         form.pEdit->showErrorHint(nullptr, true, QString());
     });
-    row("another parent, which dies", [](const SForm& form) {
+    row("another parent, which dies", "Still too long", [](const SForm& form) {
         auto* pSecond = new QWidget(form.pPane);
         form.pEdit->showErrorHint(pSecond, true, "Still too long");
         delete pSecond;
     });
 }
 
-void tst_KvLineEdit::ATipThatGoesTakesItsDescriptionAlong()
+void tst_KvLineEdit::ADescriptionStaysAsLongAsTheMark()
 {
     QFETCH(Step, step);
+    QFETCH(QString, strDescription);
     SForm form;
     QCOMPARE(form.pEdit->accessibleDescription(), QString("Too long"));
     step(form);
-    QCOMPARE(form.pEdit->accessibleDescription(), QString("The folder for pictures"));
+    QCOMPARE(form.pEdit->accessibleDescription(), strDescription);
+}
+
+void tst_KvLineEdit::AMarkWithoutTextIsDescribed_data()
+{
+    QTest::addColumn<QString>("strOwn");
+    QTest::addColumn<QString>("strDescription");
+    QTest::newRow("field without a description") << QString() << "Illegal value";
+    QTest::newRow("field with a range") << "(2-10)"
+                                        << "Illegal value, (2-10)";
+}
+
+void tst_KvLineEdit::AMarkWithoutTextIsDescribed()
+{
+    QFETCH(QString, strOwn);
+    QFETCH(QString, strDescription);
+    m_pEdit->setAccessibleDescription(strOwn);
+    m_pEdit->showErrorHintNoTip(true);
+    QCOMPARE(m_pEdit->accessibleDescription(), strDescription);
+    m_pEdit->showErrorHintNoTip(false);
+    QCOMPARE(m_pEdit->accessibleDescription(), strOwn);
+}
+
+void tst_KvLineEdit::TheMarkHasASign_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("eDirection");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
+}
+
+void tst_KvLineEdit::TheMarkHasASign()
+{
+    QFETCH(Qt::LayoutDirection, eDirection);
+    m_pEdit->setLayoutDirection(eDirection);
+    const QImage plain = m_pEdit->grab().toImage();
+    m_pEdit->showErrorHintNoTip(true);
+    const QImage marked = m_pEdit->grab().toImage();
+    const QRect trailing = QStyle::visualRect(eDirection, m_pEdit->rect(), QRect(90, 6, 26, 20));
+    QCOMPARE(plain.copy(QRect(40, 4, 40, 24)), marked.copy(QRect(40, 4, 40, 24)));
+    QVERIFY(plain.copy(trailing) != marked.copy(trailing));
+    m_pEdit->showErrorHintNoTip(false);
+    QCOMPARE(m_pEdit->grab().toImage(), plain);
+}
+
+void tst_KvLineEdit::TheTextKeepsClearOfTheSign()
+{
+    QFETCH(Qt::LayoutDirection, eDirection);
+    m_pEdit->showErrorHintNoTip(true);
+    m_pEdit->setLayoutDirection(eDirection);
+    const bool bMirrored = eDirection == Qt::RightToLeft;
+    QVERIFY((bMirrored ? m_pEdit->textMargins().left() : m_pEdit->textMargins().right()) >= 20);
+    QCOMPARE(bMirrored ? m_pEdit->textMargins().right() : m_pEdit->textMargins().left(), 0);
+    m_pEdit->showErrorHintNoTip(false);
+    QCOMPARE(m_pEdit->textMargins(), QMargins());
 }
 
 void tst_KvLineEdit::ATipThatGoesWatchesNothingAnyMore()

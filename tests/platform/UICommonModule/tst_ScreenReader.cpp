@@ -3,6 +3,7 @@
 #include "support/AccessibleEvents.h"
 
 #include <KvGui/KvCustomDialog.h>
+#include <KvGui/KvLineEdit.h>
 #include <KvGui/KvMessageBox.h>
 #include <KvGui/KvMessageNotify.h>
 #include <UICommonModule/CAlarmTypeCombox.h>
@@ -21,7 +22,10 @@ class tst_ScreenReader : public QObject
 
 private slots:
     void TheAlarmTypeBoxTellsItsChoice();
+    void TheAlarmTypeBoxIsCalledWhatItShows();
     void ANotificationIsAnAlert();
+    void TheTipOfAFieldIsAnAlert();
+    void TheTipOfAHiddenFieldIsAnAlertOnceItIsSeen();
     void AMessageBoxIsAnAlert();
 };
 
@@ -51,6 +55,75 @@ void tst_ScreenReader::TheAlarmTypeBoxTellsItsChoice()
     combo.InitMenu({{2, "Device"}}, {{2, {{1, "Back online"}}}});
     combo.ClearChosenItem();
     QCOMPARE(listValues, (QStringList{"Online", "Back online", "First of the record"}));
+}
+
+void tst_ScreenReader::TheAlarmTypeBoxIsCalledWhatItShows()
+{
+    // As every combo box is where labels lead to what they name.
+    CAlarmTypeCombox combo;
+    combo.setAccessibleName("Alarm type");
+    combo.addItem("First of the record");
+    combo.InitMenu({{2, "Device"}}, {{2, {{0, "Offline"}, {1, "Online"}}}});
+    QComboBox plain;
+    plain.setAccessibleName("Alarm type");
+    plain.addItem("First of the record");
+    const auto name = [](QObject* pBox) {
+        return QAccessible::queryAccessibleInterface(pBox)->text(QAccessible::Name);
+    };
+    QCOMPARE(name(&plain), QString("First of the record"));
+    QCOMPARE(name(&combo), name(&plain));
+    QStringList listNames;
+    const CAccessibleEvents events([&](const QAccessibleEvent& event) {
+        if (event.type() == QAccessible::NameChanged && event.object() == &combo)
+        {
+            listNames += name(&combo);
+        }
+    });
+    combo.ChooseItem(2, 1);
+    QCOMPARE(listNames, QStringList{"Online"});
+}
+
+void tst_ScreenReader::TheTipOfAFieldIsAnAlert()
+{
+    QWidget window;
+    KVGUI::KvLineEdit edit(&window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QStringList listAlerts;
+    const CAccessibleEvents events([&](const QAccessibleEvent& event) {
+        if (event.type() == QAccessible::Alert)
+        {
+            const QAccessibleInterface* pInterface = event.accessibleInterface();
+            QCOMPARE(pInterface->role(), QAccessible::AlertMessage);
+            QVERIFY(!pInterface->state().invisible);
+            listAlerts += pInterface->text(QAccessible::Name);
+        }
+    });
+    for (const char* pszText : {"Too long", "Too long", "Still too long"})
+    {
+        edit.showErrorHint(&window, true, pszText);
+    }
+    QCOMPARE(listAlerts, (QStringList{"Too long", "Still too long"}));
+}
+
+void tst_ScreenReader::TheTipOfAHiddenFieldIsAnAlertOnceItIsSeen()
+{
+    QWidget window;
+    KVGUI::KvLineEdit edit(&window);
+    edit.hide();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QStringList listAlerts;
+    const CAccessibleEvents events([&](const QAccessibleEvent& event) {
+        if (event.type() == QAccessible::Alert)
+        {
+            listAlerts += event.accessibleInterface()->text(QAccessible::Name);
+        }
+    });
+    edit.showErrorHint(&window, true, "Too long");
+    QCOMPARE(listAlerts, QStringList());
+    edit.show();
+    QCOMPARE(listAlerts, QStringList{"Too long"});
 }
 
 void tst_ScreenReader::ANotificationIsAnAlert()
