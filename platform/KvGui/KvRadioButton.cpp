@@ -1,5 +1,7 @@
 #include "KvRadioButton.h"
 
+#include "KvAccessibleButton.h"
+
 #include <QButtonGroup>
 
 namespace KVGUI
@@ -10,8 +12,11 @@ KvRadioButton::KvRadioButton(QWidget* pParent)
 {}
 
 KvRadioButton::KvRadioButton(const QString& strText, QWidget* pParent)
-    : QRadioButton(strText, pParent)
-{}
+    : QRadioButton(pParent)
+{
+    PressButtonsByScreenReader();
+    setText(strText); // not by the base, as which screen readers would know it from then on
+}
 
 // Not by the signal, which may be blocked.
 void KvRadioButton::checkStateSet()

@@ -12,6 +12,7 @@
 #include <KvGui/KvVerScrollBar.h>
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QDir>
 #include <QHeaderView>
@@ -85,11 +86,17 @@ struct SSpinBox
 
 Q_DECLARE_METATYPE(std::function<void(QStandardItemModel&)>)
 
+Q_DECLARE_METATYPE(QAbstractButton*)
+Q_DECLARE_METATYPE(QAccessible::Role)
+
 class tst_KvControls : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void AScreenReaderPressesIt_data();
+    void AScreenReaderPressesIt();
+    void AScreenReaderPressesNothingThatIsLocked();
     void StyleSheetsReachEachClass_data();
     void StyleSheetsReachEachClass();
     void TextConstructors();
@@ -346,6 +353,42 @@ void tst_KvControls::TheWorkingFolder()
     QCOMPARE(QFileInfo(KvDir::GetCurrentPath()).canonicalFilePath(), QFileInfo(folder.path()).canonicalFilePath());
     QVERIFY(!KvDir::GetCurrentPath().endsWith('/'));
     QDir::setCurrent(QDir::rootPath());
+}
+
+void tst_KvControls::AScreenReaderPressesIt_data()
+{
+    QTest::addColumn<QAbstractButton*>("pButton");
+    QTest::addColumn<QAccessible::Role>("eRole");
+    QTest::newRow("check box") << static_cast<QAbstractButton*>(new KvCheckBox("&R&&D")) << QAccessible::CheckBox;
+    QTest::newRow("radio button") << static_cast<QAbstractButton*>(new KvRadioButton("&R&&D"))
+                                  << QAccessible::RadioButton;
+}
+
+void tst_KvControls::AScreenReaderPressesIt()
+{
+    QFETCH(QAbstractButton*, pButton);
+    QFETCH(QAccessible::Role, eRole);
+    const QScopedPointer<QAbstractButton> holder(pButton);
+    const QSignalSpy clicked(pButton, &QAbstractButton::clicked);
+    QAccessibleInterface* pInterface = QAccessible::queryAccessibleInterface(pButton);
+    QCOMPARE(pInterface->role(), eRole);
+    QCOMPARE(pInterface->text(QAccessible::Name), QString("R&D"));
+    QVERIFY(pInterface->state().checkable);
+    QVERIFY(!pInterface->state().checked);
+    QVERIFY(pInterface->actionInterface()->actionNames().contains(QAccessibleActionInterface::toggleAction()));
+    pInterface->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QVERIFY(pInterface->state().checked);
+    QCOMPARE(clicked.count(), 1);
+}
+
+void tst_KvControls::AScreenReaderPressesNothingThatIsLocked()
+{
+    KvCheckBox box("Lock");
+    box.setEnabled(false);
+    QAccessibleInterface* pInterface = QAccessible::queryAccessibleInterface(&box);
+    QCOMPARE(pInterface->actionInterface()->actionNames(), QStringList());
+    pInterface->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QVERIFY(!box.isChecked());
 }
 
 QTEST_MAIN(tst_KvControls)
