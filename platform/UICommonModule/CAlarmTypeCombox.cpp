@@ -191,6 +191,7 @@ void CAlarmTypeCombox::showPopup()
         m_pMenu = new CAlarmTypeMenu(this);
         m_pMenu->SetItems(m_mapMain, m_mapSub);
         connect(m_pMenu, &CAlarmTypeMenu::SignalChosen, this, &CAlarmTypeCombox::ChooseItem);
+        connect(m_pMenu, &CAlarmTypeMenu::SignalClosed, this, [this] { KvComboBox::hidePopup(); });
     }
     m_pMenu->Open(m_choice ? m_choice->nMainItem : m_mapMain.firstKey(), m_choice ? m_choice->nSubItem : -1);
 }

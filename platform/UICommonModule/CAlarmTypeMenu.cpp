@@ -157,11 +157,12 @@ void CAlarmTypeMenu::Place()
     const int nRows = qBound(1, m_pMainModel->rowCount(), g_nMaxRows);
     const QSize wanted = QSize(0, nRows * nRowHeight + g_nFrame).expandedTo(layout()->minimumSize());
     const bool bAbove = wanted.height() > nRoomBelow && nRoomAbove > nRoomBelow;
-    resize(wanted.width(), qMin(wanted.height(), bAbove ? nRoomAbove : nRoomBelow));
+    const int nHeight = qMin(wanted.height(), bAbove ? nRoomAbove : nRoomBelow);
 
-    const int nLeft = IsMirrored() ? owner.right() + 1 - width() : owner.left();
-    const int nRightmost = screen.right() + 1 - width();
-    move(qMax(screen.left(), qMin(nLeft, nRightmost)), bAbove ? owner.top() - height() : owner.bottom() + 1);
+    const int nLeft = IsMirrored() ? owner.right() + 1 - wanted.width() : owner.left();
+    const int nRightmost = screen.right() + 1 - wanted.width();
+    setGeometry(qMax(screen.left(), qMin(nLeft, nRightmost)), bAbove ? owner.top() - nHeight : owner.bottom() + 1,
+                wanted.width(), nHeight);
 }
 
 void CAlarmTypeMenu::Search(const QString& strText)
@@ -312,6 +313,7 @@ void CAlarmTypeMenu::hideEvent(QHideEvent* pEvent)
 {
     QWidget::hideEvent(pEvent);
     parentWidget()->update();
+    emit SignalClosed();
 }
 
 void CAlarmTypeMenu::mousePressEvent(QMouseEvent* pEvent)

@@ -32,6 +32,7 @@ public:
 
 signals:
     void SignalChosen(int nMainItem, int nSubItem);
+    void SignalClosed(); ///< whatever closed it
 
 protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;

@@ -2,12 +2,14 @@
 
 #include <KvGui/KvModal.h>
 
+#include <QAbstractItemView>
 #include <QCompleter>
 #include <QDir>
 #include <QEvent>
 #include <QFileDialog>
 #include <QFileSystemModel>
 #include <QStyle>
+#include <QStyledItemDelegate>
 #include <QToolButton>
 
 namespace UICommonMdl
@@ -18,6 +20,7 @@ namespace
 
 constexpr int g_nButtonSize = 24;
 constexpr int g_nButtonMargin = 4;
+constexpr int g_nIconSize = 16; // of the folders that complete a path
 
 } // namespace
 
@@ -116,6 +119,10 @@ void CPathEdit::AddCompleter()
     m_pFolders = new QFileSystemModel(pCompleter);
     m_pFolders->setFilter(QDir::AllDirs | QDir::Drives | QDir::NoDotAndDotDot);
     pCompleter->setModel(m_pFolders);
+    QAbstractItemView* pList = pCompleter->popup();
+    pList->setObjectName(QStringLiteral("pathList"));
+    pList->setIconSize({g_nIconSize, g_nIconSize});
+    pList->setItemDelegate(new QStyledItemDelegate(pList)); // the completer's own knows no style sheet
     setCompleter(pCompleter);
 }
 

@@ -1,8 +1,12 @@
 // The dialog with its real pages on a host that has every section.
 
 #include "support/RealDialog.h"
+#include "support/Wheel.h"
 
 #include <LocalConfig/pages/IConfigPage.h>
+
+#include <QAbstractSpinBox>
+#include <QComboBox>
 
 using namespace LocalConfig;
 
@@ -16,6 +20,7 @@ private slots:
     void SavingAsksEverySection();
     void ScrollingSelectsAShownSection_data();
     void ScrollingSelectsAShownSection();
+    void TheWheelTakesTheFocusNowhere();
 };
 
 void tst_RealDialog::EverySectionHasItsPage()
@@ -64,6 +69,25 @@ void tst_RealDialog::ScrollingSelectsAShownSection()
         QCOMPARE(listSelected, QList<int>{d.List()->GetCurrentIndex()});
         QVERIFY(d.Box(listSelected.first())->isVisible());
     }
+}
+
+void tst_RealDialog::TheWheelTakesTheFocusNowhere()
+{
+    SRealHost host;
+    SRealDialog d(host);
+    d.Open();
+    QWidget* pHolder = d.dialog.focusWidget();
+    int nFields = 0;
+    for (QWidget* pWidget : d.dialog.findChildren<QWidget*>())
+    {
+        if ((qobject_cast<QComboBox*>(pWidget) || qobject_cast<QAbstractSpinBox*>(pWidget)) && pWidget->isVisible())
+        {
+            TurnWheel(pWidget, QRectF(pWidget->rect()).center());
+            QVERIFY2(d.dialog.focusWidget() == pHolder, qPrintable(pWidget->objectName()));
+            ++nFields;
+        }
+    }
+    QVERIFY(nFields > 12);
 }
 
 QTEST_MAIN(tst_RealDialog)

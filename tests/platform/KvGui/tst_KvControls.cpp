@@ -82,6 +82,24 @@ struct SSpinBox
     KvSpinBox* pSpinBox;
 };
 
+/// A combo box with two entries in a window, away from the mouse.
+struct SComboBox
+{
+    SComboBox()
+        : pCombo(new KvComboBox(&window))
+    {
+        pCombo->addItems({"One", "Two"});
+        pCombo->setGeometry(20, 20, 200, 32);
+        QCursor::setPos(0, 0);
+        window.setGeometry(100, 100, 400, 300);
+        window.show();
+        QApplication::setActiveWindow(&window);
+    }
+
+    QWidget window;
+    KvComboBox* pCombo;
+};
+
 } // namespace
 
 Q_DECLARE_METATYPE(std::function<void(QStandardItemModel&)>)
@@ -102,6 +120,8 @@ private slots:
     void TextConstructors();
     void ComboBoxesBuildNoListBeforeTheyAreShown();
     void ComboBoxesFollowAStyleThatChangesLater();
+    void AComboBoxWhoseListIsClosedFromElsewhereIsNotHovered();
+    void AComboBoxWhoseListIsClosedFromTheBoxIsHovered();
     void SpinBoxesFollowTheWheelWithTheFocusOnly();
     void SpinBoxesHaveTheDigitsOfTheirRecords();
     void LeavingASpinBoxWithoutAValue_data();
@@ -173,6 +193,35 @@ void tst_KvControls::ComboBoxesFollowAStyleThatChangesLater()
     window.setStyleSheet("KVGUI--KvComboBox { font-size: 26px; }");
 
     QVERIFY(combo.sizeHint().width() > nWidth);
+}
+
+void tst_KvControls::AComboBoxWhoseListIsClosedFromElsewhereIsNotHovered()
+{
+    SComboBox box;
+    QVERIFY(QTest::qWaitForWindowActive(&box.window));
+    QTest::mouseMove(box.pCombo);
+    QTRY_VERIFY(box.pCombo->underMouse());
+    QTest::mouseClick(box.pCombo, Qt::LeftButton);
+    const QAbstractItemView* pList = box.pCombo->view();
+    QVERIFY(pList->isVisible());
+    const QPoint row = pList->visualRect(pList->model()->index(1, 0)).center();
+    QTest::mouseMove(pList->viewport(), row);
+    QTest::mouseMove(pList->viewport(), row + QPoint(3, 0)); // the list wants to see the mouse move
+    QTest::mouseClick(pList->viewport(), Qt::LeftButton, {}, row, QApplication::doubleClickInterval());
+    QCOMPARE(box.pCombo->currentIndex(), 1);
+    QVERIFY(!box.pCombo->underMouse());
+}
+
+void tst_KvControls::AComboBoxWhoseListIsClosedFromTheBoxIsHovered()
+{
+    SComboBox box;
+    QVERIFY(QTest::qWaitForWindowActive(&box.window));
+    QTest::mouseMove(box.pCombo);
+    QTRY_VERIFY(box.pCombo->underMouse());
+    box.pCombo->showPopup();
+    QTest::keyClick(box.pCombo->view(), Qt::Key_Escape);
+    QVERIFY(!box.pCombo->view()->isVisible());
+    QVERIFY(box.pCombo->underMouse());
 }
 
 void tst_KvControls::SpinBoxesFollowTheWheelWithTheFocusOnly()

@@ -74,6 +74,7 @@ private slots:
     void AnEmptyMenuDoesNotOpen_data();
     void AnEmptyMenuDoesNotOpen();
     void TheMousePicks();
+    void TheBoxIsNotHoveredOnceTheMouseHasPicked();
     void HoveringShowsACategory();
     void CrossingCategoriesOnTheWayToTheTypes_data();
     void CrossingCategoriesOnTheWayToTheTypes();
@@ -126,7 +127,7 @@ private:
     QAccessibleInterface* Accessible() const { return QAccessible::queryAccessibleInterface(m_pCombo); }
     QString Value() const { return Accessible()->text(QAccessible::Value); }
     /// Where the menu is, without the frame that the off-screen platform gives every window.
-    QRect Place() const { return {Menu()->windowHandle()->framePosition(), Menu()->size()}; }
+    QRect Place() const { return Menu()->geometry(); }
     bool IsOpen() const { return Menu() && Menu()->isVisible(); }
 
     static QByteArray Type(int nId)
@@ -434,6 +435,18 @@ void tst_AlarmTypeCombox::AnEmptyMenuDoesNotOpen()
     QVERIFY(!IsOpen());
     QTest::keyClicks(m_pCombo, "x");
     QVERIFY(!IsOpen());
+}
+
+void tst_AlarmTypeCombox::TheBoxIsNotHoveredOnceTheMouseHasPicked()
+{
+    QCursor::setPos(0, 0);
+    QTest::mouseMove(m_pCombo);
+    QTRY_VERIFY(m_pCombo->underMouse());
+    QTest::mouseClick(m_pCombo, Qt::LeftButton);
+    QTest::mouseMove(Sub()->viewport(), RowOf(Sub(), 0).center());
+    QTest::mouseClick(Sub()->viewport(), Qt::LeftButton, {}, RowOf(Sub(), 0).center());
+    QVERIFY(!m_pCombo->IsOpen());
+    QVERIFY(!m_pCombo->underMouse());
 }
 
 void tst_AlarmTypeCombox::TheMousePicks()

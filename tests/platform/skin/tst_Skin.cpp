@@ -1,6 +1,7 @@
 // What both skins must be: complete, legible, and different where the eye must see a difference.
 
 #include "support/Skin.h"
+#include "support/SkinColors.h"
 
 #include <KvGui/KvCheckBox.h>
 #include <KvGui/KvComboBox.h>
@@ -11,7 +12,6 @@
 #include <KvGui/KvSpinBox.h>
 #include <KvGui/KvToolListView.h>
 #include <LocalConfig/CGroupBox.h>
-#include <UICommonModule/CAlarmTypeCombox.h>
 #include <UICommonModule/CGlobalInfo.h>
 #include <UICommonModule/CPathEdit.h>
 #include <UICommonModule/Pxa.h>
@@ -19,30 +19,17 @@
 #include <QApplication>
 #include <QDirIterator>
 #include <QImageReader>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QListView>
 #include <QRegularExpression>
 #include <QSet>
 #include <QVBoxLayout>
 #include <QtTest>
 
-#include <cmath>
-
 namespace
 {
-
-const char* const g_arrSkins[] = {"DustyBlue", "White"};
 
 QString Root(const QString& strSkin)
 {
     return UICommonMdl::CGlobalInfo::GetResourcePath() + "/skin/" + strSkin;
-}
-
-QByteArray Read(const QString& strPath)
-{
-    QFile file(strPath);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QStringList Files(const QString& strSkin)
@@ -55,34 +42,6 @@ QStringList Files(const QString& strSkin)
     }
     listFiles.sort();
     return listFiles;
-}
-
-QColor PaletteColor(const QString& strSkin, const QString& strToken)
-{
-    const QByteArray json = Read(QStringLiteral(PALETTE_DIR "/%1/palette.json").arg(strSkin));
-    return QColor(QJsonDocument::fromJson(json).object().value(strToken).toString());
-}
-
-double Luminance(const QColor& color)
-{
-    const auto linear = [](double d) { return d <= 0.03928 ? d / 12.92 : std::pow((d + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double Contrast(const QColor& one, const QColor& other)
-{
-    const double dLight = std::max(Luminance(one), Luminance(other));
-    const double dDark = std::min(Luminance(one), Luminance(other));
-    return (dLight + 0.05) / (dDark + 0.05);
-}
-
-void SkinRows()
-{
-    QTest::addColumn<QString>("strSkin");
-    for (const char* pszSkin : g_arrSkins)
-    {
-        QTest::newRow(pszSkin) << pszSkin;
-    }
 }
 
 } // namespace
@@ -117,8 +76,6 @@ private slots:
     void AReadOnlyFieldLooksReadOnly();
     void TheBrowseButtonLooksDisabled_data() { SkinRows(); }
     void TheBrowseButtonLooksDisabled();
-    void TheAlarmMenuShowsWhichListHasTheKeys_data() { SkinRows(); }
-    void TheAlarmMenuShowsWhichListHasTheKeys();
     void TheErrorLookIsVisible_data() { SkinRows(); }
     void TheErrorLookIsVisible();
     void TheSelectedCardHasABar_data() { SkinRows(); }
@@ -474,29 +431,6 @@ void tst_Skin::TheBrowseButtonLooksDisabled()
     const double dEnabled = strongest();
     edit.setEnabled(false);
     QVERIFY(strongest() < dEnabled - 1);
-}
-
-void tst_Skin::TheAlarmMenuShowsWhichListHasTheKeys()
-{
-    QFETCH(QString, strSkin);
-    UseSkin(strSkin);
-    UICommonMdl::CAlarmTypeCombox combo;
-    combo.InitMenu({{1, "Device"}}, {{1, {{0, "Offline"}}}});
-    combo.show();
-    combo.showPopup();
-    auto* pMain = combo.findChild<QListView*>("mainItems");
-    auto* pSub = combo.findChild<QListView*>("subItems");
-    const auto border = [](QListView* pList) {
-        const QRect row = pList->visualRect(pList->currentIndex());
-        return pList->viewport()->grab(row).toImage().pixelColor(row.width() / 2, 0);
-    };
-    const QColor focus = PaletteColor(strSkin, "focus");
-    for (int nKey : {Qt::Key_Right, Qt::Key_Left})
-    {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key(nKey));
-        QCOMPARE(border(pSub) == focus, nKey == Qt::Key_Right);
-        QCOMPARE(border(pMain) == focus, nKey == Qt::Key_Left);
-    }
 }
 
 void tst_Skin::TheErrorLookIsVisible()
