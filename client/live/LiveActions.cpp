@@ -23,14 +23,15 @@ constexpr int g_nFrameInterval = 200;        // milliseconds
 constexpr int g_nMaxInterval = 24 * 60 * 60; // seconds; what a timer takes, in milliseconds, ends not far above
 constexpr qint64 g_nMegabyte = qint64(1024) * 1024;
 
-void Notify(const QString& strText)
+void NotifySuccess(const QString& strText)
 {
-    KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(strText);
+    KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddSuccessNotification(strText);
 }
 
 void NotifyFailure(const QString& strText, const QString& strFolder, int nCode)
 {
-    Notify(CErrorCode::GetErroCodeInfor(strText.arg(QDir::toNativeSeparators(strFolder)), nCode, true, false));
+    KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(
+        CErrorCode::GetErroCodeInfor(strText.arg(QDir::toNativeSeparators(strFolder)), nCode, true, false));
 }
 
 QString GetFolder(const std::string& strStored, const char* pszDefault)
@@ -128,14 +129,14 @@ void LiveActions::OnPicturesSaved(const QString& strFolder, int nCount)
 {
     // English has no file of translations, so no plural either.
     const QString strText = nCount == 1 ? tr("Picture saved in %1") : tr("%n pictures saved in %1", nullptr, nCount);
-    Notify(strText.arg(QDir::toNativeSeparators(strFolder)));
+    NotifySuccess(strText.arg(QDir::toNativeSeparators(strFolder)));
 }
 
 void LiveActions::OnRecordingSaved(const QStringList& listFiles)
 {
     if (!listFiles.isEmpty())
     {
-        Notify(tr("Recording saved in %1").arg(QDir::toNativeSeparators(listFiles.last())));
+        NotifySuccess(tr("Recording saved in %1").arg(QDir::toNativeSeparators(listFiles.last())));
     }
 }
 

@@ -3,10 +3,14 @@
 #include "KvAlert.h"
 #include "KvErrorMark.h"
 
+#include <QAbstractButton>
 #include <QEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
+#include <QVector>
+
+#include <algorithm>
 
 namespace KVGUI
 {
@@ -14,8 +18,72 @@ namespace KVGUI
 namespace
 {
 
-constexpr int g_nTipDistance = 4; // pixels between field and tip
+constexpr int g_nTipDistance = 4; // pixels between a field and the tip above or below it
+constexpr int g_nTipGap = 8;      // pixels between what stands in a line with the tip and the tip
 constexpr int g_nSignMargin = 8;  // pixels between the sign and the field's edge
+constexpr char g_szTipName[] = "errorTip";
+
+/// What a widget shows within its place: a caption is often given more than its text needs.
+QRect GetShownPart(const QWidget& widget)
+{
+    const auto* pLabel = qobject_cast<const QLabel*>(&widget);
+    const Qt::Alignment eAlignment = pLabel ? pLabel->alignment() : Qt::AlignLeading | Qt::AlignVCenter;
+    const bool bText = pLabel || qobject_cast<const QAbstractButton*>(&widget);
+    const QSize size = bText ? widget.sizeHint().boundedTo(widget.size()) : widget.size();
+    return QStyle::alignedRect(widget.layoutDirection(), eAlignment, size, widget.rect());
+}
+
+/// The places, in a parent, of the captions and controls that are not the field's own.
+QVector<QRect> FindNeighbours(const QWidget& parent, const QWidget& field)
+{
+    QVector<QRect> vecPlaces;
+    for (const QWidget* pWidget : parent.findChildren<QWidget*>())
+    {
+        const bool bCaption =
+            qobject_cast<const QLabel*>(pWidget) && pWidget->objectName() != QLatin1String(g_szTipName);
+        const bool bControl = pWidget->focusPolicy() != Qt::NoFocus;
+        if ((bCaption || bControl) && pWidget->isVisible() && pWidget != &field && !field.isAncestorOf(pWidget) &&
+            !pWidget->isAncestorOf(&field))
+        {
+            vecPlaces += GetShownPart(*pWidget).translated(pWidget->mapTo(&parent, QPoint()));
+        }
+    }
+    return vecPlaces;
+}
+
+/// A place for the tip that covers no neighbour: beside its field or, where there is no room, above it behind the
+/// caption, or below it.
+QRect FindPlace(const QSize& tip, const QRect& field, const QSize& parent, const QVector<QRect>& vecNeighbours)
+{
+    const auto findCovered = [&vecNeighbours](const QRect& place) {
+        return std::find_if(vecNeighbours.begin(), vecNeighbours.end(),
+                            [&place](const QRect& neighbour) { return neighbour.intersects(place); });
+    };
+    const auto behindNeighbours = [&](QRect place) {
+        for (auto it = findCovered(place); it != vecNeighbours.end(); it = findCovered(place))
+        {
+            place.moveLeft(it->right() + 1 + g_nTipGap);
+        }
+        return place;
+    };
+    const int nEnd = parent.width() - tip.width();
+    const int nLeading = qBound(0, field.left(), nEnd);
+    const int nTrailing = qBound(0, field.right() + 1 - tip.width(), nEnd);
+    const int nBelow = field.bottom() + 1 + g_nTipDistance;
+    const int nAbove = field.top() - tip.height() - g_nTipDistance;
+    const QRect beside({field.right() + 1 + g_nTipGap, field.center().y() - tip.height() / 2}, tip);
+    const QRect below({nLeading, nBelow}, tip);
+    const QRect within(QPoint(), parent);
+    for (const QRect& place :
+         {behindNeighbours(beside), behindNeighbours({{nLeading, nAbove}, tip}), below, {{nTrailing, nBelow}, tip}})
+    {
+        if (within.contains(place) && findCovered(place) == vecNeighbours.end())
+        {
+            return place;
+        }
+    }
+    return within.contains(below) ? below : QRect({nLeading, qMax(0, nAbove)}, tip);
+}
 
 } // namespace
 
@@ -135,7 +203,7 @@ void KvLineEdit::ShowTip(QWidget* pTipParent, const QString& strText)
     if (!m_pTip)
     {
         m_pTip = new QLabel(pTipParent);
-        m_pTip->setObjectName(QStringLiteral("errorTip"));
+        m_pTip->setObjectName(QString::fromLatin1(g_szTipName));
         m_pTip->setAttribute(Qt::WA_TransparentForMouseEvents);
         m_pTip->setWordWrap(true);
         connect(m_pTip, &QLabel::destroyed, this, &KvLineEdit::OnTipGone);
@@ -188,7 +256,6 @@ void KvLineEdit::PlaceTip()
         return;
     }
     const QWidget* pParent = m_pTip->parentWidget();
-    const QPoint field = pParent->mapFromGlobal(mapToGlobal(QPoint()));
     m_pTip->setWordWrap(false);
     m_pTip->setMinimumWidth(0);
     m_pTip->setMaximumWidth(QWIDGETSIZE_MAX);
@@ -199,12 +266,14 @@ void KvLineEdit::PlaceTip()
         m_pTip->setFixedWidth(pParent->width());
         m_pTip->adjustSize();
     }
-    const int nStart = layoutDirection() == Qt::RightToLeft ? field.x() + width() - m_pTip->width() : field.x();
-    const int nX = qBound(0, nStart, pParent->width() - m_pTip->width());
-    const int nBelow = field.y() + height() + g_nTipDistance;
-    const bool bFitsBelow = nBelow + m_pTip->height() <= pParent->height();
-    const int nY = bFitsBelow ? nBelow : qMax(0, field.y() - m_pTip->height() - g_nTipDistance);
-    m_pTip->move(nX, nY);
+    // Reckoned as from left to right.
+    const auto mirror = [this, pParent](const QRect& place) {
+        return QStyle::visualRect(layoutDirection(), pParent->rect(), place);
+    };
+    const QRect field = mirror(QRect(pParent->mapFromGlobal(mapToGlobal(QPoint())), size()));
+    QVector<QRect> vecNeighbours = FindNeighbours(*pParent, *this);
+    std::transform(vecNeighbours.begin(), vecNeighbours.end(), vecNeighbours.begin(), mirror);
+    m_pTip->move(mirror(FindPlace(m_pTip->size(), field, pParent->size(), vecNeighbours)).topLeft());
     m_pTip->raise();
 }
 

@@ -1,6 +1,8 @@
 #include "KvMessageNotify.h"
 
 #include "KvAlert.h"
+#include "KvButtonRow.h"
+#include "KvPushButton.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -24,38 +26,107 @@ constexpr int g_nTop = 48;     // pixels below the window's top, clear of a titl
 constexpr int g_nDistance = 8; // between bars
 constexpr int g_nSideMargin = 24;
 constexpr int g_nMaxWidth = 560;
+constexpr int g_nMarkSize = 16;
+constexpr int g_nMinGap = 320;      // between the buttons of a dialog; in less a bar would be too high
+constexpr int g_nFailureFactor = 2; // a failure stays that much longer than a success
 
 class CNotifyBar : public QFrame
 {
 public:
-    CNotifyBar(const QString& strText, QWidget* pWindow, int nDuration)
+    CNotifyBar(const QString& strText, bool bFailure, QWidget* pWindow)
         : QFrame(pWindow)
+        , m_bFailure(bFailure)
         , m_pText(new QLabel(strText, this))
     {
         m_timer.setSingleShot(true);
-        m_timer.setInterval(nDuration);
         connect(&m_timer, &QTimer::timeout, this, [this] { m_endHandler(); });
         setObjectName(QStringLiteral("notifyBar"));
+        setProperty("failure", bFailure);
         setAttribute(Qt::WA_StyledBackground);
         setAutoFillBackground(true);
         setAccessibleName(strText);
         setCursor(Qt::PointingHandCursor);
+        auto* pMark = new QLabel(this);
+        pMark->setObjectName(QStringLiteral("notifyMark"));
+        pMark->setAttribute(Qt::WA_TransparentForMouseEvents);
+        pMark->setFixedSize(g_nMarkSize, g_nMarkSize);
         m_pText->setObjectName(QStringLiteral("notifyText"));
         m_pText->setTextFormat(Qt::PlainText);
         m_pText->setWordWrap(true);
         m_pText->setAttribute(Qt::WA_TransparentForMouseEvents);
         auto* pLayout = new QHBoxLayout(this);
-        pLayout->setContentsMargins(16, 10, 16, 10);
-        pLayout->addWidget(m_pText);
+        pLayout->setContentsMargins(12, 6, 16, 6);
+        pLayout->setSpacing(8);
+        pLayout->addWidget(pMark, 0, Qt::AlignVCenter);
+        pLayout->addWidget(m_pText, 1);
+    }
+
+    bool Tells(const QString& strText, bool bFailure) const
+    {
+        return bFailure == m_bFailure && strText == m_pText->text();
     }
 
     /// Called when the bar is clicked or has been seen for long enough.
     void SetEndHandler(std::function<void()> handler) { m_endHandler = std::move(handler); }
 
+    /// Begins the time that the bar stays.
+    void Renew(int nDuration)
+    {
+        m_timer.stop();
+        m_timer.setInterval(nDuration);
+        SettleTimer();
+    }
+
     /// Time passes only while the bar can be seen.
     void SetSeen(bool bSeen)
     {
-        if (!bSeen)
+        m_bSeen = bSeen;
+        SettleTimer();
+    }
+
+    /// As wide as the text needs, as high as it is then.
+    void FitInto(int nWidth)
+    {
+        ensurePolished();
+        m_pText->ensurePolished();
+        const QMargins margins = layout()->contentsMargins();
+        const int nNatural = m_pText->fontMetrics().horizontalAdvance(m_pText->text()) + g_nMarkSize +
+                             layout()->spacing() + margins.left() + margins.right() + 4;
+        const int nBarWidth = qMin(nNatural, nWidth);
+        resize(nBarWidth, layout()->hasHeightForWidth() ? layout()->heightForWidth(nBarWidth) : sizeHint().height());
+    }
+
+protected:
+    void enterEvent(QEvent* pEvent) override
+    {
+        QFrame::enterEvent(pEvent);
+        m_bRead = true;
+        SettleTimer();
+    }
+
+    void leaveEvent(QEvent* pEvent) override
+    {
+        QFrame::leaveEvent(pEvent);
+        m_bRead = false;
+        SettleTimer();
+    }
+
+    void hideEvent(QHideEvent* pEvent) override
+    {
+        QFrame::hideEvent(pEvent);
+        m_bRead = false;
+    }
+
+    void mousePressEvent(QMouseEvent* pEvent) override
+    {
+        pEvent->accept();
+        m_endHandler();
+    }
+
+private:
+    void SettleTimer()
+    {
+        if (!m_bSeen || m_bRead)
         {
             m_timer.stop();
         }
@@ -65,29 +136,12 @@ public:
         }
     }
 
-    /// As wide as the text needs, as high as it is then.
-    void FitInto(int nWidth)
-    {
-        ensurePolished();
-        m_pText->ensurePolished();
-        const QMargins margins = layout()->contentsMargins();
-        const int nNatural =
-            m_pText->fontMetrics().horizontalAdvance(m_pText->text()) + margins.left() + margins.right() + 4;
-        const int nBarWidth = qMin(nNatural, nWidth);
-        resize(nBarWidth, layout()->hasHeightForWidth() ? layout()->heightForWidth(nBarWidth) : sizeHint().height());
-    }
-
-protected:
-    void mousePressEvent(QMouseEvent* pEvent) override
-    {
-        pEvent->accept();
-        m_endHandler();
-    }
-
-private:
+    bool m_bFailure;
     QLabel* m_pText;
     QTimer m_timer;
     std::function<void()> m_endHandler;
+    bool m_bSeen = false;
+    bool m_bRead = false; // the mouse is over it
 };
 
 QWidget* FindWindow(const QWidget* pExcept, bool bMinimized)
@@ -126,6 +180,33 @@ QWidget* FindWindow(const QWidget* pExcept)
     return pWindow ? pWindow : FindWindow(pExcept, true);
 }
 
+/// The widest room between the buttons of a dialog, in the dialog; empty when there is none worth speaking of.
+QRect FindGap(const QWidget* pWindow)
+{
+    const auto* pRow = pWindow->findChild<KvButtonRow*>();
+    if (!pRow || !pRow->isVisibleTo(pWindow))
+    {
+        return {};
+    }
+    QList<QRect> listButtons;
+    for (const auto* pButton : pRow->findChildren<KvPushButton*>())
+    {
+        listButtons += pButton->geometry();
+    }
+    listButtons += QRect(pRow->width(), 0, 0, 0);
+    std::sort(listButtons.begin(), listButtons.end(),
+              [](const QRect& one, const QRect& other) { return one.left() < other.left(); });
+    QRect widest;
+    int nLeft = 0;
+    for (const QRect& button : qAsConst(listButtons))
+    {
+        const QRect gap(nLeft + g_nDistance, 0, button.left() - nLeft - 2 * g_nDistance, pRow->height());
+        widest = gap.width() > widest.width() ? gap : widest;
+        nLeft = button.right() + 1;
+    }
+    return widest.width() >= g_nMinGap ? widest.translated(pRow->mapTo(pWindow, QPoint())) : QRect();
+}
+
 } // namespace
 
 KvMessageNotify::KvMessageNotify()
@@ -156,9 +237,19 @@ int KvMessageNotify::GetDuration() const
 
 void KvMessageNotify::AddTextNotification(const QString& strText)
 {
+    Add(strText, true);
+}
+
+void KvMessageNotify::AddSuccessNotification(const QString& strText)
+{
+    Add(strText, false);
+}
+
+void KvMessageNotify::Add(const QString& strText, bool bFailure)
+{
     if (QThread::currentThread() != thread())
     {
-        QMetaObject::invokeMethod(this, "AddTextNotification", Qt::QueuedConnection, Q_ARG(QString, strText));
+        QMetaObject::invokeMethod(this, "Add", Qt::QueuedConnection, Q_ARG(QString, strText), Q_ARG(bool, bFailure));
         return;
     }
     if (strText.isEmpty())
@@ -167,16 +258,35 @@ void KvMessageNotify::AddTextNotification(const QString& strText)
     }
     if (QWidget* pWindow = FindWindow(nullptr))
     {
-        auto* pBar = new CNotifyBar(strText, pWindow, m_nDuration);
-        pBar->SetEndHandler([this, pBar] { Remove(pBar); });
         m_listBars.removeAll(nullptr); // bars that have died with their window
-        m_listBars += pBar;
+        auto* pBar = static_cast<CNotifyBar*>(FindBar(strText, bFailure));
+        if (!pBar)
+        {
+            pBar = new CNotifyBar(strText, bFailure, pWindow);
+            pBar->SetEndHandler([this, pBar] { Remove(pBar); });
+        }
+        else if (pBar->parentWidget() != pWindow)
+        {
+            const QWidget* pBefore = pBar->parentWidget();
+            pBar->setParent(pWindow);
+            Arrange(pBefore);
+        }
+        m_listBars.removeAll(pBar);
+        m_listBars += pBar; // the newest
+        pBar->Renew(m_nDuration * (bFailure ? g_nFailureFactor : 1));
         Watch(pWindow);
         Arrange(pWindow);
         KvAlert::Show(pBar);
-        pBar->SetSeen(!pWindow->isMinimized());
     }
     emit SignalTextNotificationAdded(strText);
+}
+
+QWidget* KvMessageNotify::FindBar(const QString& strText, bool bFailure) const
+{
+    const auto it = std::find_if(m_listBars.begin(), m_listBars.end(), [&](const QPointer<QWidget>& pBar) {
+        return pBar && static_cast<const CNotifyBar*>(pBar.data())->Tells(strText, bFailure);
+    });
+    return it == m_listBars.end() ? nullptr : it->data();
 }
 
 void KvMessageNotify::Remove(QWidget* pBar)
@@ -193,57 +303,69 @@ void KvMessageNotify::Watch(QWidget* pWindow)
     pWindow->installEventFilter(this);
 }
 
+QList<QWidget*> KvMessageNotify::GetBars(const QWidget* pWindow) const
+{
+    QList<QWidget*> listBars;
+    for (const QPointer<QWidget>& pBar : m_listBars)
+    {
+        if (pBar && pBar->parentWidget() == pWindow)
+        {
+            listBars += pBar;
+        }
+    }
+    return listBars;
+}
+
 void KvMessageNotify::Arrange(const QWidget* pWindow)
 {
-    int nTop = g_nTop;
-    for (const QPointer<QWidget>& pWidget : qAsConst(m_listBars))
+    const QList<QWidget*> listBars = GetBars(pWindow);
+    if (listBars.isEmpty())
     {
-        if (!pWidget || pWidget->parentWidget() != pWindow)
+        return;
+    }
+    const QRect gap = FindGap(pWindow);
+    int nTop = g_nTop;
+    for (QWidget* pWidget : listBars)
+    {
+        auto* pBar = static_cast<CNotifyBar*>(pWidget);
+        if (gap.isEmpty())
         {
-            continue;
+            pBar->FitInto(qMin(g_nMaxWidth, pWindow->width() - 2 * g_nSideMargin));
+            pBar->move((pWindow->width() - pBar->width()) / 2, nTop);
+            nTop += pBar->height() + g_nDistance;
         }
-        auto* pBar = static_cast<CNotifyBar*>(pWidget.data());
-        pBar->FitInto(qMin(g_nMaxWidth, pWindow->width() - 2 * g_nSideMargin));
-        pBar->move((pWindow->width() - pBar->width()) / 2, nTop);
+        else
+        {
+            pBar->FitInto(gap.width());
+            const int nAbove = (gap.height() - pBar->height()) / 2; // a text of many lines grows over the content
+            pBar->move(gap.center().x() - pBar->width() / 2, gap.top() + qMin(nAbove, gap.height() - pBar->height()));
+        }
+        const bool bShow = gap.isEmpty() || pWidget == listBars.last();
+        pBar->setVisible(bShow);
+        pBar->SetSeen(bShow && !pWindow->isMinimized());
         pBar->raise();
-        nTop += pBar->height() + g_nDistance;
     }
 }
 
 void KvMessageNotify::MoveAwayFrom(QWidget* pWindow)
 {
     QWidget* pNew = FindWindow(pWindow);
-    if (!pNew)
+    const QList<QWidget*> listBars = GetBars(pWindow);
+    if (!pNew || listBars.isEmpty())
     {
         return;
     }
-    bool bMoved = false;
-    for (const QPointer<QWidget>& pBar : qAsConst(m_listBars))
+    for (QWidget* pBar : listBars)
     {
-        if (pBar && pBar->parentWidget() == pWindow)
-        {
-            pBar->setParent(pNew);
-            pBar->show();
-            bMoved = true;
-        }
+        pBar->setParent(pNew);
     }
-    if (bMoved)
-    {
-        Watch(pNew);
-        Arrange(pNew);
-        OnWindowStateChange(pNew);
-    }
+    Watch(pNew);
+    Arrange(pNew);
 }
 
 void KvMessageNotify::OnWindowStateChange(const QWidget* pWindow)
 {
-    for (const QPointer<QWidget>& pBar : qAsConst(m_listBars))
-    {
-        if (pBar && pBar->parentWidget() == pWindow)
-        {
-            static_cast<CNotifyBar*>(pBar.data())->SetSeen(!pWindow->isMinimized());
-        }
-    }
+    Arrange(pWindow);
 }
 
 bool KvMessageNotify::eventFilter(QObject* pWatched, QEvent* pEvent)

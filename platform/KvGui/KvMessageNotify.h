@@ -10,20 +10,26 @@
 namespace KVGUI
 {
 
-/// The client's notifications: transient bars at the top of the active window, below each other, each of which goes by
-/// itself or when it is clicked. They take no focus. When their window closes they move to another one; while it is
-/// minimized they stay.
+/// The client's notifications: transient bars over the active window, each of which goes by itself or when it is
+/// clicked, but not while the mouse is over it. They take no focus. In a dialog with a row of buttons the newest one
+/// stands between them, where it covers nothing, and the others wait; elsewhere they stand below each other at the top.
+/// When their window closes they move to another one; while it is minimized they stay.
 ///
-/// Reached through KvSingleton. AddTextNotification may be called from any thread.
+/// Reached through KvSingleton. Texts may be added from any thread.
 class KVGUI_EXPORT KvMessageNotify : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Shows a text; an empty one does nothing. Without a visible window only the signal is emitted.
+    /// Tells of something that has failed or that the operator must know. An empty text does nothing, and an equal one
+    /// renews the bar that stands. Without a visible window only the signal is emitted.
     Q_INVOKABLE void AddTextNotification(const QString& strText);
 
-    /// How long a bar stays, in milliseconds; 5000 at first. Applies to bars that are still to come.
+    /// Tells of something that has worked; otherwise the same.
+    Q_INVOKABLE void AddSuccessNotification(const QString& strText);
+
+    /// How long a success stays, in milliseconds; 5000 at first. Anything else stays twice as long. Applies to bars
+    /// that are still to come, and to those that are renewed.
     void SetDuration(int nMilliseconds);
     int GetDuration() const; ///< in milliseconds
 
@@ -37,8 +43,11 @@ private:
     friend class KvSingleton<KvMessageNotify>;
     KvMessageNotify();
 
+    Q_INVOKABLE void Add(const QString& strText, bool bFailure);
+    QWidget* FindBar(const QString& strText, bool bFailure) const;
     void Remove(QWidget* pBar);
     void Watch(QWidget* pWindow);
+    QList<QWidget*> GetBars(const QWidget* pWindow) const;
     void Arrange(const QWidget* pWindow);
     void MoveAwayFrom(QWidget* pWindow);
     void OnWindowStateChange(const QWidget* pWindow);

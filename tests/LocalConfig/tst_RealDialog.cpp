@@ -7,6 +7,8 @@
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
 
 using namespace LocalConfig;
 
@@ -21,6 +23,10 @@ private slots:
     void ScrollingSelectsAShownSection_data();
     void ScrollingSelectsAShownSection();
     void TheWheelTakesTheFocusNowhere();
+    void NotificationsCoverNothingOfTheDialog_data();
+    void NotificationsCoverNothingOfTheDialog();
+    void ErrorTipsCoverNothingOfTheirPage_data();
+    void ErrorTipsCoverNothingOfTheirPage();
 };
 
 void tst_RealDialog::EverySectionHasItsPage()
@@ -88,6 +94,84 @@ void tst_RealDialog::TheWheelTakesTheFocusNowhere()
         }
     }
     QVERIFY(nFields > 12);
+}
+
+void tst_RealDialog::NotificationsCoverNothingOfTheDialog_data()
+{
+    QTest::addColumn<int>("nDesktopHeight");
+    QTest::newRow("ordinary desktop") << 1080;
+    QTest::newRow("low desktop") << 768;
+}
+
+void tst_RealDialog::NotificationsCoverNothingOfTheDialog()
+{
+    QFETCH(int, nDesktopHeight);
+    QApplication::desktop()->setGeometry(0, 0, 1920, nDesktopHeight);
+    SRealHost host;
+    SRealDialog d(host);
+    d.Open();
+    auto* pEdit = d.Find<QLineEdit>("picNumEdit");
+    pEdit->clear();
+    d.Click("btnOk");
+    const auto* pBar = d.dialog.findChild<QWidget*>("notifyBar");
+    QVERIFY(pBar && pBar->isVisible());
+    const auto place = [&d](const QWidget* pWidget) {
+        return QRect(pWidget->mapTo(&d.dialog, QPoint()), pWidget->size());
+    };
+    QVERIFY(d.dialog.rect().contains(place(pBar)));
+    for (const QWidget* pOther : std::initializer_list<const QWidget*>{d.ScrollArea(), d.List(), d.Button("btnOk"),
+                                                                       d.Button("btnOther"), d.Button("btnCancel")})
+    {
+        QVERIFY2(!place(pBar).intersects(place(pOther)), qPrintable(pOther->objectName()));
+    }
+}
+
+void tst_RealDialog::ErrorTipsCoverNothingOfTheirPage_data()
+{
+    QTest::addColumn<QString>("strPage");
+    QTest::addColumn<QString>("strField");
+    QTest::addColumn<QString>("strText");
+    QTest::newRow("picture path") << "m_pCapture"
+                                  << "picPathEdit" << QString(200, 'a');
+    QTest::newRow("number of pictures") << "m_pCapture"
+                                        << "picNumEdit"
+                                        << "";
+    QTest::newRow("record path") << "m_pRecord"
+                                 << "recPathEdit" << QString(200, 'a');
+    QTest::newRow("size of a file") << "m_pRecord"
+                                    << "maxRecSizeEdit"
+                                    << "9";
+}
+
+void tst_RealDialog::ErrorTipsCoverNothingOfTheirPage()
+{
+    QFETCH(QString, strPage);
+    QFETCH(QString, strField);
+    QFETCH(QString, strText);
+    SRealHost host;
+    SRealDialog d(host);
+    d.Open();
+    auto* pPage = d.Find<QWidget>(qPrintable(strPage));
+    auto* pField = d.Find<QLineEdit>(qPrintable(strField));
+    QVERIFY(pPage && pField);
+    pField->setFocus();
+    pField->selectAll();
+    QTest::keyClick(pField, Qt::Key_Delete);
+    QTest::keyClicks(pField, strText);
+    d.List()->setFocus();
+    const auto* pTip = pPage->findChild<QLabel*>("errorTip");
+    QVERIFY(pTip && pTip->isVisible());
+    for (const QWidget* pOther : pPage->findChildren<QWidget*>())
+    {
+        const auto* pLabel = qobject_cast<const QLabel*>(pOther);
+        const bool bCounts = (pLabel && pLabel != pTip) || (pOther->focusPolicy() & Qt::TabFocus);
+        if (bCounts && pOther->isVisible())
+        {
+            const QSize shown = pLabel ? pLabel->sizeHint().boundedTo(pLabel->size()) : pOther->size();
+            const QRect place(pOther->mapTo(pPage, QPoint()), QSize(shown.width(), pOther->height()));
+            QVERIFY2(!place.intersects(pTip->geometry()), qPrintable(pOther->objectName()));
+        }
+    }
 }
 
 QTEST_MAIN(tst_RealDialog)

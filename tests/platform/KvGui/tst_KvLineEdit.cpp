@@ -70,8 +70,10 @@ private slots:
     void ClearingTakesBothAway();
     void ANewTextReplacesTheOld();
     void StyleSheetsSeeTheMark();
-    void TheTipStandsBelowTheField();
-    void TheTipIsMirrored();
+    void TheTipStandsBesideTheField_data();
+    void TheTipStandsBesideTheField();
+    void TheTipCoversNoNeighbour_data();
+    void TheTipCoversNoNeighbour();
     void TheTipStaysWithinItsParent_data();
     void TheTipStaysWithinItsParent();
     void TheTipFollowsTheField();
@@ -180,21 +182,76 @@ void tst_KvLineEdit::StyleSheetsSeeTheMark()
     QCOMPARE(m_pEdit->palette().color(QPalette::Text), QColor(0, 0, 0));
 }
 
-void tst_KvLineEdit::TheTipStandsBelowTheField()
+void tst_KvLineEdit::TheTipStandsBesideTheField_data()
 {
-    m_pEdit->showErrorHint(m_pParent.data(), true, "Too long");
-    QVERIFY(Tip()->geometry().top() > m_pEdit->geometry().bottom());
-    QCOMPARE(Tip()->geometry().left(), m_pEdit->geometry().left());
-    QVERIFY(Tip()->geometry().top() - m_pEdit->geometry().bottom() < 10);
+    QTest::addColumn<Qt::LayoutDirection>("eDirection");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
 }
 
-void tst_KvLineEdit::TheTipIsMirrored()
+void tst_KvLineEdit::TheTipStandsBesideTheField()
 {
-    m_pEdit->setLayoutDirection(Qt::RightToLeft);
-    m_pEdit->move(200, 60);
+    QFETCH(Qt::LayoutDirection, eDirection);
+    m_pEdit->setLayoutDirection(eDirection);
+    m_pEdit->move(140, 60);
     m_pEdit->showErrorHint(m_pParent.data(), true, "Too long");
-    QVERIFY(Tip()->width() < m_pEdit->width());
-    QCOMPARE(Tip()->geometry().right(), m_pEdit->geometry().right());
+    const QRect field = m_pEdit->geometry();
+    const QRect tip = Tip()->geometry();
+    const int nDistance = eDirection == Qt::LeftToRight ? tip.left() - field.right() : field.left() - tip.right();
+    QVERIFY2(nDistance > 0 && nDistance < 10, qPrintable(QString::number(nDistance)));
+    QVERIFY(qAbs(tip.center().y() - field.center().y()) <= 1);
+}
+
+void tst_KvLineEdit::TheTipCoversNoNeighbour_data()
+{
+    QTest::addColumn<QRect>("field");
+    QTest::addColumn<QList<QRect>>("listCaptions");
+    QTest::addColumn<QPoint>("direction"); // from the field to the tip
+    const QRect narrow(20, 60, 120, 32);
+    const QRect wide(20, 60, 370, 32);
+    const QRect above(20, 36, 60, 20);
+    const QRect whole(20, 36, 370, 20);
+    QTest::newRow("a hint behind the field") << narrow << QList<QRect>{above, {148, 66, 50, 20}} << QPoint(1, 0);
+    QTest::newRow("a hint that ends the line") << narrow << QList<QRect>{above, {148, 66, 240, 20}} << QPoint(0, -1);
+    QTest::newRow("no room but behind the caption") << wide << QList<QRect>{above} << QPoint(0, -1);
+    QTest::newRow("no room but below") << wide << QList<QRect>{whole} << QPoint(0, 1);
+    QTest::newRow("no room but behind the next caption")
+        << wide << QList<QRect>{whole, {20, 98, 60, 20}} << QPoint(0, 1);
+}
+
+void tst_KvLineEdit::TheTipCoversNoNeighbour()
+{
+    QFETCH(QRect, field);
+    QFETCH(QList<QRect>, listCaptions);
+    QFETCH(QPoint, direction);
+    for (const bool bMirrored : {false, true})
+    {
+        const auto place = [&](const QRect& rect) {
+            return QStyle::visualRect(bMirrored ? Qt::RightToLeft : Qt::LeftToRight, m_pParent->rect(), rect);
+        };
+        m_pParent->setLayoutDirection(bMirrored ? Qt::RightToLeft : Qt::LeftToRight);
+        m_pEdit->setGeometry(place(field));
+        QWidget others(m_pParent.data());
+        others.resize(m_pParent->size());
+        for (const QRect& caption : listCaptions)
+        {
+            auto* pCaption = new QLabel("A long caption that fills its place, however wide", &others);
+            pCaption->setGeometry(place(caption));
+        }
+        others.show();
+        m_pEdit->showErrorHint(m_pParent.data(), true, "Too long");
+        const QRect tip = Tip()->geometry();
+        for (const QRect& caption : listCaptions)
+        {
+            QVERIFY(!tip.intersects(place(caption)));
+        }
+        QVERIFY(m_pParent->rect().contains(tip));
+        QVERIFY(!tip.intersects(m_pEdit->geometry()));
+        const int nAside = (tip.left() > m_pEdit->geometry().right()) - (tip.right() < m_pEdit->geometry().left());
+        const int nBelow = (tip.top() > m_pEdit->geometry().bottom()) - (tip.bottom() < m_pEdit->geometry().top());
+        QCOMPARE(QPoint(bMirrored ? -nAside : nAside, nBelow), direction);
+        m_pEdit->showErrorHint(nullptr, true, QString());
+    }
 }
 
 void tst_KvLineEdit::TheTipStaysWithinItsParent_data()
@@ -224,9 +281,9 @@ void tst_KvLineEdit::TheTipStaysWithinItsParent()
 void tst_KvLineEdit::TheTipFollowsTheField()
 {
     m_pEdit->showErrorHint(m_pParent.data(), true, "Too long");
-    m_pEdit->move(100, 100);
-    QCOMPARE(Tip()->geometry().left(), 100);
-    QVERIFY(Tip()->geometry().top() > 100);
+    const QPoint before = Tip()->pos();
+    m_pEdit->move(m_pEdit->pos() + QPoint(30, 40));
+    QCOMPARE(Tip()->pos(), before + QPoint(30, 40));
 }
 
 void tst_KvLineEdit::TheTipHidesWithTheField()

@@ -1,9 +1,11 @@
+#include <KvGui/KvCustomDialog.h>
 #include <KvGui/KvMessageNotify.h>
 
 #include <QApplication>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -40,11 +42,29 @@ QString Text(const QFrame* pBar)
 
 void Show(QWidget& window)
 {
-    window.resize(600, 400);
+    if (!qobject_cast<KVGUI::KvCustomDialog*>(&window))
+    {
+        window.resize(600, 400);
+    }
     window.show();
     QApplication::setActiveWindow(&window);
     QVERIFY(QTest::qWaitForWindowActive(&window));
 }
+
+/// A dialog with the buttons of the settings dialog.
+struct SButtonDialog : KVGUI::KvCustomDialog
+{
+    explicit SButtonDialog(int nWidth)
+        : KvCustomDialog(Ok | Other | Cancel, nullptr, 1)
+    {
+        GetCentralWidget()->setFixedSize(nWidth, 300);
+        SetButtonText(Ok, "Save");
+        SetButtonText(Other, "Default");
+        SetButtonText(Cancel, "Cancel");
+    }
+
+    QRect PlaceOf(const QWidget* pWidget) const { return {pWidget->mapTo(this, QPoint()), pWidget->size()}; }
+};
 
 } // namespace
 
@@ -60,6 +80,16 @@ private slots:
     void EmitsTheText();
     void AnEmptyTextIsIgnored();
     void WithoutAWindowOnlyTheSignalIsEmitted();
+    void AnEqualTextRenewsTheBarThatStands();
+    void AnEqualTextBringsTheBarToTheActiveWindow();
+    void ASuccessDoesNotRenewAFailure();
+    void ABarWaitsWhileTheMouseIsOverIt();
+    void FailuresStayLonger();
+    void StyleSheetsTellFailuresFromSuccesses();
+    void InADialogTheBarStandsBetweenTheButtons_data();
+    void InADialogTheBarStandsBetweenTheButtons();
+    void InADialogTheOthersWaitForTheNewest();
+    void WhereTheButtonsLeaveNoRoomTheBarStandsAtTheTop();
     void SeveralStack();
     void EachGoesByItself();
     void AClickDismissesAndTheRestMovesUp();
@@ -122,6 +152,134 @@ void tst_KvMessageNotify::WithoutAWindowOnlyTheSignalIsEmitted()
     QSignalSpy spy(Notify(), &KvMessageNotify::SignalTextNotificationAdded);
     Notify()->AddTextNotification("Saved");
     QCOMPARE(spy.size(), 1);
+}
+
+void tst_KvMessageNotify::AnEqualTextRenewsTheBarThatStands()
+{
+    QWidget window;
+    Show(window);
+    Notify()->SetDuration(200);
+    Notify()->AddSuccessNotification("Saved");
+    QTest::qWait(120);
+    QSignalSpy spy(Notify(), &KvMessageNotify::SignalTextNotificationAdded);
+    Notify()->AddSuccessNotification("Saved");
+    QCOMPARE(Bars(window).size(), 1);
+    QCOMPARE(spy.size(), 1);
+    QTest::qWait(120);
+    QCOMPARE(Bars(window).size(), 1);
+    QTRY_VERIFY(Bars(window).isEmpty());
+}
+
+void tst_KvMessageNotify::AnEqualTextBringsTheBarToTheActiveWindow()
+{
+    QWidget main;
+    Show(main);
+    Notify()->AddTextNotification("Lost the server");
+    QWidget dialog(&main, Qt::Dialog);
+    Show(dialog);
+    Notify()->AddTextNotification("Lost the server");
+    QCOMPARE(Bars(dialog).size(), 1);
+    QCOMPARE(Bars(main).size(), 1); // which has the dialog's among its own
+}
+
+void tst_KvMessageNotify::ASuccessDoesNotRenewAFailure()
+{
+    QWidget window;
+    Show(window);
+    Notify()->AddTextNotification("Disk");
+    Notify()->AddSuccessNotification("Disk");
+    QCOMPARE(Bars(window).size(), 2);
+}
+
+void tst_KvMessageNotify::ABarWaitsWhileTheMouseIsOverIt()
+{
+    QWidget window;
+    Show(window);
+    Notify()->SetDuration(100);
+    Notify()->AddSuccessNotification("Saved");
+    QFrame* pBar = Bars(window).first();
+    QCursor::setPos(window.mapToGlobal({1, 1}));
+    QTest::mouseMove(pBar);
+    QTRY_VERIFY(pBar->underMouse());
+    QTest::qWait(250);
+    QCOMPARE(Bars(window).size(), 1);
+    QTest::mouseMove(&window, {1, 1});
+    QTRY_VERIFY(!pBar->underMouse());
+    QCOMPARE(Bars(window).size(), 1);
+    QTRY_VERIFY(Bars(window).isEmpty());
+}
+
+void tst_KvMessageNotify::FailuresStayLonger()
+{
+    QWidget window;
+    Show(window);
+    Notify()->SetDuration(200);
+    Notify()->AddTextNotification("Failed");
+    Notify()->AddSuccessNotification("Saved");
+    QTRY_COMPARE(Bars(window).size(), 1);
+    QCOMPARE(Text(Bars(window).first()), QString("Failed"));
+    QTRY_VERIFY(Bars(window).isEmpty());
+}
+
+void tst_KvMessageNotify::StyleSheetsTellFailuresFromSuccesses()
+{
+    QWidget window;
+    window.setStyleSheet("QFrame#notifyBar[failure=\"true\"] QLabel { color: rgb(1, 2, 3); }");
+    Show(window);
+    Notify()->AddTextNotification("Failed");
+    Notify()->AddSuccessNotification("Saved");
+    const auto colour = [&window](int nBar) {
+        return Bars(window)[nBar]->findChild<QLabel*>("notifyText")->palette().color(QPalette::WindowText);
+    };
+    QCOMPARE(colour(0), QColor(1, 2, 3));
+    QVERIFY(colour(1) != QColor(1, 2, 3));
+}
+
+void tst_KvMessageNotify::InADialogTheBarStandsBetweenTheButtons_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("eDirection");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
+}
+
+void tst_KvMessageNotify::InADialogTheBarStandsBetweenTheButtons()
+{
+    QFETCH(Qt::LayoutDirection, eDirection);
+    SButtonDialog dialog(900);
+    dialog.setLayoutDirection(eDirection);
+    Show(dialog);
+    Notify()->AddTextNotification(QString("words and words ").repeated(6));
+    const QFrame* pBar = Bars(dialog).first();
+    const QRect bar(pBar->mapTo(&dialog, QPoint()), pBar->size());
+    QVERIFY(dialog.rect().contains(bar));
+    QVERIFY(!bar.intersects(dialog.PlaceOf(dialog.GetCentralWidget())));
+    for (const QPushButton* pButton : dialog.findChildren<QPushButton*>())
+    {
+        QVERIFY(!bar.intersects(dialog.PlaceOf(pButton)));
+    }
+}
+
+void tst_KvMessageNotify::InADialogTheOthersWaitForTheNewest()
+{
+    SButtonDialog dialog(900);
+    Show(dialog);
+    Notify()->SetDuration(60);
+    Notify()->AddTextNotification("First");
+    Notify()->SetDuration(200);
+    Notify()->AddTextNotification("Second");
+    QCOMPARE(Bars(dialog).size(), 1);
+    QCOMPARE(Text(Bars(dialog).first()), QString("Second"));
+    QTRY_COMPARE(Text(Bars(dialog).first()), QString("First"));
+    QCOMPARE(Bars(dialog).size(), 1);
+    QTRY_VERIFY(Bars(dialog).isEmpty());
+}
+
+void tst_KvMessageNotify::WhereTheButtonsLeaveNoRoomTheBarStandsAtTheTop()
+{
+    SButtonDialog dialog(400);
+    Show(dialog);
+    Notify()->AddTextNotification("Failed");
+    QVERIFY(Bars(dialog).first()->y() < 100);
 }
 
 void tst_KvMessageNotify::SeveralStack()

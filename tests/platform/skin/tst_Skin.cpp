@@ -7,6 +7,7 @@
 #include <KvGui/KvComboBox.h>
 #include <KvGui/KvLineEdit.h>
 #include <KvGui/KvMessageBox.h>
+#include <KvGui/KvMessageNotify.h>
 #include <KvGui/KvPushButton.h>
 #include <KvGui/KvRadioButton.h>
 #include <KvGui/KvSpinBox.h>
@@ -19,6 +20,7 @@
 #include <QApplication>
 #include <QDirIterator>
 #include <QImageReader>
+#include <QLabel>
 #include <QRegularExpression>
 #include <QSet>
 #include <QVBoxLayout>
@@ -76,6 +78,8 @@ private slots:
     void AReadOnlyFieldLooksReadOnly();
     void TheBrowseButtonLooksDisabled_data() { SkinRows(); }
     void TheBrowseButtonLooksDisabled();
+    void FailuresLookDifferentFromSuccesses_data() { SkinRows(); }
+    void FailuresLookDifferentFromSuccesses();
     void TheErrorLookIsVisible_data() { SkinRows(); }
     void TheErrorLookIsVisible();
     void TheSelectedCardHasABar_data() { SkinRows(); }
@@ -431,6 +435,26 @@ void tst_Skin::TheBrowseButtonLooksDisabled()
     const double dEnabled = strongest();
     edit.setEnabled(false);
     QVERIFY(strongest() < dEnabled - 1);
+}
+
+void tst_Skin::FailuresLookDifferentFromSuccesses()
+{
+    QFETCH(QString, strSkin);
+    UseSkin(strSkin);
+    QWidget window;
+    window.resize(600, 400);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    auto* pNotify = KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance();
+    pNotify->AddSuccessNotification("Done");
+    pNotify->AddTextNotification("Done");
+    const QList<QFrame*> listBars = window.findChildren<QFrame*>("notifyBar");
+    QCOMPARE(listBars.size(), 2);
+    QVERIFY(listBars[0]->findChild<QLabel*>("notifyMark")->grab().toImage() !=
+            listBars[1]->findChild<QLabel*>("notifyMark")->grab().toImage());
+    const auto ground = [](QFrame* pBar) { return pBar->grab().toImage().pixelColor(6, pBar->height() / 2); };
+    QCOMPARE(ground(listBars[0]), PaletteColor(strSkin, "notification"));
+    QCOMPARE(ground(listBars[1]), PaletteColor(strSkin, "error"));
 }
 
 void tst_Skin::TheErrorLookIsVisible()
