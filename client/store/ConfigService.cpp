@@ -115,9 +115,7 @@ int ConfigService::Replace(const Settings& settings, const SettingsDocument* pIm
 
 QByteArray ConfigService::Export() const
 {
-    SettingsDocument document = m_file.GetDocument();
-    document.SetSettings(m_working);
-    return document.Serialize();
+    return m_file.GetDocument().Serialize(m_working);
 }
 
 } // namespace LocalConfigClient

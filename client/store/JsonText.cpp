@@ -4,7 +4,6 @@
 #include <QJsonDocument>
 
 #include <algorithm>
-#include <string>
 
 namespace LocalConfigClient
 {
@@ -21,109 +20,115 @@ QByteArray ToScalar(const QVariant& value)
     return array.mid(1, array.size() - 2);
 }
 
-bool IsPlain(QChar ch)
+template <class Text>
+bool IsPlain(const Text& text)
 {
-    return ch.unicode() >= ' ' && ch.unicode() <= '~' && ch != QLatin1Char('"') && ch != QLatin1Char('\\');
+    return std::all_of(text.begin(), text.end(), [](auto character) {
+        const QChar ch(character);
+        return ch >= QLatin1Char(' ') && ch <= QLatin1Char('~') && ch != QLatin1Char('"') && ch != QLatin1Char('\\');
+    });
 }
-
-class Writer
-{
-public:
-    void Add(const QVariant& value)
-    {
-        switch (int(value.userType()))
-        {
-        case QMetaType::QVariantMap: {
-            const QVariantMap map = value.toMap();
-            Open('{');
-            for (auto it = map.cbegin(); it != map.cend(); ++it)
-            {
-                Next();
-                AddText(it.key());
-                m_text += ": ";
-                Add(it.value());
-            }
-            Close('}');
-            break;
-        }
-        case QMetaType::QVariantList:
-            Open('[');
-            for (const QVariant& element : value.toList())
-            {
-                Next();
-                Add(element);
-            }
-            Close(']');
-            break;
-        case QMetaType::LongLong:
-            m_text += std::to_string(value.toLongLong());
-            break;
-        case QMetaType::QString:
-            AddText(value.toString());
-            break;
-        case QMetaType::Bool:
-            m_text += value.toBool() ? "true" : "false";
-            break;
-        default:
-            m_text += ToScalar(value).constData();
-        }
-    }
-
-    QByteArray GetText() const { return QByteArray::fromStdString(m_text); }
-
-private:
-    /// Most texts are plain, and then this is far quicker than Qt's form.
-    void AddText(const QString& strText)
-    {
-        if (!std::all_of(strText.begin(), strText.end(), IsPlain))
-        {
-            m_text += ToScalar(strText).constData();
-            return;
-        }
-        m_text += '"';
-        for (const QChar ch : strText)
-        {
-            m_text += ch.toLatin1();
-        }
-        m_text += '"';
-    }
-
-    void Open(char chBracket)
-    {
-        m_text += chBracket;
-        m_text += '\n';
-        ++m_nDepth;
-        m_bFirst = true;
-    }
-
-    void Next()
-    {
-        m_text += m_bFirst ? "" : ",\n";
-        m_bFirst = false;
-        m_text.append(g_nIndent * m_nDepth, ' ');
-    }
-
-    void Close(char chBracket)
-    {
-        m_text += m_bFirst ? "" : "\n";
-        m_bFirst = false;
-        --m_nDepth;
-        m_text.append(g_nIndent * m_nDepth, ' ');
-        m_text += chBracket;
-    }
-
-    std::string m_text; // to which characters are added more quickly than to a QByteArray
-    std::size_t m_nDepth = 0;
-    bool m_bFirst = true;
-};
 
 } // namespace
 
-QByteArray ToJsonText(const QVariant& value)
+void JsonWriter::AddKey(QLatin1String strKey)
 {
-    Writer writer;
-    writer.Add(value);
-    return writer.GetText() + '\n';
+    Next();
+    AddQuoted(strKey.data(), std::size_t(strKey.size()));
+    m_text += ": ";
+}
+
+void JsonWriter::AddKey(const QString& strKey)
+{
+    Next();
+    AddText(strKey);
+    m_text += ": ";
+}
+
+bool JsonWriter::AddPlain(const std::string& strText)
+{
+    const bool bPlain = IsPlain(strText);
+    if (bPlain)
+    {
+        AddQuoted(strText.data(), strText.size());
+    }
+    return bPlain;
+}
+
+void JsonWriter::Add(const QVariant& value)
+{
+    switch (int(value.userType()))
+    {
+    case QMetaType::QVariantMap: {
+        const QVariantMap map = value.toMap();
+        OpenObject();
+        for (auto it = map.cbegin(); it != map.cend(); ++it)
+        {
+            AddKey(it.key());
+            Add(it.value());
+        }
+        CloseObject();
+        break;
+    }
+    case QMetaType::QVariantList:
+        Open('[');
+        for (const QVariant& element : value.toList())
+        {
+            Next();
+            Add(element);
+        }
+        Close(']');
+        break;
+    case QMetaType::LongLong:
+        Add(value.toLongLong());
+        break;
+    case QMetaType::QString:
+        AddText(value.toString());
+        break;
+    default:
+        m_text += ToScalar(value).constData();
+    }
+}
+
+void JsonWriter::AddText(const QString& strText)
+{
+    if (IsPlain(strText))
+    {
+        const QByteArray text = strText.toLatin1();
+        AddQuoted(text.constData(), std::size_t(text.size()));
+    }
+    else
+    {
+        m_text += ToScalar(strText).constData();
+    }
+}
+
+void JsonWriter::AddQuoted(const char* pszText, std::size_t nSize)
+{
+    m_text += '"';
+    m_text.append(pszText, nSize);
+    m_text += '"';
+}
+
+void JsonWriter::Open(char chBracket)
+{
+    m_text += chBracket;
+    m_strBreak.append(g_nIndent, ' ');
+    m_bFirst = true;
+}
+
+void JsonWriter::Next()
+{
+    m_text.append(m_strBreak, m_bFirst ? 1 : 0, std::string::npos);
+    m_bFirst = false;
+}
+
+void JsonWriter::Close(char chBracket)
+{
+    m_strBreak.resize(m_strBreak.size() - g_nIndent);
+    m_bFirst = true;
+    Next();
+    m_text += chBracket;
 }
 
 } // namespace LocalConfigClient

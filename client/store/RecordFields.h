@@ -33,7 +33,7 @@ struct NoFields
 {};
 
 /// The one list of each record's fields: reading, writing and comparing records all go through here. The names are the
-/// keys of the settings document.
+/// keys of the settings document, and stand in its order: that of their characters.
 template <class Record>
 inline constexpr NoFields g_fieldsOf{};
 
@@ -41,114 +41,114 @@ inline constexpr NoFields g_fieldsOf{};
 
 template <>
 inline constexpr auto g_fieldsOf<LocalConfigLogical::BasicConfigInfo> = [](auto& record, auto& visit) {
-    FIELD(hostOwned1);
-    FIELD(hostOwned2);
-    FIELD(hostOwned3);
-    FIELD(skin);
-    FIELD(hostOwned5);
-    FIELD(hostOwned6);
-    FIELD(hostOwned7);
-    FIELD(timeSync);
-    FIELD(hostOwned9);
-    FIELD(hostOwned10);
-    FIELD(autoLogin);
-    FIELD(hostOwned12);
     FIELD(adaptiveTalk);
+    FIELD(autoLogin);
+    FIELD(autoRun);
+    FIELD(clientSize);
+    FIELD(hostOwned1);
+    FIELD(hostOwned10);
+    FIELD(hostOwned12);
     FIELD(hostOwned14);
     FIELD(hostOwned15);
-    FIELD(autoRun);
     FIELD(hostOwned17);
     FIELD(hostOwned18);
     FIELD(hostOwned19);
+    FIELD(hostOwned2);
     FIELD(hostOwned20);
-    FIELD(showDeviceNode);
     FIELD(hostOwned22);
-    FIELD(clientSize);
-    FIELD(restoreLiveView);
     FIELD(hostOwned25);
-    FIELD(liveThumbnail);
-    FIELD(showTimeZone);
     FIELD(hostOwned28);
+    FIELD(hostOwned3);
+    FIELD(hostOwned5);
+    FIELD(hostOwned6);
+    FIELD(hostOwned7);
+    FIELD(hostOwned9);
+    FIELD(liveThumbnail);
+    FIELD(restoreLiveView);
+    FIELD(showDeviceNode);
+    FIELD(showTimeZone);
+    FIELD(skin);
+    FIELD(timeSync);
 };
 
 template <>
 inline constexpr auto g_fieldsOf<LocalConfigLogical::VideoConfigInfo> = [](auto& record, auto& visit) {
-    FIELD(nReserved0);
-    FIELD(bReserved1);
-    FIELD(nReserved2);
-    FIELD(bReserved3);
-    FIELD(nPlayMode);
-    FIELD(nVideoBufferTime);
     FIELD(bDblClickMainStream);
+    FIELD(bGpuDecodeSupported);
+    FIELD(bInstantCustom);
+    FIELD(bProcessDecode);
+    FIELD(bReserved1);
+    FIELD(bReserved3);
     FIELD(bReserved4);
     FIELD(bReserved5);
+    FIELD(nCpuPromptThreshold);
     FIELD(nDecodeMode);
     FIELD(nDefaultSplit);
-    FIELD(nSubStreamSplitThreshold);
-    FIELD(nInstantPlaybackTime);
-    FIELD(bInstantCustom);
-    FIELD(nInstantTimeUnit);
-    FIELD(bProcessDecode);
-    FIELD(bGpuDecodeSupported);
-    FIELD(nSilentTime);
-    FIELD(nCpuPromptThreshold);
     FIELD(nDisplayScale);
+    FIELD(nInstantPlaybackTime);
+    FIELD(nInstantTimeUnit);
+    FIELD(nPlayMode);
+    FIELD(nReserved0);
+    FIELD(nReserved2);
+    FIELD(nSilentTime);
+    FIELD(nSubStreamSplitThreshold);
+    FIELD(nVideoBufferTime);
 };
 
 template <>
 inline constexpr auto g_fieldsOf<LocalConfigLogical::PlaybackConfigInfo> = [](auto& record, auto& visit) {
-    FIELD(bReserved0);
-    FIELD(nReserved1);
-    FIELD(bReserved2);
     FIELD(bLargePicAdjustment);
-    FIELD(strReserved3);
+    FIELD(bReserved0);
+    FIELD(bReserved2);
     FIELD(nDevRecordStream);
+    FIELD(nReserved1);
+    FIELD(strReserved3);
 };
 
 template <>
 inline constexpr auto g_fieldsOf<LocalConfigLogical::SnapshotConfigInfo> = [](auto& record, auto& visit) {
-    FIELD(reserved);
-    FIELD(imageFormat);
     FIELD(continuousCount);
-    FIELD(interval);
-    FIELD(picturePath);
     FIELD(hostString1);
     FIELD(hostString2);
     FIELD(hostString3);
+    FIELD(imageFormat);
+    FIELD(interval);
     FIELD(nameFormat);
+    FIELD(picturePath);
+    FIELD(reserved);
 };
 
 template <>
 inline constexpr auto g_fieldsOf<LocalConfigLogical::RecordConfigInfo> = [](auto& record, auto& visit) {
     FIELD(hostOwned1);
-    FIELD(maxFileSize);
-    FIELD(recordPath);
+    FIELD(hostOwned10);
+    FIELD(hostOwned11);
     FIELD(hostOwned4);
     FIELD(hostOwned5);
-    FIELD(nameFormat);
     FIELD(hostOwned7);
     FIELD(hostOwned8);
     FIELD(hostOwned9);
-    FIELD(hostOwned10);
-    FIELD(hostOwned11);
+    FIELD(maxFileSize);
+    FIELD(nameFormat);
+    FIELD(recordPath);
 };
 
 template <>
 inline constexpr auto g_fieldsOf<LocalConfigLogical::AlarmConfigInfo> = [](auto& record, auto& visit) {
     FIELD(alarmSound);
+    FIELD(alarmSounds);
+    FIELD(flashCategories);
+    FIELD(linkVideo);
     FIELD(loopSound);
     FIELD(mapFlash);
-    FIELD(linkVideo);
     FIELD(openVideoType);
-    FIELD(flashCategories);
-    FIELD(alarmSounds);
 };
 
 template <>
 inline constexpr auto g_fieldsOf<LocalConfigLogical::AlarmSoundInfo> = [](auto& record, auto& visit) {
     FIELD(alarmType);
-    FIELD(defaultSound);
     FIELD(customSound);
+    FIELD(defaultSound);
     FIELD(hostOwned4);
     FIELD(soundChanged);
 };
@@ -159,11 +159,11 @@ inline constexpr auto g_fieldsOf<LocalConfigLogical::ShortcutKeyConfigInfo> =
 
 template <>
 inline constexpr auto g_fieldsOf<LocalConfigLogical::TvWallConfigInfo> = [](auto& record, auto& visit) {
-    FIELD(nSubStreamSplitThreshold);
-    FIELD(nBindMode);
     FIELD(bDblClickMainStream);
+    FIELD(nBindMode);
     FIELD(nDefaultStreamType);
     FIELD(nStayTime);
+    FIELD(nSubStreamSplitThreshold);
 };
 
 template <>
@@ -172,15 +172,15 @@ inline constexpr auto g_fieldsOf<LocalConfigLogical::SecurityConfigInfo> =
 
 template <>
 inline constexpr auto g_fieldsOf<Settings> = [](auto& record, auto& visit) {
-    FIELD(basic);
-    FIELD(video);
-    FIELD(playback);
-    FIELD(snapshot);
-    FIELD(record);
     FIELD(alarm);
-    FIELD(shortcutKey);
-    FIELD(tvWall);
+    FIELD(basic);
+    FIELD(playback);
+    FIELD(record);
     FIELD(security);
+    FIELD(shortcutKey);
+    FIELD(snapshot);
+    FIELD(tvWall);
+    FIELD(video);
 };
 
 #undef FIELD

@@ -1,6 +1,5 @@
 #include "SettingValue.h"
 
-#include "JsonText.h"
 #include "RecordJson.h"
 
 #include <QJsonArray>
@@ -70,7 +69,7 @@ std::optional<QByteArray> SettingValue::Get(const Settings& settings, const QStr
         }
         else
         {
-            result = ToJsonText(Write(value, QVariant())).trimmed();
+            result = ToJson(value).trimmed();
         }
     });
     return result;

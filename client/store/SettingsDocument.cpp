@@ -1,6 +1,5 @@
 #include "SettingsDocument.h"
 
-#include "JsonText.h"
 #include "RecordJson.h"
 
 #include <QJsonDocument>
@@ -68,7 +67,7 @@ SettingsDocument::Result SettingsDocument::Parse(const QByteArray& content, QStr
     {
         return fail(Damaged, tr("not a JSON document: %1").arg(error.errorString()));
     }
-    const QJsonObject root = document.object();
+    QJsonObject root = document.object();
     const QJsonValue version = root.value(g_strVersion);
     const QJsonValue sections = root.value(g_strSections);
     if (!document.isObject() || !version.isDouble() || version.toDouble() != std::floor(version.toDouble()) ||
@@ -83,24 +82,27 @@ SettingsDocument::Result SettingsDocument::Parse(const QByteArray& content, QStr
 
     Settings settings;
     Reader reader;
-    reader.Read(g_strSections, sections, settings);
+    const QVariantMap unknownOfSections = reader.Read(g_strSections, sections, settings);
     if (!reader.GetWrong().isEmpty())
     {
         return fail(Damaged, tr("impossible value of %1").arg(reader.GetWrong()));
     }
     m_settings = settings;
-    m_root = root.toVariantMap();
+    root.remove(g_strVersion);
+    root.remove(g_strSections);
+    m_unknown = root.toVariantMap();
+    m_unknown.insert(g_strSections, unknownOfSections);
     return Good;
 }
 
 void SettingsDocument::TakeUnknownKeys(const SettingsDocument& other)
 {
-    m_root = Merge(m_root, other.m_root).toMap();
+    m_unknown = Merge(m_unknown, other.m_unknown).toMap();
 }
 
 MissingRights SettingsDocument::GetMissingRights() const
 {
-    const QVariant rights = m_root.value(g_strMissingRights, QVariantList());
+    const QVariant rights = m_unknown.value(g_strMissingRights, QVariantList());
     const QVariantList listRights = rights.toList();
     MissingRights missing;
     missing.bAll =
@@ -112,17 +114,19 @@ MissingRights SettingsDocument::GetMissingRights() const
     return missing;
 }
 
-QByteArray SettingsDocument::Serialize() const
+QByteArray SettingsDocument::Serialize(const Settings& settings) const
 {
-    QVariantMap root = m_root;
-    root.insert(g_strVersion, qlonglong(g_nVersion));
-    root.insert(g_strSections, Write(m_settings, root.value(g_strSections)));
-    return ToJsonText(root);
+    JsonWriter writer;
+    ObjectWriter root(writer, m_unknown);
+    root.Add(g_strSections, settings);
+    root.Add(g_strVersion, g_nVersion);
+    root.Close();
+    return writer.GetText();
 }
 
 bool operator==(const Settings& left, const Settings& right)
 {
-    return Write(left, QVariant()) == Write(right, QVariant());
+    return ToJson(left) == ToJson(right);
 }
 
 } // namespace LocalConfigClient

@@ -43,12 +43,14 @@ public:
     MissingRights GetMissingRights() const;
 
     /// The same settings always give the same bytes.
-    QByteArray Serialize() const;
+    QByteArray Serialize() const { return Serialize(m_settings); }
+
+    /// The same with other settings in the place of its own.
+    QByteArray Serialize(const Settings& settings) const;
 
 private:
     Settings m_settings;
-    QVariantMap
-        m_root; // as it was read, for the keys that this version does not know; QJsonObject rounds their numbers
+    QVariantMap m_unknown; // of the document, see Reader
 };
 
 /// Whether all fields of two sets of settings are equal.

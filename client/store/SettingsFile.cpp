@@ -266,13 +266,13 @@ int SettingsFile::Save(const Settings& settings, const SettingsDocument* pImport
     {
         return nResult;
     }
-    SettingsDocument document = m_document;
+    SettingsDocument unknownKeys;
+    unknownKeys.TakeUnknownKeys(m_document);
     if (pImported)
     {
-        document.TakeUnknownKeys(*pImported);
+        unknownKeys.TakeUnknownKeys(*pImported);
     }
-    document.SetSettings(settings);
-    nResult = WriteGenerations(onDisk, document.Serialize());
+    nResult = WriteGenerations(onDisk, unknownKeys.Serialize(settings));
     if (nResult == CErrorCode::NotAFile)
     {
         const bool bLastGood = QFileInfo(GetPath(g_szDocument)).isFile();
@@ -282,7 +282,8 @@ int SettingsFile::Save(const Settings& settings, const SettingsDocument* pImport
     }
     if (IsStored(nResult))
     {
-        m_document = document;
+        m_document.TakeUnknownKeys(unknownKeys);
+        m_document.SetSettings(settings);
         m_bNotYetSafe = nResult == CErrorCode::NotYetSafe;
         m_bLoadedWithoutLock = false;
         m_bStandsIn = false;

@@ -1,6 +1,5 @@
 #include "SettingsSchema.h"
 
-#include "JsonText.h"
 #include "RecordJson.h"
 
 namespace LocalConfigClient
@@ -63,20 +62,23 @@ QVariantMap Schema(const Value& value)
     }
     else
     {
+        const QString strDefault = QStringLiteral("default");
         QVariantMap schema;
         if constexpr (std::is_same_v<Value, bool>)
         {
             schema = OfType("boolean");
+            schema.insert(strDefault, value);
         }
         else if constexpr (std::is_integral_v<Value>)
         {
             schema = Integer(std::numeric_limits<Value>::min(), std::numeric_limits<Value>::max());
+            schema.insert(strDefault, qlonglong(value));
         }
         else
         {
             schema = Bytes();
+            schema.insert(strDefault, QString::fromStdString(value));
         }
-        schema.insert(QStringLiteral("default"), Write(value, QVariant()));
         return schema;
     }
 }
@@ -94,7 +96,9 @@ QByteArray GetSettingsSchema()
     schema.insert(QStringLiteral("required"), QVariantList{QStringLiteral("version"), QStringLiteral("sections")});
     schema.insert(QStringLiteral("$schema"), QStringLiteral("http://json-schema.org/draft-07/schema#"));
     schema.insert(QStringLiteral("title"), QStringLiteral("Settings of local-config-client"));
-    return ToJsonText(schema);
+    JsonWriter writer;
+    writer.Add(schema);
+    return writer.GetText();
 }
 
 } // namespace LocalConfigClient

@@ -60,6 +60,20 @@ int CountListed()
     return nFields;
 }
 
+template <class Record>
+bool IsListedInOrder()
+{
+    QStringList listNames;
+    Record record;
+    VisitFields(record, [&listNames](const char* pszName, const auto& /*field*/) { listNames += pszName; });
+    return std::is_sorted(listNames.begin(), listNames.end());
+}
+
+QByteArray AsQtWritesIt(const QByteArray& content)
+{
+    return QJsonDocument::fromJson(content).toJson(QJsonDocument::Indented);
+}
+
 } // namespace
 
 class tst_SettingsDocument : public QObject
@@ -71,6 +85,7 @@ private slots:
     void EveryFieldRoundTrips();
     void EveryFieldCounts();
     void EveryFieldIsListed();
+    void FieldsAreListedInTheOrderOfTheDocument();
     void TheSameSettingsGiveTheSameBytes();
     void NamesOfTheDocument();
     void AMissingKeyStandsForTheDefault();
@@ -86,6 +101,11 @@ private slots:
     void ANewerDocumentIsTold();
     void ADamagedDocumentChangesNothing();
     void ItIsWrittenAsQtWritesIt();
+    void EveryFieldIsWrittenAsQtWritesIt();
+    void KeysOfMapsAreWrittenInTheOrderOfTheirTexts();
+    void UnknownKeysKeepTheirPlacesAtEveryLevel_data();
+    void UnknownKeysKeepTheirPlacesAtEveryLevel();
+    void UnknownKeysOfARemovedMapEntryComeBackWithIt();
     void LargeNumbersOfUnknownKeysSurvive();
     void LargeMapsTakeTheirShareOfTime();
     void MissingRights_data();
@@ -140,6 +160,24 @@ void tst_SettingsDocument::EveryFieldIsListed()
     COMPARE_FIELDS(TvWallConfigInfo);
     COMPARE_FIELDS(SecurityConfigInfo);
 #undef COMPARE_FIELDS
+}
+
+void tst_SettingsDocument::FieldsAreListedInTheOrderOfTheDocument()
+{
+    using namespace LocalConfigLogical;
+#define VERIFY_ORDER(Record) QVERIFY(IsListedInOrder<Record>())
+    VERIFY_ORDER(Settings);
+    VERIFY_ORDER(BasicConfigInfo);
+    VERIFY_ORDER(VideoConfigInfo);
+    VERIFY_ORDER(PlaybackConfigInfo);
+    VERIFY_ORDER(SnapshotConfigInfo);
+    VERIFY_ORDER(RecordConfigInfo);
+    VERIFY_ORDER(AlarmConfigInfo);
+    VERIFY_ORDER(AlarmSoundInfo);
+    VERIFY_ORDER(ShortcutKeyConfigInfo);
+    VERIFY_ORDER(TvWallConfigInfo);
+    VERIFY_ORDER(SecurityConfigInfo);
+#undef VERIFY_ORDER
 }
 
 void tst_SettingsDocument::TheSameSettingsGiveTheSameBytes()
@@ -328,8 +366,97 @@ void tst_SettingsDocument::ItIsWrittenAsQtWritesIt()
     SettingsDocument document;
     QCOMPARE(document.Parse(content), SettingsDocument::Good);
     const QByteArray written = document.Serialize();
-    QCOMPARE(written, QJsonDocument::fromJson(written).toJson(QJsonDocument::Indented));
+    QCOMPARE(written, AsQtWritesIt(written));
     QCOMPARE(FromBytes(written).value("unknown"), FromBytes(content).value("unknown"));
+}
+
+void tst_SettingsDocument::EveryFieldIsWrittenAsQtWritesIt()
+{
+    QCOMPARE(Document(ChangedSettings()), AsQtWritesIt(Document(ChangedSettings())));
+    Settings settings;
+    for (const char* pszText :
+         {"", " ~", "\x7f", "\"\\/", "\t\n", "\xc3\xa9", "\xe5\xae\xa2", "\xf0\x9f\x8e\xa5", "\xff"})
+    {
+        settings.record.recordPath += pszText;
+        QCOMPARE(Document(settings), AsQtWritesIt(Document(settings)));
+        settings.snapshot.picturePath = pszText;
+        QCOMPARE(Document(settings), AsQtWritesIt(Document(settings)));
+    }
+}
+
+void tst_SettingsDocument::KeysOfMapsAreWrittenInTheOrderOfTheirTexts()
+{
+    Settings settings;
+    for (std::int64_t nPower = 1; nPower <= 1000000000; nPower *= 10)
+    {
+        for (std::int64_t nNumber : {nPower - 1, nPower, nPower + 1, 2 * nPower})
+        {
+            settings.alarm.flashCategories[std::int32_t(nNumber)] = true;
+            settings.alarm.flashCategories[std::int32_t(-nNumber)] = true;
+        }
+    }
+    settings.alarm.flashCategories[std::numeric_limits<std::int32_t>::min()] = true;
+    settings.alarm.flashCategories[std::numeric_limits<std::int32_t>::max()] = true;
+    QCOMPARE(Document(settings), AsQtWritesIt(Document(settings)));
+}
+
+void tst_SettingsDocument::UnknownKeysKeepTheirPlacesAtEveryLevel_data()
+{
+    QTest::addColumn<QString>("strPath");
+    for (const char* pszPath :
+         {"", "sections", "sections/basic", "sections/video", "sections/playback", "sections/snapshot",
+          "sections/record", "sections/alarm", "sections/alarm/flashCategories", "sections/alarm/alarmSounds",
+          "sections/alarm/alarmSounds/3", "sections/shortcutKey", "sections/tvWall", "sections/security"})
+    {
+        QTest::newRow(pszPath) << QString(pszPath);
+    }
+}
+
+void tst_SettingsDocument::UnknownKeysKeepTheirPlacesAtEveryLevel()
+{
+    QFETCH(QString, strPath);
+    const QJsonObject root = FromBytes(Document(ChangedSettings()));
+    QJsonObject object = root;
+    for (const QString& strKey : strPath.split('/', Qt::SkipEmptyParts))
+    {
+        object = object.value(strKey).toObject();
+    }
+    // Before, between and after the known ones, each of them alone and all together.
+    QJsonObject all = object;
+    const QJsonObject value{{"b", 1.5}, {"a", QJsonArray{"text", QJsonValue(), QJsonObject()}}};
+    for (const QString& strName : QStringList{"", "!", "m", "zzz", "\u5ba2"} + object.keys())
+    {
+        for (const QString& strKey : {strName + "0a", strName.chopped(strName.isEmpty() ? 0 : 1) + "~"})
+        {
+            QJsonObject one = object;
+            one.insert(strKey, value);
+            all.insert(strKey, value);
+            for (const QJsonObject& changed : {one, all})
+            {
+                const QByteArray content = ToBytes(Replace(root, strPath.split('/', Qt::SkipEmptyParts), changed));
+                SettingsDocument document;
+                QCOMPARE(document.Parse(content), SettingsDocument::Good);
+                QCOMPARE(document.Serialize(), content);
+                SettingsDocument merged;
+                merged.SetSettings(ChangedSettings());
+                merged.TakeUnknownKeys(document);
+                QCOMPARE(merged.Serialize(), content);
+            }
+        }
+    }
+}
+
+void tst_SettingsDocument::UnknownKeysOfARemovedMapEntryComeBackWithIt()
+{
+    const QByteArray content = R"({"version": 1, "sections": {"alarm": {"alarmSounds": {"7": {"volume": 11}}}}})";
+    SettingsDocument document;
+    QCOMPARE(document.Parse(content), SettingsDocument::Good);
+    const QByteArray before = document.Serialize();
+    const Settings settings = document.GetSettings();
+    document.SetSettings(Settings());
+    QVERIFY(!document.Serialize().contains("volume"));
+    document.SetSettings(settings);
+    QCOMPARE(document.Serialize(), before);
 }
 
 void tst_SettingsDocument::LargeNumbersOfUnknownKeysSurvive()
