@@ -93,10 +93,15 @@ std::unique_ptr<QDialog> MakeAndShow(Subject subject, CHost& host)
     return pDialog;
 }
 
-void Click(QDialog& dialog, const char* pszButton)
+void Click(QAbstractButton* pButton)
 {
-    dialog.findChild<QAbstractButton*>(pszButton)->click();
+    pButton->click();
     QApplication::processEvents();
+}
+
+QAbstractButton* FindButton(const QDialog& dialog, const char* pszName)
+{
+    return dialog.findChild<QAbstractButton*>(QString::fromLatin1(pszName));
 }
 
 /// The host and the counter of all rows.
@@ -159,7 +164,8 @@ double ProcessStart(SBench& bench)
 double ReloadAndHide(SBench& bench)
 {
     const std::unique_ptr<QDialog> pDialog = MakeAndShow(&MakeProduct, bench.Filled());
-    return bench.counter.Count([&] { Click(*pDialog, "btnCancel"); });
+    QAbstractButton* pCancel = FindButton(*pDialog, "btnCancel");
+    return bench.counter.Count([&] { Click(pCancel); });
 }
 
 double ReloadAndHidePeer(SBench& bench)
@@ -186,25 +192,27 @@ double SaveToDiskPeer(SBench& bench)
 {
     const std::unique_ptr<QDialog> pDialog = MakeAndShow(&MakePeer, bench.Filled());
     SPeer::Instance().pSave(pDialog.get());
-    pDialog->findChild<QAbstractButton*>("kcfg_timeChkBox")->toggle();
+    FindButton(*pDialog, "kcfg_timeChkBox")->toggle();
     return bench.counter.Count([&] { SPeer::Instance().pSave(pDialog.get()); });
 }
 
 double Defaults(SBench& bench)
 {
     const std::unique_ptr<QDialog> pDialog = MakeAndShow(&MakeProduct, bench.Filled());
-    return bench.counter.Count([&] { Click(*pDialog, "btnOther"); });
+    QAbstractButton* pDefault = FindButton(*pDialog, "btnOther");
+    return bench.counter.Count([&] { Click(pDefault); });
 }
 
 /// Every page into its record, and the document to the disk, too.
 double Save(SBench& bench, CHost& host, bool bToDisk)
 {
     const std::unique_ptr<QDialog> pDialog = MakeAndShow(&MakeProduct, host);
-    Click(*pDialog, "btnOk");
+    QAbstractButton* pSave = FindButton(*pDialog, "btnOk");
+    Click(pSave);
     host.SetToDisk(bToDisk);
-    pDialog->findChild<QAbstractButton*>("timeChkBox")->toggle();
+    FindButton(*pDialog, "timeChkBox")->toggle();
     g_nFlushes = 0;
-    const double dCount = bench.counter.Count([&] { Click(*pDialog, "btnOk"); });
+    const double dCount = bench.counter.Count([&] { Click(pSave); });
     host.SetToDisk(false);
     return dCount;
 }

@@ -16,6 +16,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QSound>
+#include <QStandardItemModel>
 
 #include <algorithm>
 #include <optional>
@@ -69,6 +70,35 @@ std::optional<int> GetGroupSoundKey(int nAlarmType)
 int GetSoundKey(int nAlarmType)
 {
     return GetGroupSoundKey(nAlarmType).value_or(g_linkedRules.Contains(nAlarmType) ? g_nLinkedRulesKey : nAlarmType);
+}
+
+/// An entry that nobody changes; the usual ones cost several times as much, and there may be thousands.
+class CTextItem : public QStandardItem
+{
+public:
+    explicit CTextItem(const QString& strText)
+        : m_strText(strText)
+    {}
+
+    QVariant data(int nRole) const override
+    {
+        return nRole == Qt::DisplayRole || nRole == Qt::EditRole ? m_strText : QStandardItem::data(nRole);
+    }
+
+private:
+    QString m_strText;
+};
+
+void SetTexts(QComboBox& combo, const QStringList& listTexts)
+{
+    combo.clear();
+    QList<QStandardItem*> listItems;
+    listItems.reserve(listTexts.size());
+    for (const QString& strText : listTexts)
+    {
+        listItems += new CTextItem(strText);
+    }
+    static_cast<QStandardItemModel*>(combo.model())->invisibleRootItem()->appendRows(listItems);
 }
 
 /// A path as the client takes it: relative to the working folder where it begins with "./".
@@ -218,9 +248,12 @@ void CAlarmConfig::FillTypeLists(const AlarmConfigInfo& record)
     {
         listNames += CAlarmType::Instance()->CovertAlarmNameByType(sound.second.alarmType);
     }
-    m_pUi->cbxAlarmTypeForSound->clear();
+    if (listNames != m_listShownTypes)
+    {
+        SetTexts(*m_pUi->cbxAlarmTypeForSound, listNames);
+        m_listShownTypes = listNames;
+    }
     m_pUi->cbxAlarmTypeForSound->ClearChosenItem();
-    m_pUi->cbxAlarmTypeForSound->addItems(listNames);
     m_pUi->cbxAlarmTypeForSound->setCurrentIndex(0);
     if (record.alarmSounds.empty())
     {
@@ -335,7 +368,8 @@ void CAlarmConfig::PutBack(const AlarmConfigInfo& record)
 
 void CAlarmConfig::UpdateControlState(bool bEnable)
 {
-    const AlarmConfigInfo record = GetCurrentRecord();
+    const AlarmConfigInfo stored = m_bCachedRecordValid ? AlarmConfigInfo() : GetRecord();
+    const AlarmConfigInfo& record = m_bCachedRecordValid ? m_cachedRecord : stored;
     EnableSoundControls(bEnable && record.alarmSound);
     EnableFlashControls(bEnable && record.mapFlash);
     EnableVideoChoice(bEnable && record.linkVideo);

@@ -167,7 +167,7 @@ int KvToolListView::GetCurrentIndex() const
 void KvToolListView::SetItemError(int nIndex, const QString& strText)
 {
     const QModelIndex index = Find(nIndex);
-    if (index.isValid())
+    if (index.isValid() && index.data(Qt::ToolTipRole).toString() != strText)
     {
         const QVariant text = strText.isEmpty() ? QVariant() : QVariant(strText);
         m_pModel->setData(index, text, Qt::ToolTipRole);

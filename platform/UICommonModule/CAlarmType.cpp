@@ -165,8 +165,13 @@ void CAlarmType::GetAlarmCategory(QMap<int, QString>& mapMain, QMap<int, QMap<in
         const bool bInSet = pSetAlarmId && pSetAlarmId->contains(type.nId);
         if (bInSet != bExclude)
         {
-            mapMain.insert(type.group.nCategoryId, m_mapCategories.value(type.group.nCategoryId));
-            mapSub[type.group.nCategoryId].insert(nIndex, type.strName);
+            const int nCategory = type.group.nCategoryId;
+            QMap<int, QString>& mapTypes = mapSub[nCategory];
+            if (mapTypes.isEmpty())
+            {
+                mapMain.insert(nCategory, m_mapCategories.value(nCategory));
+            }
+            mapTypes.insert(mapTypes.cend(), nIndex, type.strName);
         }
     }
 }

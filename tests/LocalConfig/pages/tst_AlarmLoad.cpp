@@ -20,6 +20,9 @@ private slots:
     void LoadShowsTheFirstSound();
     void LoadListsTheCategories();
     void AllIsCheckedWhenEveryListedCategoryIs();
+    void LoadingTheSameAgainGoesBackToTheFirstSound();
+    void TheListFollowsTheRecord();
+    void TheListFollowsTheCatalogue();
     void AnEmptyRecordIsShown();
     void UnknownTypesAreListedWithoutAName();
     void ReloadTellsTheSectionFirst_data();
@@ -146,6 +149,47 @@ void tst_AlarmLoad::AllIsCheckedWhenEveryListedCategoryIs()
     QCOMPARE(ListedCategories(),
              (QStringList{"All*", CategoryName(2) + "*", CategoryName(3) + "*", CategoryName(9) + "*"}));
     QCOMPARE(Categories()->currentText(), QString("All"));
+}
+
+void tst_AlarmLoad::LoadingTheSameAgainGoesBackToTheFirstSound()
+{
+    Load(Record());
+    const int nCount = Types()->count();
+    const QString strFirst = Types()->currentText();
+    Types()->setCurrentIndex(3);
+    m_pFixture->page.LoadConfig(false);
+    QCOMPARE(Types()->count(), nCount);
+    QCOMPARE(Types()->currentIndex(), 0);
+    QCOMPARE(Types()->currentText(), strFirst);
+}
+
+void tst_AlarmLoad::TheListFollowsTheRecord()
+{
+    const auto load = [this](int nFirst, int nSecond) {
+        AlarmConfigInfo record;
+        record.alarmSounds = {{nFirst, Sound(nFirst, "a.wav")}, {nSecond, Sound(nSecond, "b.wav")}};
+        Load(record);
+    };
+    load(201, 302);
+    load(201, 967);
+    QCOMPARE(Types()->count(), 2);
+    QCOMPARE(Types()->itemText(1), CAlarmType::Instance()->CovertAlarmNameByType(967));
+    QCOMPARE(Types()->findText(CAlarmType::Instance()->CovertAlarmNameByType(967)), 1);
+}
+
+void tst_AlarmLoad::TheListFollowsTheCatalogue()
+{
+    Load(Record());
+    const QStringList listBefore = {Types()->itemText(0), Types()->itemText(1)};
+    UICommonMdl::CGlobalInfo::SetClientStrLanguage("zh_CN");
+    CAlarmType::Instance()->Load(QString());
+    m_pFixture->page.LoadConfig(false);
+    QVERIFY(Types()->itemText(0) != listBefore[0]);
+    QVERIFY(Types()->itemText(1) != listBefore[1]);
+    UICommonMdl::CGlobalInfo::SetClientStrLanguage("en");
+    CAlarmType::Instance()->Load(QString());
+    m_pFixture->page.LoadConfig(false);
+    QCOMPARE(Types()->itemText(0), listBefore[0]);
 }
 
 void tst_AlarmLoad::AnEmptyRecordIsShown()
