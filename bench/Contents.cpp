@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QDataStream>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QStandardItemModel>
@@ -30,10 +31,10 @@ void VisitNamed(const QWidget& dialog, Visitor visit)
 CContents::CContents(const QWidget& dialog)
 {
     VisitNamed<QComboBox>(dialog, [this](const QComboBox& combo) {
-        SCombo contents{{}, combo.currentIndex()};
+        Combo contents{{}, combo.currentIndex()};
         for (int n = 0; n < combo.count(); ++n)
         {
-            contents.listItems += combo.itemText(n);
+            contents.first += combo.itemText(n);
         }
         m_mapCombos[combo.objectName()] = contents;
     });
@@ -59,9 +60,9 @@ CContents::CContents(const QWidget& dialog)
 void CContents::Fill(const QWidget& dialog) const
 {
     VisitNamed<QComboBox>(dialog, [this](QComboBox& combo) {
-        const SCombo contents = m_mapCombos.value(combo.objectName());
-        combo.addItems(contents.listItems);
-        combo.setCurrentIndex(contents.nCurrent);
+        const Combo contents = m_mapCombos.value(combo.objectName());
+        combo.addItems(contents.first);
+        combo.setCurrentIndex(contents.second);
     });
     VisitNamed<QLineEdit>(dialog, [this](QLineEdit& edit) { edit.setText(m_mapTexts.value(edit.objectName())); });
     VisitNamed<QGroupBox>(dialog, [this](QGroupBox& box) { box.setTitle(m_mapTitles.value(box.objectName())); });
@@ -82,4 +83,16 @@ void CContents::Fill(const QWidget& dialog) const
             widget.hide();
         }
     });
+}
+
+QDataStream& operator<<(QDataStream& stream, const CContents& contents)
+{
+    return stream << contents.m_mapCombos << contents.m_mapTexts << contents.m_mapTitles << contents.m_mapChecked
+                  << contents.m_mapTables << contents.m_mapHidden;
+}
+
+QDataStream& operator>>(QDataStream& stream, CContents& contents)
+{
+    return stream >> contents.m_mapCombos >> contents.m_mapTexts >> contents.m_mapTitles >> contents.m_mapChecked >>
+           contents.m_mapTables >> contents.m_mapHidden;
 }

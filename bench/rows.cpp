@@ -1,7 +1,8 @@
 // What the dialog costs, row by row, beside its floors; ./bench/run runs it. docs/performance.md explains the rows.
 //
 // bench-rows LIMITS [--quick] [ROW...] prints the table and fails where a row is worse than LIMITS by more than 3 per
-// cent. bench-rows --counts tells whether the processor counts; bench-rows --start shows one dialog and ends.
+// cent. bench-rows --counts tells whether the processor counts; bench-rows --start shows one dialog and ends,
+// --start-peer CONTENTS one of the peer.
 
 #include "Counter.h"
 #include "Filled.h"
@@ -11,6 +12,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDataStream>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QPixmapCache>
@@ -161,6 +163,20 @@ double ProcessStart(SBench& bench)
     return bench.counter.CountProcess({bench.strProgram, "--start"});
 }
 
+/// Likewise, and what it shows is read.
+double ProcessStartPeer(SBench& bench)
+{
+    const QString strContents = bench.Filled().GetPath("contents");
+    QFile file(strContents);
+    QDataStream stream(&file);
+    if (!file.open(QIODevice::WriteOnly) || (stream << bench.Filled().GetContents()).status() != QDataStream::Ok)
+    {
+        qFatal("the contents cannot be written");
+    }
+    file.close();
+    return bench.counter.CountProcess({bench.strProgram, "--start-peer", strContents.toStdString()});
+}
+
 double ReloadAndHide(SBench& bench)
 {
     const std::unique_ptr<QDialog> pDialog = MakeAndShow(&MakeProduct, bench.Filled());
@@ -281,6 +297,8 @@ std::vector<SRow> MakeRows(SBench& bench)
         listRows.insert(listRows.end(),
                         {{"first-show-peer", nullptr, "peer", firstShow(&MakeProduct), firstShow(&MakePeer), false},
                          {"second-show-peer", nullptr, "peer", secondShow(&MakeProduct), secondShow(&MakePeer), false},
+                         {"process-start-peer", nullptr, "peer", [&bench] { return ProcessStart(bench); },
+                          [&bench] { return ProcessStartPeer(bench); }, false},
                          {"heap-peer", "kB", "peer", heap(&MakeProduct), heap(&MakePeer), false},
                          {"reload-and-hide-peer", nullptr, "peer", [&bench] { return ReloadAndHide(bench); },
                           [&bench] { return ReloadAndHidePeer(bench); }, false},
@@ -432,6 +450,20 @@ int main(int argc, char* argv[])
     {
         CHost host(FilledSettings());
         MakeAndShow(&MakeProduct, host);
+        return 0;
+    }
+    if (listArguments[0] == "--start-peer")
+    {
+        QFile file(listArguments.value(1));
+        QDataStream stream(&file);
+        CContents contents;
+        if (!file.open(QIODevice::ReadOnly) || (stream >> contents).status() != QDataStream::Ok)
+        {
+            qFatal("there are no contents");
+        }
+        const QString strFile = folder.filePath("peerrc");
+        const std::unique_ptr<QDialog> pDialog(SPeer::Instance().pMake(&contents, &strFile));
+        Show(*pDialog);
         return 0;
     }
     SBench bench;
