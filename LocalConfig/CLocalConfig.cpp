@@ -130,7 +130,7 @@ CLocalConfig::CLocalConfig(QWidget* pParent)
     setObjectName(QStringLiteral("CLocalConfig"));
     ApplySkinStyle(this); // before there are children that would be styled anew
     m_pUi->setupUi(GetCentralWidget());
-    MirrorMargins(GetCentralWidget());
+    MirrorForm(GetCentralWidget());
     // The content's height counts the hidden box, too; what the shown ones leave of it stays empty below them. Qt keeps
     // to this only because no box stretches.
     m_pUi->verticalLayout->setAlignment(Qt::AlignTop);
@@ -385,7 +385,7 @@ IConfigPage* CLocalConfig::NewPage(int nIndex)
     m_vecPages[nIndex] = pPage;
 
     QWidget* pWidget = pPage->GetWidget();
-    MirrorMargins(pWidget);
+    MirrorForm(pWidget);
     pWidget->setObjectName(QString::fromLatin1(section.pszPage));
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(pWidget->sizePolicy().hasHeightForWidth());

@@ -2,12 +2,13 @@
 
 #include <QGuiApplication>
 #include <QLayout>
+#include <QLineEdit>
 #include <QWidget>
 
 namespace LocalConfig
 {
 
-void MirrorMargins(QWidget* pForm)
+void MirrorForm(QWidget* pForm)
 {
     if (!QGuiApplication::isRightToLeft())
     {
@@ -17,6 +18,13 @@ void MirrorMargins(QWidget* pForm)
     {
         const QMargins margins = pLayout->contentsMargins();
         pLayout->setContentsMargins(margins.right(), margins.top(), margins.left(), margins.bottom());
+    }
+    for (QLineEdit* pEdit : pForm->findChildren<QLineEdit*>())
+    {
+        if (pEdit->validator())
+        {
+            pEdit->setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter); // unlike paths
+        }
     }
 }
 

@@ -1,4 +1,5 @@
 #include "support/ClientDialog.h"
+#include "support/DrawnTexts.h"
 
 #include <KvGui/KvLineEdit.h>
 #include <KvGui/KvToolListView.h>
@@ -25,6 +26,8 @@ private slots:
     void AccentBarsAreAtTheLeadingEdge();
     void NumbersKeepTheirOrder();
     void PathsKeepTheirOrder();
+    void NumbersStandWhereTextsStart_data();
+    void NumbersStandWhereTextsStart();
 
 private:
     static QMap<QString, QRect> Places(const QWidget& window);
@@ -209,6 +212,34 @@ void tst_Mirroring::PathsKeepTheirOrder()
         pEdit->setCursorPosition(3);
         const int nEnd = pEdit->inputMethodQuery(Qt::ImCursorRectangle).toRect().left();
         QVERIFY2(nStart < nEnd, pszName);
+    }
+}
+
+void tst_Mirroring::NumbersStandWhereTextsStart_data()
+{
+    QTest::addColumn<QString>("strLanguage");
+    QTest::newRow("from the left") << "en";
+    QTest::newRow("from the right") << "ar";
+}
+
+void tst_Mirroring::NumbersStandWhereTextsStart()
+{
+    QFETCH(QString, strLanguage);
+    Speak(strLanguage);
+    SClientDialog d;
+    d.Open();
+    for (const char* pszName :
+         {"videoCushionEdit", "silenceTimeSpinBox", "picTmSpinBox", "picNumEdit", "maxRecSizeEdit", "lineeditStayTime"})
+    {
+        auto* pField = d.Find(pszName);
+        QVERIFY2(pField, pszName);
+        auto* pEdit = qobject_cast<QLineEdit*>(pField);
+        pEdit = pEdit ? pEdit : pField->findChild<QLineEdit*>();
+        const QList<SDrawnText> listTexts = DrawnTexts(*pEdit);
+        QCOMPARE(listTexts.size(), 1);
+        const QRect place = listTexts.first().place.toRect();
+        const int nGap = strLanguage == "en" ? place.left() : pEdit->width() - place.right() - 1;
+        QVERIFY2(nGap >= 0 && nGap < 20, qPrintable(QString("%1: %2").arg(pszName).arg(nGap)));
     }
 }
 
