@@ -34,6 +34,7 @@
 namespace
 {
 
+constexpr int g_nTextSize = 13; // pixels; the client's
 constexpr int g_nRounds = 40;
 constexpr int g_nSounds = 10000;
 constexpr double g_dTolerance = 1.03;
@@ -427,6 +428,9 @@ int main(int argc, char* argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_LOGGING_RULES", "default.warning=false"); // what that platform cannot do
     QApplication application(argc, argv);
+    QFont font = QApplication::font();
+    font.setPixelSize(g_nTextSize);
+    QApplication::setFont(font);
     const QStringList listArguments = application.arguments().mid(1);
     if (listArguments.isEmpty())
     {
