@@ -146,7 +146,9 @@ void KvDialog::FocusContent()
 void KvDialog::ElideTitle()
 {
     const int nWidth = m_pTitleLabel->contentsRect().width();
-    m_pTitleLabel->setText(m_pTitleLabel->fontMetrics().elidedText(windowTitle(), Qt::ElideRight, nWidth));
+    const QString strShown = m_pTitleLabel->fontMetrics().elidedText(windowTitle(), Qt::ElideRight, nWidth);
+    m_pTitleLabel->setText(strShown);
+    m_pTitleLabel->setToolTip(strShown == windowTitle() ? QString() : windowTitle());
 }
 
 bool KvDialog::eventFilter(QObject* pWatched, QEvent* pEvent)

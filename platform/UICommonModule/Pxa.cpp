@@ -126,6 +126,10 @@ SControlText GetText(const QWidget& control)
     };
     if (const auto* pLabel = qobject_cast<const QLabel*>(&control))
     {
+        if (pLabel->wordWrap())
+        {
+            return {}; // it goes on in the next line
+        }
         return text(pLabel->buddy() ? WithoutMnemonics(pLabel->text()) : pLabel->text(),
                     pLabel->contentsRect().width());
     }

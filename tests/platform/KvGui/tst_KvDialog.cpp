@@ -118,6 +118,7 @@ void tst_KvDialog::LongTitleIsElided()
     QVERIFY(pLabel->text().endsWith(QChar(0x2026)));
     QVERIFY(pLabel->fontMetrics().horizontalAdvance(pLabel->text()) <= pLabel->width());
     QCOMPARE(dialog.windowTitle().size(), 500);
+    QCOMPARE(pLabel->toolTip(), dialog.windowTitle());
     QCOMPARE(dialog.width(), 200);
 }
 

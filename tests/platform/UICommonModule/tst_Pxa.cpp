@@ -49,6 +49,7 @@ private slots:
     void ToolTipGoesWhenTheTextFits();
     void AControlWithoutTextKeepsItsToolTip();
     void APasswordIsNotTold();
+    void AWrappedTextNeedsNoToolTip();
     void AnotherToolTipStays();
     void MnemonicsAreLeftOut();
     void NullIsHarmless();
@@ -376,6 +377,15 @@ void tst_Pxa::ToolTipGoesWhenTheTextFits()
     label.resize(20, 20);
     Pxa::QCommon::AddToolTipByControlWidth(&label);
     label.resize(600, 20);
+    Pxa::QCommon::AddToolTipByControlWidth(&label);
+    QVERIFY(label.toolTip().isEmpty());
+}
+
+void tst_Pxa::AWrappedTextNeedsNoToolTip()
+{
+    QLabel label("A text of some length");
+    label.setWordWrap(true);
+    label.resize(30, 200);
     Pxa::QCommon::AddToolTipByControlWidth(&label);
     QVERIFY(label.toolTip().isEmpty());
 }
