@@ -1,5 +1,6 @@
 #include "CKeyboardTravel.h"
 
+#include "CFindField.h"
 #include "CGroupBox.h"
 
 #include <KvGui/KvToolListView.h>
@@ -44,6 +45,7 @@ CKeyboardTravel::CKeyboardTravel(QWidget* pDialog, KVGUI::KvToolListView* pList,
     };
     add(Qt::CTRL + Qt::Key_PageUp, [this] { GoToSection(-1); });
     add(Qt::CTRL + Qt::Key_PageDown, [this] { GoToSection(1); });
+    add(Qt::CTRL + Qt::Key_F, [this] { Find(); });
     add(Qt::Key_F6, [this] { GoToArea(1); });
     add(Qt::SHIFT + Qt::Key_F6, [this] { GoToArea(-1); });
 }
@@ -106,6 +108,16 @@ const CGroupBox* CKeyboardTravel::FindSection(const QWidget* pWidget)
         pWidget = pWidget->parentWidget();
     }
     return static_cast<const CGroupBox*>(pWidget);
+}
+
+void CKeyboardTravel::Find()
+{
+    if (!m_pFindField)
+    {
+        m_pFindField = new CFindField(m_pDialog, m_pScrollArea);
+        connect(m_pFindField, &CFindField::SignalSectionFound, this, &CKeyboardTravel::SignalSectionEntered);
+    }
+    m_pFindField->Open();
 }
 
 // --- From section to section, and round the dialog

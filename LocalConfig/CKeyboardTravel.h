@@ -14,11 +14,12 @@ class KvToolListView;
 namespace LocalConfig
 {
 
+class CFindField;
 class CGroupBox;
 
 /// The ways of the keyboard through the dialog, and the view that follows. Tab leads from the navigation list into the
 /// selected section, and Shift+Tab back; Ctrl+Page Up and Ctrl+Page Down go from section to section; F6 goes round
-/// list, section and buttons. The pages know nothing of it.
+/// list, section and buttons; Ctrl+F finds a caption. The pages know nothing of it.
 class CKeyboardTravel : public QObject
 {
     Q_OBJECT
@@ -34,7 +35,7 @@ public:
     void SetPaused(bool bPaused);
 
 signals:
-    /// A control of this section has got the focus.
+    /// A control of this section has got the focus, or was found.
     void SignalSectionEntered(int nIndex);
 
 private:
@@ -46,6 +47,7 @@ private:
         AreaCount
     };
 
+    void Find();
     void GoToSection(int nStep);
     void GoToArea(int nStep);
     Area GetArea(const QWidget* pWidget) const;
@@ -63,6 +65,7 @@ private:
     QWidget* m_pDialog;
     KVGUI::KvToolListView* m_pList;
     QScrollArea* m_pScrollArea;
+    CFindField* m_pFindField = nullptr; // until it is first asked for
     bool m_bPaused = false;
     QPointer<QWidget> m_pHolder; // of the focus, also while another window has it
     QMetaObject::Connection m_currentCell;

@@ -521,6 +521,25 @@
     </message>
 </context>
 <context>
+    <name>LocalConfig::CFindField</name>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>No match</source>
+        <translation>无匹配项</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>第 %1 个，共 %2 个</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>第 %1 个，共 %2 个：%3</translation>
+    </message>
+</context>
+<context>
     <name>LocalConfig::CPlaybackConfig</name>
     <message>
         <source>All</source>

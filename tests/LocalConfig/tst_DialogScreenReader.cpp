@@ -84,6 +84,8 @@ private slots:
     void AMessageAtAFieldThatIsLeftDescribesIt();
     void TheTipOfARefusedSaveIsAnAlert();
     void AnOrdinaryTipIsNoAlert();
+    void FindingNothingIsAnAlert();
+    void TheFindFieldTellsItsMatch();
 
 private:
     SRealHost m_host;
@@ -291,6 +293,27 @@ void tst_DialogScreenReader::AnOrdinaryTipIsNoAlert()
     QToolTip::showText(d.dialog.mapToGlobal(QPoint(10, 10)), "Tile", &d.dialog);
     QVERIFY(QToolTip::isVisible());
     QCOMPARE(alerts.Take(), QStringList());
+}
+
+void tst_DialogScreenReader::FindingNothingIsAnAlert()
+{
+    SRealDialog d(m_host);
+    d.Open();
+    QTest::keyClick(d.dialog.windowHandle(), Qt::Key_F, Qt::ControlModifier);
+    CAlerts alerts;
+    QTest::keyClicks(d.dialog.focusWidget(), "xyz");
+    QCOMPARE(alerts.Take().value(0), QString("No match"));
+}
+
+void tst_DialogScreenReader::TheFindFieldTellsItsMatch()
+{
+    SRealDialog d(m_host);
+    d.Open();
+    QTest::keyClick(d.dialog.windowHandle(), Qt::Key_F, Qt::ControlModifier);
+    QWidget* pField = d.dialog.focusWidget();
+    QCOMPARE(Accessible(pField)->text(QAccessible::Name), QString("Find"));
+    QTest::keyClicks(pField, "auto login");
+    QCOMPARE(Description(pField), QString("1 of 1: Auto Login"));
 }
 
 QTEST_MAIN(tst_DialogScreenReader)

@@ -212,6 +212,18 @@ def a_refused_save_is_told(reader):
     assert field.get_description() == "Illegal value, (2-10)", field.get_description()
 
 
+def a_caption_is_found(reader):
+    press("ctrl+f")
+    reader.wait_for_focus("Find")
+    subprocess.run(["xdotool", "type", "audio talk"], check=True)
+    field = reader.find(Atspi.Role.TEXT, "Find")
+    reader.wait("the match", lambda: field.get_description() == "1 of 1: Self-adaptive audio talk parameter")
+    subprocess.run(["xdotool", "type", "ing"], check=True)
+    reader.wait_for_alert("No match")
+    press("BackSpace", "BackSpace", "BackSpace", "Escape")
+    reader.wait_for_focus("Self-adaptive audio talk parameter")
+
+
 def escape_closes_the_dialog(reader):
     press("Escape")
     reader.wait("the end of the dialog", lambda: not has(reader.top, Atspi.StateType.SHOWING))
@@ -219,7 +231,7 @@ def escape_closes_the_dialog(reader):
 
 CHECKS = [every_control_of_each_section_says_what_it_is, the_hidden_table_of_keys_is_not_found, a_check_box_is_toggled,
           a_number_is_set, the_focus_is_followed, scrolling_moves_no_focus, a_wrong_value_is_told_and_stays_described,
-          a_refused_save_is_told, escape_closes_the_dialog]
+          a_refused_save_is_told, a_caption_is_found, escape_closes_the_dialog]
 
 
 def main(client, data):
