@@ -91,6 +91,13 @@ bool CSplitWndNumConfig::HasKeyboardOn(int nSplit) const
     });
 }
 
+QString CSplitWndNumConfig::GetText(int nSplit) const
+{
+    const auto it = std::find_if(std::begin(g_arrButtons), std::end(g_arrButtons),
+                                 [nSplit](const SSplitButton& button) { return button.nSplit == nSplit; });
+    return it == std::end(g_arrButtons) ? QString() : ((*m_pUi).*it->pButton)->toolTip();
+}
+
 bool CSplitWndNumConfig::eventFilter(QObject* pWatched, QEvent* pEvent)
 {
     if (pEvent->type() == QEvent::KeyPress)

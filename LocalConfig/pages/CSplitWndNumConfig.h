@@ -25,6 +25,9 @@ public:
     /// Whether the keyboard is on the picture of this number.
     bool HasKeyboardOn(int nSplit) const;
 
+    /// What the picture of this number is called; empty where there is none.
+    QString GetText(int nSplit) const;
+
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 signals:

@@ -346,6 +346,7 @@ void CVideoConfig::OnSplitWndChange(int splitWndNum)
     {
         m_pUi->btnShowSplitWnd->setStyleSheet(strSheet);
     }
+    m_pUi->btnShowSplitWnd->setAccessibleDescription(m_pSplitPicker->GetText(splitWndNum));
     m_nDefaultSplit = splitWndNum;
 }
 

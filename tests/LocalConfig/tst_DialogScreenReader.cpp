@@ -78,6 +78,7 @@ private slots:
     void ABrowseButtonSaysOfWhat();
     void TheHiddenKeyTableIsNotExposed_data();
     void TheHiddenKeyTableIsNotExposed();
+    void TheSplitButtonSaysWhatItShows();
     void AMessageAtAFieldThatIsLeftIsAnAlert_data();
     void AMessageAtAFieldThatIsLeftIsAnAlert();
     void AMessageAtAFieldThatIsLeftDescribesIt_data() { AMessageAtAFieldThatIsLeftIsAnAlert_data(); }
@@ -228,6 +229,17 @@ void tst_DialogScreenReader::TheHiddenKeyTableIsNotExposed()
     QVERIFY(!listFound.contains(d.dialog.findChild<QAbstractItemView*>(strHidden)));
     QAccessibleInterface* pPage = Accessible(pShown->parentWidget());
     QCOMPARE(pPage->child(pPage->indexOfChild(Accessible(pShown)))->object(), pShown);
+}
+
+void tst_DialogScreenReader::TheSplitButtonSaysWhatItShows()
+{
+    SRealDialog d(m_host);
+    d.Open();
+    auto* pButton = d.Find<QAbstractButton>("btnShowSplitWnd");
+    QCOMPARE(Description(pButton), QString("4 Windows"));
+    QTest::mouseClick(pButton, Qt::LeftButton);
+    QTest::mouseClick(d.Find<QAbstractButton>("btnDiv9"), Qt::LeftButton);
+    QCOMPARE(Description(pButton), QString("9 Windows"));
 }
 
 void tst_DialogScreenReader::AMessageAtAFieldThatIsLeftIsAnAlert_data()

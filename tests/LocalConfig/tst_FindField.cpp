@@ -87,6 +87,7 @@ private slots:
     void WithoutAMatchTheFocusGoesBack();
     void AHiddenControlIsNotFound();
     void TheLockedDialogIsSearched();
+    void AHolderThatIsLockedMeanwhileGivesWayToTheList();
     void AClickElsewhereClosesIt();
     void ASecondAskingSelectsTheText();
     void ClosingTheDialogClosesIt();
@@ -349,6 +350,18 @@ void tst_FindField::TheLockedDialogIsSearched()
     d.Type("client size");
     d.Press(Qt::Key_Escape);
     QCOMPARE(d.dialog.focusWidget()->objectName(), QString("screenRatioCmbBox"));
+    m_host.loginManager.Notify(2, 0);
+}
+
+void tst_FindField::AHolderThatIsLockedMeanwhileGivesWayToTheList()
+{
+    SFindDialog d(m_host);
+    d.Open();
+    d.Find<QWidget>("autologinChkBox")->setFocus();
+    d.Type("automobile");
+    m_host.loginManager.Notify(3, 0);
+    d.Press(Qt::Key_Escape);
+    QCOMPARE(d.dialog.focusWidget(), d.List());
     m_host.loginManager.Notify(2, 0);
 }
 
