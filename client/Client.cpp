@@ -395,6 +395,8 @@ void Client::ApplyLook(QApplication& application)
     // A picture that needs no display needs no system that would have a font, either.
     const bool bHasSystem = QGuiApplication::platformName() != QLatin1String("offscreen");
     application.setFont(ClientTexts::MakeFont(bHasSystem ? application.font() : QFont(QString(), 1)));
+    application.setPalette(Pxa::GetPalette());
+
     const QString strPath = Pxa::GetSkinPath(QStringLiteral("public"), QStringLiteral("KvGui.qss"));
     QString strSheet;
     if (Pxa::loadStyleSheet(strPath, strSheet))

@@ -8,12 +8,12 @@
 #include <LocalConfig/SkinStyle.h>
 #include <UICommonModule/CAlarmType.h>
 #include <UICommonModule/CAudioOutput.h>
+#include <UICommonModule/CFileDialog.h>
 #include <UICommonModule/CGlobalInfo.h>
 #include <UICommonModule/CWaveFile.h>
 #include <UICommonModule/Pxa.h>
 
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QSound>
 #include <QStandardItemModel>
@@ -451,9 +451,9 @@ void CAlarmConfig::OnAlarmTypeForSoundChanged(int /*nMainItem*/, int nSubItem)
 
 void CAlarmConfig::OnSoundPathBtnClicked()
 {
-    KVGUI::KvModal<QFileDialog> dialog(this, tr("Select a wav file"),
-                                       QFileInfo(Resolve(m_pUi->editSoundPath->text())).absolutePath(),
-                                       tr("WAVE Files (*.wav)"));
+    KVGUI::KvModal<UICommonMdl::CFileDialog> dialog(this, tr("Select a wav file"),
+                                                    QFileInfo(Resolve(m_pUi->editSoundPath->text())).absolutePath(),
+                                                    tr("WAVE Files (*.wav)"));
     dialog->setFileMode(QFileDialog::ExistingFile);
     if (!dialog.Exec() || dialog->result() != QDialog::Accepted)
     {

@@ -346,7 +346,8 @@ void CVideoConfig::OnSplitWndChange(int splitWndNum)
     {
         m_pUi->btnShowSplitWnd->setStyleSheet(strSheet);
     }
-    m_pUi->btnShowSplitWnd->setAccessibleDescription(m_pSplitPicker->GetText(splitWndNum));
+    // The picture says it to the eye alone.
+    m_pUi->btnShowSplitWnd->setToolTip(m_pSplitPicker->GetText(splitWndNum));
     m_nDefaultSplit = splitWndNum;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QAbstractListModel>
 #include <QHBoxLayout>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QListView>
 #include <QScreen>
@@ -31,6 +32,13 @@ protected:
         return eFlags.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::ClearAndSelect : eFlags;
     }
 };
+
+/// Whether the row at a place of the viewport does not show its whole text.
+bool IsCut(const QListView& list, const QPoint& pos)
+{
+    const QModelIndex index = list.indexAt(pos);
+    return index.isValid() && list.sizeHintForIndex(index).width() > list.viewport()->width();
+}
 
 int Mirrored(int nKey)
 {
@@ -292,6 +300,9 @@ bool CAlarmTypeMenu::eventFilter(QObject* pWatched, QEvent* pEvent)
             MarkType(static_cast<QMouseEvent*>(pEvent)->pos());
         }
         return false;
+    case QEvent::ToolTip:
+        return !IsCut(pWatched == m_pMainList->viewport() ? *m_pMainList : *m_pSubList,
+                      static_cast<QHelpEvent*>(pEvent)->pos());
     case QEvent::Leave:
         if (bCategories)
         {

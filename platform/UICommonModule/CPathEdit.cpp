@@ -1,12 +1,13 @@
 #include "CPathEdit.h"
 
+#include "CFileDialog.h"
+
 #include <KvGui/KvModal.h>
 
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QDir>
 #include <QEvent>
-#include <QFileDialog>
 #include <QFileSystemModel>
 #include <QStyle>
 #include <QStyledItemDelegate>
@@ -83,7 +84,7 @@ void CPathEdit::OnBrowse()
 {
     if (m_eBrowseMode == BrowseFolder)
     {
-        KVGUI::KvModal<QFileDialog> dialog(this, tr("Select a folder"), QDir::fromNativeSeparators(text()));
+        KVGUI::KvModal<CFileDialog> dialog(this, tr("Select a folder"), QDir::fromNativeSeparators(text()));
         dialog->setFileMode(QFileDialog::Directory);
         dialog->setOption(QFileDialog::ShowDirsOnly);
         if (!dialog.Exec())

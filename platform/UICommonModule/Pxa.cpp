@@ -14,6 +14,8 @@
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QHash>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
@@ -43,6 +45,40 @@ struct SSheet
     qint64 nSize = -1;
     QDateTime changed;
     QString strText;
+};
+
+struct SRole
+{
+    QPalette::ColorGroup eGroup;
+    QPalette::ColorRole eRole;
+    const char* pszColor; // its name in the skin
+};
+
+constexpr SRole g_arrRoles[] = {
+    {QPalette::All, QPalette::Window, "background"},
+    {QPalette::All, QPalette::WindowText, "text"},
+    {QPalette::All, QPalette::Base, "field"},
+    {QPalette::All, QPalette::AlternateBase, "background"},
+    {QPalette::All, QPalette::Text, "text"},
+    {QPalette::All, QPalette::PlaceholderText, "secondaryText"},
+    {QPalette::All, QPalette::Button, "card"},
+    {QPalette::All, QPalette::ButtonText, "text"},
+    {QPalette::All, QPalette::BrightText, "error"},
+    {QPalette::All, QPalette::Highlight, "accent"},
+    {QPalette::All, QPalette::HighlightedText, "accentText"},
+    {QPalette::All, QPalette::Link, "accent"},
+    {QPalette::All, QPalette::LinkVisited, "secondaryText"},
+    {QPalette::All, QPalette::ToolTipBase, "notification"},
+    {QPalette::All, QPalette::ToolTipText, "notificationText"},
+    {QPalette::All, QPalette::Light, "hover"},
+    {QPalette::All, QPalette::Midlight, "border"},
+    {QPalette::All, QPalette::Mid, "border"},
+    {QPalette::All, QPalette::Dark, "outline"},
+    {QPalette::All, QPalette::Shadow, "titleBar"},
+    {QPalette::Disabled, QPalette::WindowText, "disabledText"},
+    {QPalette::Disabled, QPalette::Text, "disabledText"},
+    {QPalette::Disabled, QPalette::ButtonText, "disabledText"},
+    {QPalette::Disabled, QPalette::Base, "disabledField"},
 };
 
 QString g_strSkin;
@@ -210,6 +246,27 @@ bool loadStyleSheet(const QString& strPath, QString& strOut)
     }
     strOut = sheet.strText;
     return true;
+}
+
+QPalette GetPalette()
+{
+    QPalette palette;
+    QByteArray content;
+    if (CAtomicFile::Read(GetSkinPath(QStringLiteral("public"), QStringLiteral("palette.json")), content) !=
+        CErrorCode::Success)
+    {
+        return palette;
+    }
+    const QJsonObject colors = QJsonDocument::fromJson(content).object();
+    for (const SRole& role : g_arrRoles)
+    {
+        const QColor color(colors.value(QLatin1String(role.pszColor)).toString());
+        if (color.isValid())
+        {
+            palette.setColor(role.eGroup, role.eRole, color);
+        }
+    }
+    return palette;
 }
 
 QString GetSkin()

@@ -2,6 +2,7 @@
 
 #include <UICommonModule/UICommonModuleExport.h>
 
+#include <QPalette>
 #include <QString>
 
 class QWidget;
@@ -18,6 +19,9 @@ UICOMMONMODULE_EXPORT QString GetSkinPath(const QString& strFolder, const QStrin
 /// one side, gradients.
 /// \return false when the file cannot be read; \a strOut is then as it was
 UICOMMONMODULE_EXPORT bool loadStyleSheet(const QString& strPath, QString& strOut);
+
+/// The colours of the current skin, for what no style sheet reaches; the application's own where the skin has none.
+UICOMMONMODULE_EXPORT QPalette GetPalette();
 
 /// The current skin, "DustyBlue" or "White". Until it is set, what Localcfg.ini in the working folder names under
 /// [Skin] version, read once; anything else counts as "DustyBlue". Style sheets reach the files of the current skin

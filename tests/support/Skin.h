@@ -11,6 +11,7 @@ inline void UseSkin(const QString& strSkin)
     Pxa::SetSkin(strSkin);
     QString strSheet;
     QVERIFY(Pxa::loadStyleSheet(Pxa::GetSkinPath("public", "KvGui.qss"), strSheet));
+    QApplication::setPalette(Pxa::GetPalette());
     qApp->setStyleSheet(strSheet);
     QFont font = QApplication::font();
     font.setPixelSize(13);

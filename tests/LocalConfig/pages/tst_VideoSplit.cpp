@@ -2,6 +2,7 @@
 
 #include <LocalConfig/pages/CSplitWndNumConfig.h>
 
+#include <QAccessible>
 #include <QPushButton>
 
 using namespace LocalConfig;
@@ -16,6 +17,8 @@ private slots:
 
     void SplitButtonStyle_data();
     void SplitButtonStyle();
+    void TheSplitButtonTellsItsValue_data();
+    void TheSplitButtonTellsItsValue();
     void TheSameSplitStylesNothingAnew();
     void ThePickerIsHiddenAtFirst();
     void PickerTogglesAndStandsBelowTheButton();
@@ -45,6 +48,29 @@ void tst_VideoSplit::SplitButtonStyle()
                  "QPushButton#btnShowSplitWnd:hover{image: url(:/LocalConfig/tip_" + strN + "-h.svg);}" + strGap +
                  "QPushButton#btnShowSplitWnd:pressed{image: url(:/LocalConfig/tip_" + strN + "-p.svg);}" + strGap +
                  "QPushButton#btnShowSplitWnd:disabled{image: url(:/LocalConfig/tip_" + strN + "-d.svg);}");
+}
+
+void tst_VideoSplit::TheSplitButtonTellsItsValue_data()
+{
+    QTest::addColumn<int>("nSplit");
+    QTest::addColumn<QString>("strTold");
+    QTest::newRow("1") << 1 << "1 Window";
+    QTest::newRow("4") << 4 << "4 Windows";
+    QTest::newRow("36") << 36 << "36 Windows";
+}
+
+void tst_VideoSplit::TheSplitButtonTellsItsValue()
+{
+    QFETCH(int, nSplit);
+    QFETCH(QString, strTold);
+    Load({});
+    auto* pButton = Find<QPushButton>("btnShowSplitWnd");
+    QTest::mouseClick(pButton, Qt::LeftButton);
+    QTest::mouseClick(Find<QPushButton>(qPrintable(QString("btnDiv%1").arg(nSplit))), Qt::LeftButton);
+    QCOMPARE(pButton->toolTip(), strTold);
+    const QAccessibleInterface* pAccessible = QAccessible::queryAccessibleInterface(pButton);
+    QCOMPARE(pAccessible->text(QAccessible::Name), QString("Default Split"));
+    QCOMPARE(pAccessible->text(QAccessible::Description), strTold);
 }
 
 void tst_VideoSplit::TheSameSplitStylesNothingAnew()

@@ -12,6 +12,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryFile>
+#include <QToolTip>
 #include <QWindow>
 #include <QtTest>
 
@@ -73,6 +74,8 @@ private slots:
     void OpeningShowsTheChoice();
     void AnEmptyMenuDoesNotOpen_data();
     void AnEmptyMenuDoesNotOpen();
+    void OnlyARowWhoseTextIsCutHasAToolTip_data();
+    void OnlyARowWhoseTextIsCutHasAToolTip();
     void TheMousePicks();
     void TheBoxIsNotHoveredOnceTheMouseHasPicked();
     void HoveringShowsACategory();
@@ -447,6 +450,32 @@ void tst_AlarmTypeCombox::TheBoxIsNotHoveredOnceTheMouseHasPicked()
     QTest::mouseClick(Sub()->viewport(), Qt::LeftButton, {}, RowOf(Sub(), 0).center());
     QVERIFY(!m_pCombo->IsOpen());
     QVERIFY(!m_pCombo->underMouse());
+}
+
+void tst_AlarmTypeCombox::OnlyARowWhoseTextIsCutHasAToolTip_data()
+{
+    QTest::addColumn<QString>("strText");
+    QTest::addColumn<bool>("bTip");
+    QTest::newRow("short") << "Offline" << false;
+    QTest::newRow("cut") << QString("Offline ").repeated(20) << true;
+}
+
+void tst_AlarmTypeCombox::OnlyARowWhoseTextIsCutHasAToolTip()
+{
+    QFETCH(QString, strText);
+    QFETCH(bool, bTip);
+    m_pCombo->InitMenu({{1, strText}}, {{1, {{0, strText}}}});
+    m_pCombo->showPopup();
+    for (QListView* pList : {Main(), Sub()})
+    {
+        QToolTip::hideText();
+        QTRY_VERIFY(!QToolTip::isVisible());
+        const QPoint place = RowOf(pList, 0).center();
+        QHelpEvent event(QEvent::ToolTip, place, pList->viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(pList->viewport(), &event);
+        QCOMPARE(QToolTip::isVisible(), bTip);
+        QCOMPARE(QToolTip::text(), bTip ? strText : QString());
+    }
 }
 
 void tst_AlarmTypeCombox::TheMousePicks()

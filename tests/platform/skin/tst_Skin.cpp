@@ -57,6 +57,9 @@ private slots:
 
     void Contrasts_data();
     void Contrasts();
+    void ThePaletteIsTheSkins_data() { SkinRows(); }
+    void ThePaletteIsTheSkins();
+    void ASkinWithoutAPaletteLeavesTheApplications();
     void BothSkinsHaveTheSameFiles();
     void NavigationPicturesStandInTheirFolders_data();
     void NavigationPicturesStandInTheirFolders();
@@ -139,6 +142,44 @@ void tst_Skin::Contrasts()
     QVERIFY(text.isValid() && background.isValid());
     const double dContrast = Contrast(text, background);
     QVERIFY2(dContrast >= dLeast, qPrintable(QString::number(dContrast)));
+}
+
+void tst_Skin::ThePaletteIsTheSkins()
+{
+    QFETCH(QString, strSkin);
+    Pxa::SetSkin(strSkin);
+    const QPalette palette = Pxa::GetPalette();
+    const QMap<QPalette::ColorRole, const char*> mapRoles = {{QPalette::Window, "background"},
+                                                             {QPalette::WindowText, "text"},
+                                                             {QPalette::Base, "field"},
+                                                             {QPalette::Text, "text"},
+                                                             {QPalette::Button, "card"},
+                                                             {QPalette::ButtonText, "text"},
+                                                             {QPalette::Highlight, "accent"},
+                                                             {QPalette::HighlightedText, "accentText"},
+                                                             {QPalette::ToolTipBase, "notification"},
+                                                             {QPalette::ToolTipText, "notificationText"},
+                                                             {QPalette::PlaceholderText, "secondaryText"},
+                                                             {QPalette::Link, "accent"}};
+    for (auto it = mapRoles.cbegin(); it != mapRoles.cend(); ++it)
+    {
+        QCOMPARE(palette.color(QPalette::Active, it.key()), PaletteColor(strSkin, it.value()));
+        QCOMPARE(palette.color(QPalette::Inactive, it.key()), PaletteColor(strSkin, it.value()));
+    }
+    for (QPalette::ColorRole eRole : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    {
+        QCOMPARE(palette.color(QPalette::Disabled, eRole), PaletteColor(strSkin, "disabledText"));
+    }
+}
+
+void tst_Skin::ASkinWithoutAPaletteLeavesTheApplications()
+{
+    const QByteArray before = qgetenv("KV_CLIENT_RESOURCES");
+    const QTemporaryDir folder;
+    qputenv("KV_CLIENT_RESOURCES", folder.path().toLocal8Bit());
+    const QPalette palette = Pxa::GetPalette();
+    qputenv("KV_CLIENT_RESOURCES", before);
+    QCOMPARE(palette, QPalette());
 }
 
 void tst_Skin::BothSkinsHaveTheSameFiles()
