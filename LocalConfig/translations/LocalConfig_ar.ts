@@ -521,6 +521,25 @@
     </message>
 </context>
 <context>
+    <name>LocalConfig::CFindField</name>
+    <message>
+        <source>Find</source>
+        <translation>بحث</translation>
+    </message>
+    <message>
+        <source>No match</source>
+        <translation>لا توجد نتائج</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1 من %2: %3</translation>
+    </message>
+</context>
+<context>
     <name>LocalConfig::CPlaybackConfig</name>
     <message>
         <source>All</source>

@@ -521,6 +521,25 @@
     </message>
 </context>
 <context>
+    <name>LocalConfig::CFindField</name>
+    <message>
+        <source>Find</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>No match</source>
+        <translation>Sin coincidencias</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2: %3</source>
+        <translation>%1 de %2: %3</translation>
+    </message>
+</context>
+<context>
     <name>LocalConfig::CPlaybackConfig</name>
     <message>
         <source>All</source>

@@ -9,6 +9,17 @@
     </message>
 </context>
 <context>
+    <name>KVGUI::KvLineEdit</name>
+    <message>
+        <source>Illegal value</source>
+        <translation>Valor no válido</translation>
+    </message>
+    <message>
+        <source>Illegal value, %1</source>
+        <translation>Valor no válido, %1</translation>
+    </message>
+</context>
+<context>
     <name>KvMessageBox</name>
     <message>
         <source>OK</source>

@@ -122,5 +122,9 @@
         <source>Select a folder</source>
         <translation>تحديد مجلد</translation>
     </message>
+    <message>
+        <source>Browse: %1</source>
+        <translation>استعراض: %1</translation>
+    </message>
 </context>
 </TS>

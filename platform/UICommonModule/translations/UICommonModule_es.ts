@@ -122,5 +122,9 @@
         <source>Select a folder</source>
         <translation>Seleccione una carpeta</translation>
     </message>
+    <message>
+        <source>Browse: %1</source>
+        <translation>Examinar: %1</translation>
+    </message>
 </context>
 </TS>
