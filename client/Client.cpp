@@ -435,17 +435,19 @@ int Client::OpenWindow()
     const std::unique_ptr<LoginManager> pLoginManager = MakeLoginManager(m_commandLine);
     UserManager userManager(GetMissingRights(m_commandLine, service), pLoginManager.get());
     MainWindow window(service, userManager);
+    window.OpenSettingsOnceSeen(m_commandLine.nSection);
     window.show();
 
     ComplainAbout(service);
-    QTimer::singleShot(0, &window, [this, &window] { window.OpenSettings(m_commandLine.nSection); });
-    // Over the dialog, where the operator looks, and not behind it.
-    QTimer::singleShot(g_nLayoutTime, &window, [&service] {
+    const auto tellProblems = [&service] {
         for (const QString& strProblem : service.GetFile().GetProblems())
         {
             KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(strProblem);
         }
-    });
+    };
+    // Over the dialog, where the operator looks, and not behind it.
+    QObject::connect(&window, &MainWindow::SignalSeen, &window,
+                     [&window, tellProblems] { QTimer::singleShot(g_nLayoutTime, &window, tellProblems); });
     return QApplication::exec();
 }
 

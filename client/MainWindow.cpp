@@ -60,6 +60,11 @@ int FindFlashing(const QList<int>& listCategories, const LocalConfigLogical::Ala
     return it == listCategories.end() ? listCategories.first() : *it;
 }
 
+KVGUI::KvMessageNotify* Notifications()
+{
+    return KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance();
+}
+
 } // namespace
 
 /// Shows the connection state; the notifications come from the login manager's thread.
@@ -69,7 +74,16 @@ public:
     explicit ConnectionObserver(QLabel* pLabel)
         : m_pLabel(pLabel)
     {
-        Show(true);
+        ShowState();
+    }
+
+    /// Tells why the settings are locked, if they are.
+    void TellLoss() const
+    {
+        if (!m_bConnected)
+        {
+            Notifications()->AddTextNotification(GetLossText());
+        }
     }
 
     void NotifyLoginState(const Param& param) override
@@ -80,12 +94,31 @@ public:
     }
 
 private:
-    void Show(bool bConnected)
+    static QString GetLossText()
     {
-        m_pLabel->setText(bConnected ? MainWindow::tr("Connected") : MainWindow::tr("Disconnected"));
+        return MainWindow::tr("The connection to the platform is lost. The settings are locked until it is back.");
     }
 
+    void Show(bool bConnected)
+    {
+        if (bConnected == m_bConnected)
+        {
+            return;
+        }
+        m_bConnected = bConnected;
+        ShowState();
+        TellLoss();
+        if (bConnected)
+        {
+            Notifications()->TakeBack(GetLossText());
+            Notifications()->AddSuccessNotification(MainWindow::tr("The connection to the platform is back."));
+        }
+    }
+
+    void ShowState() { m_pLabel->setText(m_bConnected ? MainWindow::tr("Connected") : MainWindow::tr("Disconnected")); }
+
     QLabel* m_pLabel;
+    bool m_bConnected = true;
 };
 
 MainWindow::MainWindow(ConfigService& configService, UserLogical::IUserManager& userManager)
@@ -123,9 +156,8 @@ MainWindow::MainWindow(ConfigService& configService, UserLogical::IUserManager& 
     // The time zone is shown or not from the start; a change takes effect after a restart.
     m_pTimeZone->setText(m_configService.GetStored().basic.showTimeZone ? GetTimeZoneText() : QString());
     m_configService.SetSavedHandler([this] { ApplySettings(); });
-    m_configService.SetProblemHandler([](const QString& strProblem) {
-        KVGUI::KvSingleton<KVGUI::KvMessageNotify>::Instance()->AddTextNotification(strProblem);
-    });
+    m_configService.SetProblemHandler(
+        [](const QString& strProblem) { Notifications()->AddTextNotification(strProblem); });
     ApplySettings();
 }
 
@@ -141,8 +173,8 @@ QWidget* MainWindow::MakeHeader()
     auto* pLayout = new QHBoxLayout(pHeader);
     pLayout->setContentsMargins(16, 8, 16, 8);
     pLayout->setSpacing(8);
-    pLayout->addWidget(pTitle);
-    pLayout->addStretch();
+    pTitle->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the first to give way on a narrow screen
+    pLayout->addWidget(pTitle, 1);
     pLayout->addWidget(m_pTimeZone);
     pLayout->addSpacing(8);
     pLayout->addWidget(m_pConnection);
@@ -345,11 +377,47 @@ void MainWindow::ApplySettings()
     if (bKnown && nClientSize != m_nClientSize) // else the operator's own size stays
     {
         m_nClientSize = nClientSize;
-        resize(g_arrClientSizes[nClientSize].boundedTo(screen()->availableSize()));
+        resize(g_arrClientSizes[nClientSize]);
+        FitIntoScreen();
     }
     m_pSplitView->SetSplit(settings.video.nDefaultSplit);
     m_pSplitView->SetDisplayScale(settings.video.nDisplayScale);
     SettleShortcuts();
+}
+
+/// With its frame, which it has once it is shown.
+void MainWindow::FitIntoScreen()
+{
+    if (isMaximized() || isFullScreen())
+    {
+        return;
+    }
+    const QRect available = screen()->availableGeometry();
+    resize(size().boundedTo(available.size() - (frameGeometry().size() - size())));
+    if (isVisible())
+    {
+        const QRect frame = frameGeometry();
+        move(qMax(available.left(), qMin(frame.left(), available.right() + 1 - frame.width())),
+             qMax(available.top(), qMin(frame.top(), available.bottom() + 1 - frame.height())));
+    }
+}
+
+bool MainWindow::event(QEvent* pEvent)
+{
+    const bool bHandled = QMainWindow::event(pEvent);
+    if (pEvent->type() == QEvent::Paint && !m_bSeen)
+    {
+        m_bSeen = true;
+        FitIntoScreen();
+        emit SignalSeen();
+    }
+    return bHandled;
+}
+
+void MainWindow::OpenSettingsOnceSeen(int nSection)
+{
+    connect(
+        this, &MainWindow::SignalSeen, this, [this, nSection] { OpenSettings(nSection); }, Qt::QueuedConnection);
 }
 
 void MainWindow::OpenSettings(int nSection)
@@ -362,6 +430,7 @@ void MainWindow::OpenSettings(int nSection)
         auto* pList = dialog->findChild<KVGUI::KvToolListView*>();
         QTimer::singleShot(g_nLayoutTime, pList, [pList, nSection] { pList->SetCurrentIndex(nSection); });
     }
+    QTimer::singleShot(g_nLayoutTime, dialog.operator->(), [this] { m_pObserver->TellLoss(); });
     const int nSaves = m_configService.GetSaveAttempts();
     if (!dialog.Exec())
     {

@@ -44,6 +44,10 @@ public:
     /// \param nSection  navigation index of the section that it shows at first; -1 for the first one
     void OpenSettings(int nSection = -1);
 
+    /// The same when the window, which is not shown yet, can be seen: only then it has the place that the dialog opens
+    /// over.
+    void OpenSettingsOnceSeen(int nSection);
+
     /// Applies what takes effect at once; the rest is applied at the next start.
     void ApplySettings();
 
@@ -53,9 +57,16 @@ public:
     /// Hides everything behind a screen that only unlocking leads away from.
     void SetLocked(bool bLocked);
 
+signals:
+    void SignalSeen(); ///< painted for the first time
+
+protected:
+    bool event(QEvent* pEvent) override;
+
 private:
     class ConnectionObserver;
 
+    void FitIntoScreen();
     QWidget* MakeHeader();
     QWidget* MakeAlarmPanel();
     void ShowAlarm();
@@ -82,6 +93,7 @@ private:
     QVector<QShortcut*> m_listKeyboard; // of the PC keyboard
     QShortcut* m_pSettingsShortcut;
     bool m_bMaximized = false; // before full screen
+    bool m_bSeen = false;
     QLabel* m_pConnection;
     QLabel* m_pTimeZone;
 };

@@ -236,6 +236,14 @@
 <context>
     <name>LocalConfigClient::MainWindow</name>
     <message>
+        <source>The connection to the platform is lost. The settings are locked until it is back.</source>
+        <translation>与平台的连接已断开。连接恢复之前，设置处于锁定状态。</translation>
+    </message>
+    <message>
+        <source>The connection to the platform is back.</source>
+        <translation>与平台的连接已恢复。</translation>
+    </message>
+    <message>
         <source>Connected</source>
         <translation>已连接</translation>
     </message>

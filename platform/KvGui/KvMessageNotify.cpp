@@ -281,6 +281,17 @@ void KvMessageNotify::Add(const QString& strText, bool bFailure)
     emit SignalTextNotificationAdded(strText);
 }
 
+void KvMessageNotify::TakeBack(const QString& strText)
+{
+    for (const bool bFailure : {true, false})
+    {
+        if (QWidget* pBar = FindBar(strText, bFailure))
+        {
+            Remove(pBar);
+        }
+    }
+}
+
 QWidget* KvMessageNotify::FindBar(const QString& strText, bool bFailure) const
 {
     const auto it = std::find_if(m_listBars.begin(), m_listBars.end(), [&](const QPointer<QWidget>& pBar) {

@@ -28,6 +28,9 @@ public:
     /// Tells of something that has worked; otherwise the same.
     Q_INVOKABLE void AddSuccessNotification(const QString& strText);
 
+    /// Takes the bar of a text away that is not true any more. On the GUI thread.
+    void TakeBack(const QString& strText);
+
     /// How long a success stays, in milliseconds; 5000 at first. Anything else stays twice as long. Applies to bars
     /// that are still to come, and to those that are renewed.
     void SetDuration(int nMilliseconds);

@@ -1,4 +1,5 @@
 #include "support/ClientWindow.h"
+#include "support/FakeHost.h"
 
 #include <client/alarm/AlarmSounds.h>
 #include <client/alarm/MapView.h>
@@ -9,6 +10,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QScreen>
+
+#include <algorithm>
 
 using namespace LocalConfigClient;
 
@@ -34,6 +37,12 @@ private slots:
 
     void TheTestAlarmStartsAtATypeThatFlashes_data();
     void TheTestAlarmStartsAtATypeThatFlashes();
+    void LossAndReturnOfTheConnectionAreTold();
+    void TheLossIsToldAgainInADialogThatOpensLocked();
+    void TheWindowFitsTheScreenWithItsFrame_data();
+    void TheWindowFitsTheScreenWithItsFrame();
+    void TheSettingsOpenOnceTheWindowIsSeen();
+
     void AMarkerOfTheMapChoosesAnAlarmType();
     void ATestAlarmThatNobodyCanHearSaysSoOnce();
 };
@@ -216,6 +225,96 @@ void tst_MainWindow::TheTestAlarmStartsAtATypeThatFlashes()
     QTest::mouseClick(window.findChild<QAbstractButton*>("btnTestAlarm"), Qt::LeftButton);
     QVERIFY(window.findChild<MapView*>()->IsFlashing());
     QCOMPARE(window.findChild<MapView*>()->GetFlashingCategory(), nCategory);
+}
+
+void tst_MainWindow::LossAndReturnOfTheConnectionAreTold()
+{
+    SFakeHost host;
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    MainWindow window(service, host.userManager);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    CNotificationSpy spy;
+    host.loginManager.Notify(3, 0);
+    host.loginManager.Notify(3, 1); // the same again
+    QTRY_COMPARE(window.findChild<QLabel*>("connection")->text(), QString("Disconnected"));
+    QCOMPARE(spy.size(), 1);
+    QVERIFY(spy[0][0].toString().contains("lost"));
+    host.loginManager.Notify(2, 0);
+    QTRY_COMPARE(spy.size(), 2);
+    QVERIFY(spy[1][0].toString().contains("back"));
+    const QList<QLabel*> listTexts = window.findChildren<QLabel*>("notifyText");
+    const auto nShown =
+        std::count_if(listTexts.begin(), listTexts.end(), [](QLabel* pText) { return pText->isVisible(); });
+    QCOMPARE(int(nShown), 1); // the loss is not true any more
+}
+
+void tst_MainWindow::TheLossIsToldAgainInADialogThatOpensLocked()
+{
+    SFakeHost host;
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    MainWindow window(service, host.userManager);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    CNotificationSpy spy;
+    host.loginManager.Notify(3, 0);
+    QTRY_COMPARE(spy.size(), 1);
+    QTimer::singleShot(300, &window, [&] {
+        const auto* pBar = QApplication::activeModalWidget()->findChild<QWidget*>("notifyBar");
+        QVERIFY(pBar && pBar->isVisible());
+        static_cast<QDialog*>(QApplication::activeModalWidget())->done(0);
+    });
+    window.OpenSettings();
+    QCOMPARE(spy.size(), 2);
+}
+
+void tst_MainWindow::TheWindowFitsTheScreenWithItsFrame_data()
+{
+    QTest::addColumn<int>("nClientSize");
+    for (int nClientSize = 0; nClientSize < 4; ++nClientSize)
+    {
+        QTest::addRow("size %d", nClientSize) << nClientSize;
+    }
+}
+
+void tst_MainWindow::TheWindowFitsTheScreenWithItsFrame()
+{
+    QFETCH(int, nClientSize);
+    Settings settings;
+    settings.basic.clientSize = nClientSize;
+    Store(settings);
+    SHOWN_CLIENT;
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTRY_VERIFY(window.frameGeometry().size() != window.size()); // this platform has frames
+    const QRect available = window.screen()->availableGeometry();
+    QTRY_VERIFY2(
+        available.contains(window.frameGeometry()),
+        qPrintable(QString("%1 x %2").arg(window.frameGeometry().width()).arg(window.frameGeometry().height())));
+}
+
+void tst_MainWindow::TheSettingsOpenOnceTheWindowIsSeen()
+{
+    ConfigService service(m_pFolder->path(), SettingsFile::ReadWrite);
+    UserManager users({}, nullptr);
+    MainWindow window(service, users);
+    window.OpenSettingsOnceSeen(6);
+    bool bOpened = false;
+    bool bSeenBefore = false;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, &window, [&] {
+        if (auto* pDialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+        {
+            bOpened = true;
+            bSeenBefore = window.isVisible();
+            pDialog->done(0);
+        }
+    });
+    timer.start(10);
+    QTest::qWait(100);
+    QVERIFY(!bOpened);
+    window.show();
+    QTRY_VERIFY(bOpened);
+    QVERIFY(bSeenBefore);
 }
 
 void tst_MainWindow::AMarkerOfTheMapChoosesAnAlarmType()

@@ -89,6 +89,7 @@ private slots:
     void InADialogTheBarStandsBetweenTheButtons_data();
     void InADialogTheBarStandsBetweenTheButtons();
     void InADialogTheOthersWaitForTheNewest();
+    void ATextThatIsNotTrueAnyMoreIsTakenBack();
     void WhereTheButtonsLeaveNoRoomTheBarStandsAtTheTop();
     void SeveralStack();
     void EachGoesByItself();
@@ -272,6 +273,19 @@ void tst_KvMessageNotify::InADialogTheOthersWaitForTheNewest()
     QTRY_COMPARE(Text(Bars(dialog).first()), QString("First"));
     QCOMPARE(Bars(dialog).size(), 1);
     QTRY_VERIFY(Bars(dialog).isEmpty());
+}
+
+void tst_KvMessageNotify::ATextThatIsNotTrueAnyMoreIsTakenBack()
+{
+    QWidget window;
+    Show(window);
+    Notify()->AddTextNotification("Lost");
+    Notify()->AddTextNotification("Other");
+    Notify()->TakeBack("Lost");
+    QCOMPARE(Bars(window).size(), 1);
+    QCOMPARE(Text(Bars(window).first()), QString("Other"));
+    Notify()->TakeBack("Unknown");
+    QCOMPARE(Bars(window).size(), 1);
 }
 
 void tst_KvMessageNotify::WhereTheButtonsLeaveNoRoomTheBarStandsAtTheTop()
