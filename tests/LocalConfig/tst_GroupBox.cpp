@@ -138,6 +138,9 @@ void tst_GroupBox::PressOnAButtonIsTheButtons()
 
 void tst_GroupBox::StyleSheetSurvivesRenaming()
 {
+    QFont font = QApplication::font();
+    font.setPixelSize(13); // larger text would change the sheet
+    QApplication::setFont(font);
     QString strExpected;
     QVERIFY(Pxa::loadStyleSheet(Pxa::GetSkinPath("LocalConfig", "CGroupBox.qss"), strExpected));
     CGroupBox box(nullptr);

@@ -49,5 +49,6 @@ inline LocalConfigClient::Settings ChangedSettings()
     LocalConfigClient::Settings settings;
     CFieldChanger changer;
     LocalConfigClient::VisitFields(settings, changer);
+    settings.video.nDefaultSplit = 9; // one that has pictures
     return settings;
 }
