@@ -12,7 +12,7 @@ namespace KVGUI
 KvSpinBox::KvSpinBox(QWidget* pParent)
     : QSpinBox(pParent)
 {
-    setLocale(QLocale::c()); // whose digits are those of the patterns and records
+    setLocale(QLocale::c());         // whose digits are those of the patterns and records
     setFocusPolicy(Qt::StrongFocus); // the wheel does not bring the focus
 }
 

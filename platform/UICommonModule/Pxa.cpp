@@ -7,10 +7,12 @@
 #include "CLocalIniFile.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <QFontInfo>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QHash>
@@ -37,11 +39,13 @@ namespace
 
 const QLatin1String g_strDark("DustyBlue");
 const QLatin1String g_strWhite("White");
+constexpr int g_nTextSize = 13; // pixels; what the sizes in the sheets go with
 constexpr char g_szGivenToolTip[] = "toolTipByWidth";
 
 struct SSheet
 {
     Qt::LayoutDirection eDirection = Qt::LeftToRight;
+    int nTextSize = 0;
     qint64 nSize = -1;
     QDateTime changed;
     QString strText;
@@ -86,6 +90,27 @@ QString g_strSkin;
 QString SkinRoot()
 {
     return QStringLiteral("%1/skin/%2").arg(CGlobalInfo::GetResourcePath(), GetSkin());
+}
+
+/// Of the application's font, in pixels.
+int GetTextSize()
+{
+    const QFont font = QApplication::font();
+    return font.pixelSize() > 0 ? font.pixelSize() : QFontInfo(font).pixelSize();
+}
+
+void ScaleFontSizes(QString& strSheet, int nTextSize)
+{
+    static const QRegularExpression fontSize(QStringLiteral("font-size: (\\d+)px"));
+    QRegularExpressionMatchIterator it = fontSize.globalMatch(strSheet);
+    int nGrown = 0;
+    while (nTextSize > g_nTextSize && it.hasNext())
+    {
+        const QRegularExpressionMatch match = it.next();
+        const QString strSize = QString::number(qRound(match.capturedRef(1).toDouble() * nTextSize / g_nTextSize));
+        strSheet.replace(match.capturedStart(1) + nGrown, match.capturedLength(1), strSize);
+        nGrown += strSize.size() - match.capturedLength(1);
+    }
 }
 
 /// Exchanges left and right in a sheet, but for the places of subcontrols and texts, which Qt mirrors itself.
@@ -226,8 +251,9 @@ bool loadStyleSheet(const QString& strPath, QString& strOut)
     const QFileInfo info(strPath);
     SSheet& sheet = hashSheets[info.absoluteFilePath()];
     const Qt::LayoutDirection eDirection = QGuiApplication::layoutDirection();
+    const int nTextSize = GetTextSize();
     if (!info.isFile() || info.size() != sheet.nSize || info.lastModified() != sheet.changed ||
-        eDirection != sheet.eDirection)
+        nTextSize != sheet.nTextSize || eDirection != sheet.eDirection)
     {
         QByteArray content;
         if (CAtomicFile::Read(strPath, content) != CErrorCode::Success)
@@ -238,7 +264,9 @@ bool loadStyleSheet(const QString& strPath, QString& strOut)
         sheet.nSize = info.size();
         sheet.changed = info.lastModified();
         sheet.eDirection = eDirection;
+        sheet.nTextSize = nTextSize;
         sheet.strText = QString::fromUtf8(content);
+        ScaleFontSizes(sheet.strText, nTextSize);
         if (eDirection == Qt::RightToLeft)
         {
             sheet.strText = Mirrored(sheet.strText);

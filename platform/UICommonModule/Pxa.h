@@ -14,9 +14,10 @@ namespace Pxa
 /// A path inside the current skin; an empty file gives the path of the folder, ending in "/".
 UICOMMONMODULE_EXPORT QString GetSkinPath(const QString& strFolder, const QString& strFile);
 
-/// Reads a style sheet. A file that has not changed since (in size and time) is read once. Where the application is laid
-/// out from right to left, left and right are exchanged in what Qt does not mirror itself: margins, paddings, borders of
-/// one side, gradients.
+/// Reads a style sheet. A file that has not changed since (in size and time) is read once. Where the application is
+/// laid out from right to left, left and right are exchanged in what Qt does not mirror itself: margins, paddings,
+/// borders of one side, gradients. Its font sizes, which go with texts of 13 pixels, grow with larger ones of the
+/// application.
 /// \return false when the file cannot be read; \a strOut is then as it was
 UICOMMONMODULE_EXPORT bool loadStyleSheet(const QString& strPath, QString& strOut);
 
