@@ -18,7 +18,6 @@ namespace
 {
 
 constexpr int g_nFirstType = 10000; // clear of the ids that share a sound
-constexpr int g_nTypesPerCategory = 1000;
 constexpr char g_szCatalogue[] = "types.xml";
 
 void FillGeneral(Settings& settings)
@@ -99,13 +98,13 @@ Settings FilledSettings()
     return settings;
 }
 
-void MakeCatalogue(int nTypes)
+void MakeCatalogue(int nTypes, int nTypesPerCategory)
 {
     QByteArray content = "<AlarmTypes>";
     for (int n = 0; n < nTypes; ++n)
     {
-        const QByteArray category = QByteArray::number(100 + n / g_nTypesPerCategory);
-        if (n % g_nTypesPerCategory == 0)
+        const QByteArray category = QByteArray::number(100 + n / nTypesPerCategory);
+        if (n % nTypesPerCategory == 0)
         {
             content += n == 0 ? "" : "</Group></Category>";
             content += "<Category id='" + category + "' name='Category " + category + "'><Group id='" + category +

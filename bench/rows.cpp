@@ -12,13 +12,18 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDataStream>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QKeyEvent>
+#include <QListView>
 #include <QPixmapCache>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <QWheelEvent>
 
 #include <malloc.h>
 #include <sys/syscall.h>
@@ -254,6 +259,46 @@ double GrownSave(SBench& bench, int nSounds)
     return Save(bench, host, true);
 }
 
+/// The list of alarm types, all of one category, opened for the first time.
+double OpenList(SBench& bench, int nSounds)
+{
+    MakeCatalogue(nSounds, nSounds);
+    CHost host(GrownSettings(nSounds, 0));
+    const std::unique_ptr<QDialog> pDialog = MakeAndShow(&MakeProduct, host);
+    auto* pBox = pDialog->findChild<QComboBox*>("cbxAlarmTypeForSound");
+    return bench.counter.Count([&] {
+        pBox->showPopup();
+        QApplication::processEvents();
+    });
+}
+
+/// A page down and a step of the wheel in that list.
+double Scroll(SBench& bench, int nSounds)
+{
+    MakeCatalogue(nSounds, nSounds);
+    CHost host(GrownSettings(nSounds, 0));
+    const std::unique_ptr<QDialog> pDialog = MakeAndShow(&MakeProduct, host);
+    pDialog->findChild<QComboBox*>("cbxAlarmTypeForSound")->showPopup();
+    auto* pList = pDialog->findChild<QListView*>("subItems");
+    pList->setCurrentIndex(pList->model()->index(nSounds / 2, 0));
+    QApplication::processEvents();
+    const int nBefore = pList->verticalScrollBar()->value();
+    const double dCount = bench.counter.Count([pList] {
+        QKeyEvent pageDown(QEvent::KeyPress, Qt::Key_PageDown, Qt::NoModifier);
+        QApplication::sendEvent(pList, &pageDown);
+        QApplication::processEvents();
+        QWheelEvent wheel({1, 1}, pList->viewport()->mapToGlobal({1, 1}), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(pList->viewport(), &wheel);
+        QApplication::processEvents();
+    });
+    if (pList->verticalScrollBar()->value() == nBefore || pList->currentIndex().row() == nSounds / 2)
+    {
+        qFatal("the list has not been scrolled");
+    }
+    return dCount;
+}
+
 // --- Rows
 
 struct SRow
@@ -291,6 +336,10 @@ std::vector<SRow> MakeRows(SBench& bench)
         {"save-to-disk", nullptr, nullptr, [&bench] { return Save(bench, bench.Filled(), true); }, {}, true},
         {"save-flushes", "flushes", nullptr, [&bench] { return Flushes(bench); }, {}, true},
         {"first-show-10000-sounds", nullptr, "with 10", grownShow(g_nSounds), grownShow(10), false},
+        {"open-list-100000-sounds", nullptr, "with 1000", [&bench] { return OpenList(bench, 10 * g_nSounds); },
+         [&bench] { return OpenList(bench, g_nSounds / 10); }, false},
+        {"scroll-100000-sounds", nullptr, "with 1000", [&bench] { return Scroll(bench, 10 * g_nSounds); },
+         [&bench] { return Scroll(bench, g_nSounds / 10); }, false},
         {"save-10000-sounds", nullptr, "with 1000", grownSave(g_nSounds), grownSave(g_nSounds / 10), false},
     };
     if (SPeer::IsThere())
