@@ -16,7 +16,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSound>
-#include <QStandardItemModel>
+#include <QStringListModel>
 
 #include <algorithm>
 #include <optional>
@@ -72,35 +72,6 @@ int GetSoundKey(int nAlarmType)
     return GetGroupSoundKey(nAlarmType).value_or(g_linkedRules.Contains(nAlarmType) ? g_nLinkedRulesKey : nAlarmType);
 }
 
-/// An entry that nobody changes; the usual ones cost several times as much, and there may be thousands.
-class CTextItem : public QStandardItem
-{
-public:
-    explicit CTextItem(const QString& strText)
-        : m_strText(strText)
-    {}
-
-    QVariant data(int nRole) const override
-    {
-        return nRole == Qt::DisplayRole || nRole == Qt::EditRole ? m_strText : QStandardItem::data(nRole);
-    }
-
-private:
-    QString m_strText;
-};
-
-void SetTexts(QComboBox& combo, const QStringList& listTexts)
-{
-    combo.clear();
-    QList<QStandardItem*> listItems;
-    listItems.reserve(listTexts.size());
-    for (const QString& strText : listTexts)
-    {
-        listItems += new CTextItem(strText);
-    }
-    static_cast<QStandardItemModel*>(combo.model())->invisibleRootItem()->appendRows(listItems);
-}
-
 /// A path as the client takes it: relative to the working folder where it begins with "./".
 QString Resolve(const QString& strPath)
 {
@@ -129,6 +100,7 @@ void CAlarmConfig::InitControls()
     Describe(m_pUi->label, {m_pUi->radioPreview});
     AppendColon(tr(":"), {m_pUi->labAlarmTypeForSound, m_pUi->labSoundPath, m_pUi->labAlarmTypeForFlash, m_pUi->label});
     InitMenu();
+    m_pUi->cbxAlarmTypeForSound->setModel(new QStringListModel(this)); // there may be thousands
     const QString strFolder = QStringLiteral("LocalConfig/public");
     const QPixmap pixText(Pxa::GetSkinPath(strFolder, QStringLiteral("cmb_text.png")));
     const QPixmap pixState(Pxa::GetSkinPath(strFolder, QStringLiteral("cmb_dropdown.png")));
@@ -248,10 +220,10 @@ void CAlarmConfig::FillTypeLists(const AlarmConfigInfo& record)
     {
         listNames += CAlarmType::Instance()->CovertAlarmNameByType(sound.second.alarmType);
     }
-    if (listNames != m_listShownTypes)
+    auto* pTypes = static_cast<QStringListModel*>(m_pUi->cbxAlarmTypeForSound->model());
+    if (pTypes->stringList() != listNames)
     {
-        SetTexts(*m_pUi->cbxAlarmTypeForSound, listNames);
-        m_listShownTypes = listNames;
+        pTypes->setStringList(listNames);
     }
     m_pUi->cbxAlarmTypeForSound->ClearChosenItem();
     m_pUi->cbxAlarmTypeForSound->setCurrentIndex(0);

@@ -4,7 +4,6 @@
 #include <LocalConfig/pages/CSectionPage.h>
 
 #include <QMap>
-#include <QStringList>
 #include <QWidget>
 
 #include <memory>
@@ -75,7 +74,6 @@ private:
     std::unique_ptr<QSound> m_pSound; // the preview; null before the first one
     LocalConfigLogical::AlarmConfigInfo m_cachedRecord;
     bool m_bCachedRecordValid = false;
-    QStringList m_listShownTypes;
     QMap<int, bool> m_mapPending; // category id: flash the map for it; merged when saving
     int m_nSoundTypeIndex = -1;   // in the catalogue
     bool m_bNoRight45 = false;
