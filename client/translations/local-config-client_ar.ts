@@ -316,6 +316,14 @@
         <source>Alarm: %1</source>
         <translation>إنذار: %1</translation>
     </message>
+    <message>
+        <source>The connection to the platform is lost. The settings are locked until it is back.</source>
+        <translation>انقطع الاتصال بالمنصة. الإعدادات مقفلة حتى يعود الاتصال.</translation>
+    </message>
+    <message>
+        <source>The connection to the platform is back.</source>
+        <translation>عاد الاتصال بالمنصة.</translation>
+    </message>
 </context>
 <context>
     <name>LocalConfigClient::MapView</name>

@@ -312,6 +312,14 @@
         <source>Alarm: %1</source>
         <translation>Alarma: %1</translation>
     </message>
+    <message>
+        <source>The connection to the platform is lost. The settings are locked until it is back.</source>
+        <translation>Se ha perdido la conexión con la plataforma. La configuración está bloqueada hasta que se restablezca.</translation>
+    </message>
+    <message>
+        <source>The connection to the platform is back.</source>
+        <translation>Se ha restablecido la conexión con la plataforma.</translation>
+    </message>
 </context>
 <context>
     <name>LocalConfigClient::MapView</name>
