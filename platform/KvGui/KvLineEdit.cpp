@@ -18,9 +18,11 @@ namespace KVGUI
 namespace
 {
 
-constexpr int g_nTipDistance = 4; // pixels between a field and the tip above or below it
-constexpr int g_nTipGap = 8;      // pixels between what stands in a line with the tip and the tip
-constexpr int g_nSignMargin = 8;  // pixels between the sign and the field's edge
+constexpr int g_nTipDistance = 4;                 // pixels between a field and the tip above or below it
+constexpr int g_nTipGap = 8;                      // pixels between what stands in a line with the tip and the tip
+constexpr int g_nSignRoom = g_nErrorMarkSize + 8; // 8 between the sign and what stands at the field's edge
+constexpr char g_szSignColor[] = "signColor";
+constexpr char g_szSignTextColor[] = "signTextColor";
 constexpr char g_szTipName[] = "errorTip";
 
 /// What a widget shows within its place: a caption is often given more than its text needs.
@@ -103,9 +105,10 @@ KvLineEdit::~KvLineEdit()
 void KvLineEdit::showErrorHint(QWidget* pTipParent, bool bError, const QString& strText)
 {
     const bool bShow = pTipParent && bError;
-    SetError(bShow, strText);
+    SetError(bShow);
     if (bShow && !strText.isEmpty())
     {
+        setAccessibleDescription(strText);
         ShowTip(pTipParent, strText);
     }
     else
@@ -116,7 +119,7 @@ void KvLineEdit::showErrorHint(QWidget* pTipParent, bool bError, const QString& 
 
 void KvLineEdit::showErrorHintNoTip(bool bError)
 {
-    SetError(bError, QString());
+    SetError(bError);
     DropTip();
 }
 
@@ -130,44 +133,40 @@ QString KvLineEdit::GetErrorHintText() const
     return m_pTip ? m_pTip->text() : QString();
 }
 
-void KvLineEdit::SetError(bool bError, const QString& strText)
+void KvLineEdit::SetError(bool bError)
 {
-    if (bError != m_bError)
+    if (bError == m_bError)
     {
-        m_bError = bError;
-        if (bError)
-        {
-            m_strOwnDescription = accessibleDescription();
-            setAccessibleDescription(m_strOwnDescription.isEmpty() ? tr("Illegal value")
-                                                                   : tr("Illegal value, %1").arg(m_strOwnDescription));
-        }
-        else
-        {
-            setAccessibleDescription(m_strOwnDescription);
-        }
-        setProperty("error", bError);
-        style()->unpolish(this);
-        style()->polish(this);
-        ApplyMargins();
-        update();
+        return;
     }
-    if (bError && !strText.isEmpty())
+    m_bError = bError;
+    if (bError)
     {
-        setAccessibleDescription(strText);
+        m_strOwnDescription = accessibleDescription();
+        setAccessibleDescription(m_strOwnDescription.isEmpty() ? tr("Illegal value")
+                                                               : tr("Illegal value, %1").arg(m_strOwnDescription));
     }
+    else
+    {
+        setAccessibleDescription(m_strOwnDescription);
+    }
+    setProperty("error", bError);
+    style()->unpolish(this);
+    style()->polish(this);
+    AddTrailingMargin(bError ? g_nSignRoom : -g_nSignRoom);
+    update();
 }
 
-void KvLineEdit::SetTrailingMargin(int nPixels)
+void KvLineEdit::AddTrailingMargin(int nPixels)
 {
-    m_nTrailingMargin = nPixels;
-    ApplyMargins();
-}
-
-void KvLineEdit::ApplyMargins()
-{
-    const int nTrailing = m_nTrailingMargin + (m_bError ? g_nErrorMarkSize + g_nSignMargin : 0);
     const bool bMirrored = layoutDirection() == Qt::RightToLeft;
+    const int nTrailing = GetTrailingMargin() + nPixels;
     setTextMargins(bMirrored ? nTrailing : 0, 0, bMirrored ? 0 : nTrailing, 0);
+}
+
+int KvLineEdit::GetTrailingMargin() const
+{
+    return layoutDirection() == Qt::RightToLeft ? textMargins().left() : textMargins().right();
 }
 
 void KvLineEdit::paintEvent(QPaintEvent* pEvent)
@@ -177,12 +176,10 @@ void KvLineEdit::paintEvent(QPaintEvent* pEvent)
     {
         return;
     }
-    const QRect sign(width() - g_nSignMargin - m_nTrailingMargin - g_nErrorMarkSize, (height() - g_nErrorMarkSize) / 2,
-                     g_nErrorMarkSize, g_nErrorMarkSize);
+    const QRect sign(width() - GetTrailingMargin(), (height() - g_nErrorMarkSize) / 2, g_nErrorMarkSize,
+                     g_nErrorMarkSize);
     QPainter painter(this);
-    PaintErrorMark(painter, QStyle::visualRect(layoutDirection(), rect(), sign),
-                   m_errorColor.isValid() ? m_errorColor : palette().color(QPalette::Text),
-                   m_errorTextColor.isValid() ? m_errorTextColor : palette().color(QPalette::Base));
+    PaintErrorMark(painter, QStyle::visualRect(layoutDirection(), rect(), sign), GetErrorColor(), GetErrorTextColor());
 }
 
 void KvLineEdit::changeEvent(QEvent* pEvent)
@@ -190,8 +187,33 @@ void KvLineEdit::changeEvent(QEvent* pEvent)
     QLineEdit::changeEvent(pEvent);
     if (pEvent->type() == QEvent::LayoutDirectionChange)
     {
-        ApplyMargins();
+        const QMargins margins = textMargins();
+        setTextMargins(margins.right(), margins.top(), margins.left(), margins.bottom());
     }
+}
+
+// Few fields are ever marked, so that the others have no room for colours.
+
+QColor KvLineEdit::GetErrorColor() const
+{
+    const auto color = property(g_szSignColor).value<QColor>();
+    return color.isValid() ? color : palette().color(QPalette::Text);
+}
+
+void KvLineEdit::SetErrorColor(const QColor& color)
+{
+    setProperty(g_szSignColor, color);
+}
+
+QColor KvLineEdit::GetErrorTextColor() const
+{
+    const auto color = property(g_szSignTextColor).value<QColor>();
+    return color.isValid() ? color : palette().color(QPalette::Base);
+}
+
+void KvLineEdit::SetErrorTextColor(const QColor& color)
+{
+    setProperty(g_szSignTextColor, color);
 }
 
 void KvLineEdit::ShowTip(QWidget* pTipParent, const QString& strText)

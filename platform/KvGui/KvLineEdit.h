@@ -18,8 +18,8 @@ namespace KVGUI
 class KVGUI_EXPORT KvLineEdit : public QLineEdit
 {
     Q_OBJECT
-    Q_PROPERTY(QColor errorColor MEMBER m_errorColor)
-    Q_PROPERTY(QColor errorTextColor MEMBER m_errorTextColor)
+    Q_PROPERTY(QColor errorColor READ GetErrorColor WRITE SetErrorColor)
+    Q_PROPERTY(QColor errorTextColor READ GetErrorTextColor WRITE SetErrorTextColor)
 
 public:
     explicit KvLineEdit(QWidget* pParent = nullptr); ///< empty, without a mark
@@ -40,8 +40,8 @@ public:
     QString GetErrorHintText() const;
 
 protected:
-    /// Keeps the text clear of so many pixels at the trailing edge; the sign of the mark, too.
-    void SetTrailingMargin(int nPixels);
+    /// Keeps the text, and the sign of the mark, clear of so many more pixels at the trailing edge.
+    void AddTrailingMargin(int nPixels);
 
     void paintEvent(QPaintEvent* pEvent) override;
     void changeEvent(QEvent* pEvent) override;
@@ -50,8 +50,12 @@ protected:
     bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
 
 private:
-    void SetError(bool bError, const QString& strText);
-    void ApplyMargins();
+    void SetError(bool bError);
+    int GetTrailingMargin() const;
+    QColor GetErrorColor() const;
+    void SetErrorColor(const QColor& color);
+    QColor GetErrorTextColor() const;
+    void SetErrorTextColor(const QColor& color);
     void ShowTip(QWidget* pTipParent, const QString& strText);
     void DropTip();
     void OnTipGone();
@@ -61,9 +65,6 @@ private:
     QList<QPointer<QWidget>> m_listWatched; // while there is a tip
     QString m_strOwnDescription;            // what the mark's stands in for
     bool m_bError = false;
-    int m_nTrailingMargin = 0;
-    QColor m_errorColor;
-    QColor m_errorTextColor;
 };
 
 } // namespace KVGUI

@@ -34,7 +34,7 @@ CPathEdit::CPathEdit(QWidget* pParent)
     m_pBrowseButton->setToolTip(tr("Browse"));
     m_pBrowseButton->setCursor(Qt::ArrowCursor);
     m_pBrowseButton->setFocusPolicy(Qt::TabFocus);
-    SetTrailingMargin(g_nButtonSize + g_nButtonMargin);
+    KeepTextClearOfButton();
     connect(m_pBrowseButton, &QToolButton::clicked, this, &CPathEdit::OnBrowse);
     connect(this, &CPathEdit::textChanged, this, &CPathEdit::CheckLength);
 }
@@ -149,6 +149,11 @@ void CPathEdit::showEvent(QShowEvent* pEvent)
     setTabOrder(this, m_pBrowseButton);
     m_pBrowseButton->setAccessibleName(accessibleName().isEmpty() ? tr("Browse")
                                                                   : tr("Browse: %1").arg(accessibleName()));
+}
+
+void CPathEdit::KeepTextClearOfButton()
+{
+    AddTrailingMargin(g_nButtonSize + g_nButtonMargin);
 }
 
 void CPathEdit::PlaceButton()

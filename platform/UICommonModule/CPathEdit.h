@@ -52,6 +52,7 @@ private:
     void CheckLength();
     void AddCompleter();
     void PlaceButton();
+    void KeepTextClearOfButton();
 
     QToolButton* m_pBrowseButton;
     BrowseMode m_eBrowseMode = BrowseFolder;

@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QTranslator>
 
+#include <cmath>
+
 using namespace LocalConfig;
 
 namespace
