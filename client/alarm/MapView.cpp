@@ -43,7 +43,9 @@ void MapView::SetCategories(const QMap<int, QString>& mapCategories)
 
 QRect MapView::GetRoom(int nPlace) const
 {
-    return {g_nMargin, g_nMargin + nPlace * g_nRoomHeight, width() - 2 * g_nMargin, g_nRoomHeight};
+    const int nShare = (height() - 2 * g_nMargin) / qMax(1, m_mapCategories.size());
+    const int nHeight = qBound(qMin(fontMetrics().height(), g_nRoomHeight), nShare, g_nRoomHeight);
+    return {g_nMargin, g_nMargin + nPlace * nHeight, width() - 2 * g_nMargin, nHeight};
 }
 
 /// Stays at the ends.

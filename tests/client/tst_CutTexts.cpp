@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QStyleOption>
 #include <QToolTip>
@@ -188,9 +189,11 @@ void tst_CutTexts::OfTheMainWindow()
     LocalConfigClient::ConfigService service(folder.path(), LocalConfigClient::SettingsFile::ReadWrite);
     LocalConfigClient::UserManager users({}, nullptr);
     LocalConfigClient::MainWindow window(service, users);
+    QSignalSpy seen(&window, &LocalConfigClient::MainWindow::SignalSeen);
     window.show();
-    window.resize(1440, 900);
     QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTRY_COMPARE(seen.size(), 1);
+    window.resize(1440, 900); // what the screen of the tests has no room for
     Check(window);
 }
 

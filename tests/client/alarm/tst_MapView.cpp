@@ -18,6 +18,7 @@ private slots:
     void KeysMoveFromMarkerToMarker();
     void SpacePicksTheMarker();
     void AClickPicksTheMarker();
+    void ALowMapHasAllRooms();
     void TheFocusIsSeenAtItsMarker();
     void MarkersStandBeforeTheirTexts_data();
     void MarkersStandBeforeTheirTexts();
@@ -80,6 +81,17 @@ void tst_MapView::AClickPicksTheMarker()
     QCOMPARE(m_pMap->accessibleDescription(), QString("Storage"));
     QTest::mouseClick(m_pMap.data(), Qt::LeftButton, {}, QPoint(m_pMap->width() / 2, 1)); // above them all
     QCOMPARE(picked.size(), 1);
+}
+
+void tst_MapView::ALowMapHasAllRooms()
+{
+    QSignalSpy spy(m_pMap.data(), &MapView::SignalCategoryPicked);
+    QTest::keyClick(m_pMap.data(), Qt::Key_End);
+    QTest::keyClick(m_pMap.data(), Qt::Key_Space);
+    m_pMap->resize(m_pMap->width(), m_pMap->height() * 3 / 4);
+    QTest::mouseClick(m_pMap.data(), Qt::LeftButton, {}, QPoint(m_pMap->width() / 2, m_pMap->height() - 15));
+    QCOMPARE(spy.size(), 2);
+    QCOMPARE(spy[1], spy[0]);
 }
 
 void tst_MapView::TheFocusIsSeenAtItsMarker()
