@@ -1,7 +1,7 @@
 # Installs the build into a fresh prefix, then configures, builds and runs a host that knows nothing but that prefix.
 # On Windows the prefix is what comes out of the archive, in a folder whose name is not the simplest.
 # Variables: BUILD_DIR, SOURCE_DIR (of the host), WORK_DIR, GENERATOR, CXX, CXX_FLAGS; TOOLCHAIN (options), EMULATOR and
-# WIN32 when it is cross-built
+# WIN32 when it is cross-built; LANGUAGES (beside English) of the archive
 
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
@@ -27,10 +27,13 @@ if(WIN32)
     file(ARCHIVE_EXTRACT INPUT "${archive}" DESTINATION "${WORK_DIR}/unpacked")
     file(GLOB unpacked "${WORK_DIR}/unpacked/*")
     file(RENAME "${unpacked}" "${prefix}")
-    file(GLOB qtTexts "${prefix}/share/local-config-client/translations/qtbase_*.qm")
-    if(NOT qtTexts)
-        message(FATAL_ERROR "the archive has no translation of Qt's own texts")
-    endif()
+    foreach(language ${LANGUAGES})
+        foreach(stem KvGui UICommonModule LocalConfig local-config-client qtbase)
+            if(NOT EXISTS "${prefix}/share/local-config-client/translations/${stem}_${language}.qm")
+                message(FATAL_ERROR "the archive has no ${stem}_${language}.qm")
+            endif()
+        endforeach()
+    endforeach()
     set(hostDir "${prefix}/bin") # where a program finds its libraries
 else()
     run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${prefix}")
