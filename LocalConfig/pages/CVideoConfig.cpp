@@ -322,7 +322,8 @@ void CVideoConfig::OnShowSplitWndCfg()
     m_pSplitPicker->raise();
     if (m_pSplitPicker->isVisible())
     {
-        m_pSplitPicker->setFocus(Qt::PopupFocusReason);
+        // With the reason of a popup, the button that loses the focus would stay the one that Enter presses.
+        m_pSplitPicker->setFocus(Qt::OtherFocusReason);
         ScrollTo(m_pSplitPicker);
     }
 }
@@ -334,7 +335,7 @@ void CVideoConfig::OnSplitWndChange(int splitWndNum)
     m_pSplitPicker->hide();
     if (bByKey)
     {
-        m_pUi->btnShowSplitWnd->setFocus(Qt::PopupFocusReason); // nothing would show that the page has it
+        m_pUi->btnShowSplitWnd->setFocus(Qt::OtherFocusReason); // nothing would show that the page has it
     }
     const QString strSheet =
         QStringLiteral("QPushButton#btnShowSplitWnd{image: url(:/LocalConfig/tip_%1-n.svg);border:none;} "
@@ -355,7 +356,7 @@ void CVideoConfig::ClosePicker()
 {
     if (m_pSplitPicker->isAncestorOf(QApplication::focusWidget()))
     {
-        m_pUi->btnShowSplitWnd->setFocus(Qt::PopupFocusReason);
+        m_pUi->btnShowSplitWnd->setFocus(Qt::OtherFocusReason);
     }
     m_pSplitPicker->hide();
 }

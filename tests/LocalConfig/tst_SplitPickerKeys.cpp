@@ -5,6 +5,7 @@
 #include <LocalConfig/pages/CSplitWndNumConfig.h>
 
 #include <QPushButton>
+#include <QSignalSpy>
 
 using namespace LocalConfig;
 
@@ -66,6 +67,8 @@ private slots:
     void AFocusThatGoesElsewhereCloses_data();
     void AFocusThatGoesElsewhereCloses();
     void AMouseThatLeavesGivesTheFocusBack();
+    void EnterSavesAgainAfterThePicker_data();
+    void EnterSavesAgainAfterThePicker();
 
 private:
     SRealHost m_host;
@@ -246,6 +249,44 @@ void tst_SplitPickerKeys::AMouseThatLeavesGivesTheFocusBack()
     QApplication::sendEvent(d.pPicker, &leave);
     QVERIFY(!d.pPicker->isVisible());
     QCOMPARE(d.dialog.focusWidget(), d.pOpener);
+}
+
+void tst_SplitPickerKeys::EnterSavesAgainAfterThePicker_data()
+{
+    QTest::addColumn<QList<int>>("listKeys");
+    QTest::addColumn<bool>("bClick");
+    QTest::newRow("picked by mouse") << QList<int>{} << true;
+    QTest::newRow("left by Tab") << QList<int>{Qt::Key_Tab} << false;
+    QTest::newRow("closed, then left") << QList<int>{Qt::Key_Escape, Qt::Key_Tab} << false;
+    QTest::newRow("closed after arrows, then left") << QList<int>{Qt::Key_Right, Qt::Key_Escape, Qt::Key_Tab} << false;
+    QTest::newRow("picked after arrows, then left") << QList<int>{Qt::Key_Right, Qt::Key_Space, Qt::Key_Tab} << false;
+    QTest::newRow("left for another control") << QList<int>{} << false;
+    QTest::newRow("left after arrows") << QList<int>{Qt::Key_Right} << false;
+}
+
+void tst_SplitPickerKeys::EnterSavesAgainAfterThePicker()
+{
+    QFETCH(QList<int>, listKeys);
+    QFETCH(bool, bClick);
+    SPicker d(m_host);
+    d.OpenPicker();
+    for (int nKey : qAsConst(listKeys))
+    {
+        d.Press(nKey);
+    }
+    if (bClick)
+    {
+        QTest::mouseClick(d.Split(9), Qt::LeftButton);
+    }
+    else
+    {
+        d.dialog.findChild<QWidget*>("checkEncryption")->setFocus();
+    }
+    QVERIFY(!d.pPicker->isVisible());
+    QSignalSpy saved(&d.dialog, &CLocalConfig::SignalOkButtonClicked);
+    d.Press(Qt::Key_Return);
+    QCOMPARE(saved.count(), 1);
+    QVERIFY(!d.pPicker->isVisible());
 }
 
 QTEST_MAIN(tst_SplitPickerKeys)
