@@ -185,6 +185,10 @@ void CFindField::Close()
     m_pFound.clear();
     if (bHadFocus && pStop)
     {
+        if (!pStop->isEnabled()) // locked meanwhile
+        {
+            pStop = m_pDialog->findChild<KVGUI::KvToolListView*>();
+        }
         pStop->setFocus(Qt::ShortcutFocusReason);
     }
     hide();
@@ -217,7 +221,7 @@ bool CFindField::eventFilter(QObject* pWatched, QEvent* pEvent)
         const auto* pKey = static_cast<QKeyEvent*>(pEvent);
         return OnKey(pKey->key(), pKey->modifiers());
     }
-    const bool bLeft = bEdit && pEvent->type() == QEvent::FocusOut;
+    const bool bLeft = bEdit && !m_bPaused && pEvent->type() == QEvent::FocusOut;
     if (bUsed && (bLeft || (!bEdit && pEvent->type() == QEvent::Hide)))
     {
         Close();

@@ -24,6 +24,9 @@ public:
     /// Shows the field, empty, with the focus; when it is shown already, its text is selected.
     void Open();
 
+    /// While it is paused, the field stays open without the focus.
+    void SetPaused(bool bPaused) { m_bPaused = bPaused; }
+
 signals:
     /// The ring stands in this section now.
     void SignalSectionFound(int nIndex);
@@ -59,6 +62,7 @@ private:
     QPointer<QWidget> m_pRing;   // on what scrolls
     QPointer<QWidget> m_pFound;  // what it stands around
     QPointer<QWidget> m_pHolder; // of the focus, before the field had it
+    bool m_bPaused = false;
 };
 
 } // namespace LocalConfig

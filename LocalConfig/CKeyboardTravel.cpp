@@ -170,6 +170,10 @@ QWidget* CKeyboardTravel::FindFirstStop(Area eArea) const
 void CKeyboardTravel::SetPaused(bool bPaused)
 {
     m_bPaused = bPaused;
+    if (m_pFindField)
+    {
+        m_pFindField->SetPaused(bPaused);
+    }
 }
 
 void CKeyboardTravel::OnFocusChanged(QWidget* /*pOld*/, QWidget* pNow)

@@ -90,6 +90,7 @@ private slots:
     void AHiddenControlIsNotFound();
     void TheLockedDialogIsSearched();
     void AHolderThatIsLockedMeanwhileGivesWayToTheList();
+    void StaysOpenWhileTheConnectionGoesAndComes();
     void AClickElsewhereClosesIt();
     void ASecondAskingSelectsTheText();
     void ClosingTheDialogClosesIt();
@@ -365,6 +366,24 @@ void tst_FindField::AHolderThatIsLockedMeanwhileGivesWayToTheList()
     d.Press(Qt::Key_Escape);
     QCOMPARE(d.dialog.focusWidget(), d.List());
     m_host.loginManager.Notify(2, 0);
+}
+
+/// Or the Escape that is meant for it would close the dialog, and with it what the user has entered.
+void tst_FindField::StaysOpenWhileTheConnectionGoesAndComes()
+{
+    SFindDialog d(m_host);
+    d.Open();
+    d.Type("client size");
+    for (const int nState : {3, 2})
+    {
+        m_host.loginManager.Notify(nState, 0);
+        QVERIFY(d.IsOpen());
+        QCOMPARE(d.dialog.focusWidget(), d.Field());
+        QVERIFY(d.IsRinged(d.dialog.findChild<QWidget*>("screenRatioCmbBox")));
+    }
+    QTest::keyClick(d.dialog.focusWidget(), Qt::Key_Escape);
+    QVERIFY(!d.IsOpen());
+    QVERIFY(d.dialog.isVisible());
 }
 
 void tst_FindField::AClickElsewhereClosesIt()
