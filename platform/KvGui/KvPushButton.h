@@ -15,6 +15,9 @@ class KVGUI_EXPORT KvPushButton : public QPushButton
 public:
     explicit KvPushButton(QWidget* pParent = nullptr);                         ///< without a text
     explicit KvPushButton(const QString& strText, QWidget* pParent = nullptr); ///< with a text
+
+    /// Has room for the text in bold, which the skins write on the button that Enter presses.
+    QSize sizeHint() const override;
 };
 
 } // namespace KVGUI

@@ -18,6 +18,7 @@
 #include <UICommonModule/Pxa.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QDirIterator>
 #include <QImageReader>
 #include <QLabel>
@@ -88,6 +89,8 @@ private slots:
     void TheSelectedCardHasABar_data() { SkinRows(); }
     void TheSelectedCardHasABar();
     void CardsLeaveRoomForTheirPages();
+    void AButtonHoldsItsTextWithTheFocus_data() { SkinRows(); }
+    void AButtonHoldsItsTextWithTheFocus();
 };
 
 void tst_Skin::Contrasts_data()
@@ -547,6 +550,40 @@ void tst_Skin::CardsLeaveRoomForTheirPages()
     QVERIFY(QTest::qWaitForWindowExposed(&box));
     QVERIFY2(pPage->height() >= 440, qPrintable(QString::number(pPage->height())));
     QVERIFY(pPage->width() >= 658);
+}
+
+/// Enter presses the one that has the focus, and the skins write its text in bold.
+void tst_Skin::AButtonHoldsItsTextWithTheFocus()
+{
+    QFETCH(QString, strSkin);
+    UseSkin(strSkin);
+    QDialog dialog;
+    auto* pButton = new KVGUI::KvPushButton("Predeterminados", &dialog);
+    dialog.show();
+    QApplication::setActiveWindow(&dialog);
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    pButton->setFocus();
+    QVERIFY(pButton->isDefault());
+    const auto textWidth = [pButton](int nRoom) {
+        pButton->resize(pButton->sizeHint() + QSize(nRoom, 0));
+        const QImage image = pButton->grab().toImage();
+        const QRect inside = image.rect().adjusted(6, 6, -6, -6);
+        const QColor ground = image.pixelColor(inside.topLeft());
+        QSet<int> setColumns;
+        for (int nX = inside.left(); nX <= inside.right(); ++nX)
+        {
+            for (int nY = inside.top(); nY <= inside.bottom(); ++nY)
+            {
+                if (Contrast(image.pixelColor(nX, nY), ground) > 1.5)
+                {
+                    setColumns += nX;
+                }
+            }
+        }
+        return setColumns.size();
+    };
+    QVERIFY(textWidth(100) > 50);
+    QCOMPARE(textWidth(0), textWidth(100));
 }
 
 QTEST_MAIN(tst_Skin)
