@@ -46,4 +46,4 @@ quietly() {
 LETTERS="fonts-inter fonts-dejavu-core fonts-wqy-microhei qttranslations5-l10n"
 BUILD_PACKAGES="g++ cmake ninja-build ccache qtbase5-dev qttools5-dev qttools5-dev-tools libqt5svg5 qtmultimedia5-dev libqt5multimedia5-plugins libpugixml-dev $LETTERS"
 PACKAGE_TOOLS="dpkg-dev file gzip"
-TEST_PACKAGES="$PACKAGE_TOOLS lintian pkg-config fakeroot util-linux binutils pulseaudio pulseaudio-utils python3-jsonschema abigail-tools doxygen xvfb openbox xdotool dbus-daemon at-spi2-core python3-gi gir1.2-atspi-2.0"
+TEST_PACKAGES="$PACKAGE_TOOLS lintian pkg-config fakeroot util-linux binutils pulseaudio pulseaudio-utils python3-jsonschema abigail-tools doxygen xvfb openbox xdotool dbus-daemon at-spi2-core python3-gi gir1.2-atspi-2.0 imagemagick"
