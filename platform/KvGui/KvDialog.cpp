@@ -28,6 +28,18 @@ void SettleMargins(QWidget* pTitleBar)
                                             bMirrored ? g_nTitleMargin : g_nCloseMargin, 0);
 }
 
+/// In the middle of its parent's window or, without one, of the screen.
+QPoint GetFirstPlace(const QWidget& dialog)
+{
+    const QWidget* pWindow = dialog.parentWidget() ? dialog.parentWidget()->window() : nullptr;
+    const bool bOver = pWindow && pWindow->isVisible();
+    const QRect available = (bOver ? pWindow : &dialog)->screen()->availableGeometry();
+    QRect place(QPoint(), dialog.size());
+    place.moveCenter(bOver ? pWindow->geometry().center() : available.center());
+    return {qMax(available.left(), qMin(place.left(), available.right() + 1 - place.width())),
+            qMax(available.top(), qMin(place.top(), available.bottom() + 1 - place.height()))};
+}
+
 } // namespace
 
 KvDialog::KvDialog(QWidget* pParent)
@@ -98,6 +110,13 @@ void KvDialog::setVisible(bool bVisible)
         ensurePolished();
         resize(sizeHint());
     }
+    if (bVisible && !m_bPlaced && !testAttribute(Qt::WA_Moved))
+    {
+        // Before there is a window: one that is moved while its manager dresses it may not learn where it stands, and
+        // its lists would open elsewhere.
+        move(GetFirstPlace(*this));
+    }
+    m_bPlaced |= bVisible;
     QDialog::setVisible(bVisible);
 }
 
@@ -195,18 +214,6 @@ void KvDialog::showEvent(QShowEvent* pEvent)
 {
     QDialog::showEvent(pEvent);
     ElideTitle();
-    if (m_bPlaced || testAttribute(Qt::WA_Moved))
-    {
-        return;
-    }
-    m_bPlaced = true;
-    const QWidget* pWindow = parentWidget() ? parentWidget()->window() : nullptr;
-    const QRect available = (pWindow && pWindow->isVisible() ? pWindow->screen() : screen())->availableGeometry();
-    QRect place(QPoint(), size());
-    place.moveCenter(pWindow && pWindow->isVisible() ? pWindow->geometry().center() : available.center());
-    place.moveTo(qMax(available.left(), qMin(place.left(), available.right() + 1 - place.width())),
-                 qMax(available.top(), qMin(place.top(), available.bottom() + 1 - place.height())));
-    move(place.topLeft());
 }
 
 } // namespace KVGUI

@@ -87,6 +87,7 @@ private slots:
     void CloseButtonIsReachedByKeyboard();
     void CloseButtonHasAName();
     void StandsInTheMiddleOfItsParent();
+    void HasItsPlaceBeforeItHasAWindow();
     void TakesTheSizeItsContentNeeds();
 };
 
@@ -225,6 +226,36 @@ void tst_KvDialog::StandsInTheMiddleOfItsParent()
     dialog.show();
     const QPoint distance = dialog.geometry().center() - parent.geometry().center();
     QVERIFY(qAbs(distance.x()) <= 1 && qAbs(distance.y()) <= 1);
+}
+
+void tst_KvDialog::HasItsPlaceBeforeItHasAWindow()
+{
+    QWidget parent;
+    parent.setGeometry(100, 100, 500, 400);
+    parent.show();
+    KvDialog dialog(&parent);
+    class CPlaces : public QObject
+    {
+    public:
+        QList<QPoint> m_listPlaces;
+
+    protected:
+        bool eventFilter(QObject* pWatched, QEvent* pEvent) override
+        {
+            const auto* pDialog = static_cast<QWidget*>(pWatched);
+            if (pEvent->type() == QEvent::WinIdChange || (pEvent->type() == QEvent::Move && pDialog->windowHandle()))
+            {
+                m_listPlaces += pDialog->pos();
+            }
+            return false;
+        }
+    } places;
+    dialog.installEventFilter(&places);
+    dialog.resize(200, 100);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(!places.m_listPlaces.isEmpty());
+    QCOMPARE(places.m_listPlaces.count(dialog.pos()), places.m_listPlaces.size());
 }
 
 void tst_KvDialog::TakesTheSizeItsContentNeeds()
