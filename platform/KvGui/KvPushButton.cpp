@@ -15,8 +15,7 @@ QSize KvPushButton::sizeHint() const
 {
     QFont bold = font();
     bold.setBold(true);
-    const int nMore = QFontMetrics(bold).size(Qt::TextShowMnemonic, text()).width() -
-                      fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+    const int nMore = QFontMetrics(bold).horizontalAdvance(text()) - fontMetrics().horizontalAdvance(text());
     return QPushButton::sizeHint() + QSize(qMax(nMore, 0), 0);
 }
 
